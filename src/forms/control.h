@@ -1,0 +1,111 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/geometry.h"
+#include "forms/peer.h"
+
+namespace morpho {
+
+class Control;
+class ControlVisitor;
+class Form;
+
+// What holds controls: a form or a frame.
+class Container {
+  public:
+    virtual ~Container() = default;
+    Container(const Container&) = delete;
+    Container& operator=(const Container&) = delete;
+
+    // The direct children in order of declaration, which is the tab order.
+    const std::vector<Control*>& Controls() const { return controls_; }
+    virtual Form& OwnerForm() = 0;
+    // Whether a person can work with what is inside.
+    virtual bool IsOperable() const = 0;
+
+  protected:
+    Container() = default;
+
+  private:
+    friend class Control;
+    std::vector<Control*> controls_;
+};
+
+// How a control is declared. Texts are UTF-8; `place` is in twips within the container.
+struct ControlSpec {
+    std::string_view name;
+    Rectangle place;
+    std::string_view caption = {};
+    std::string_view toolTip = {};
+    // The letter that, with Alt, reaches the control; it must occur in the caption (or in the
+    // caption of the label before a control without one). 0: none, or marked by "&" in the caption.
+    char accessKey = 0;
+    // What a screen reader says; empty: the caption, else the caption of the label before it, else
+    // the tool tip.
+    std::string_view accessibleName = {};
+};
+
+// Base of all controls. A control belongs to its form, which declares it as a member.
+class Control {
+  public:
+    Control(Container& parent, const ControlSpec& spec);
+    virtual ~Control() = default;
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    const std::string& Name() const { return name_; }
+    Container& Parent() const { return parent_; }
+    Form& OwnerForm() const { return parent_.OwnerForm(); }
+
+    const Rectangle& Place() const { return place_; }
+    void SetPlace(const Rectangle& place);
+    void SetTop(int twips);
+    void SetWidth(int twips);
+    void SetHeight(int twips);
+
+    const std::string& Caption() const { return caption_; }
+    void SetCaption(std::string_view caption);
+    const std::string& ToolTip() const { return toolTip_; }
+    void SetToolTip(std::string_view toolTip);
+    char AccessKey() const { return accessKey_; }
+    std::string AccessibleName() const;
+
+    bool Enabled() const { return enabled_; }
+    void SetEnabled(bool enabled);
+    bool Visible() const { return visible_; }
+    void SetVisible(bool visible);
+    // Enabled and visible, and so is everything around it.
+    bool IsOperable() const;
+
+    // Paints the control now.
+    void Refresh() { Changed(aspect::kRepaint); }
+    void SetFocus();
+
+    // Connects the mirror, which is given the whole state at once; null disconnects. The caller
+    // owns it.
+    void Attach(Peer* peer);
+    virtual void Accept(ControlVisitor& visitor) = 0;
+
+  protected:
+    void Changed(Aspects changed);
+    // Runs an event handler under the form's error trap; the log knows it as `<control>_<event>`.
+    void Raise(std::string_view event, const std::function<void()>& handler);
+
+  private:
+    Container& parent_;
+    std::string name_;
+    Rectangle place_;
+    std::string caption_;
+    std::string toolTip_;
+    char accessKey_;
+    std::string accessibleName_;
+    bool enabled_ = true;
+    bool visible_ = true;
+    Peer* peer_ = nullptr;
+};
+
+}  // namespace morpho

@@ -1,0 +1,146 @@
+#include "forms/controls.h"
+
+#include <algorithm>
+
+#include "forms/control_visitor.h"
+
+namespace morpho {
+
+void Frame::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+void Label::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+void CommandButton::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+void CheckBox::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+void Slider::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+void ScrollBar::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+void PictureBox::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+void WebBrowser::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+void Timer::Accept(ControlVisitor& visitor) {
+    visitor.Visit(*this);
+}
+
+bool Label::UserClick() {
+    if (!IsOperable() || !click_) return false;
+    Raise("Click", click_);
+    return true;
+}
+
+bool CommandButton::UserClick() {
+    if (!IsOperable()) return false;
+    Raise("Click", click_);
+    return true;
+}
+
+void CheckBox::SetValue(bool value) {
+    if (value == value_) return;
+    SetValueQuietly(value);
+    Raise("Click", click_);
+}
+
+void CheckBox::SetValueQuietly(bool value) {
+    if (value == value_) return;
+    value_ = value;
+    Changed(aspect::kValue);
+}
+
+bool CheckBox::UserSet(bool value) {
+    if (!IsOperable()) return false;
+    SetValue(value);
+    return true;
+}
+
+int Slider::Clamped(int value) const {
+    return std::clamp(value, range_.minimum, range_.maximum);
+}
+
+void Slider::SetValue(int value) {
+    if (Clamped(value) != value_) {
+        value_ = Clamped(value);
+        Changed(aspect::kValue);
+    }
+    Settle();
+}
+
+void Slider::SetValueQuietly(int value) {
+    settled_ = Clamped(value);
+    if (settled_ == value_) return;
+    value_ = settled_;
+    Changed(aspect::kValue);
+}
+
+bool Slider::UserScroll(int value) {
+    if (!IsOperable()) return false;
+    if (Clamped(value) == value_) return true;
+    value_ = Clamped(value);
+    Changed(aspect::kValue);
+    Raise("Scroll", scroll_);
+    return true;
+}
+
+bool Slider::UserSettle(int value) {
+    if (!IsOperable()) return false;
+    SetValue(value);
+    return true;
+}
+
+void Slider::Settle() {
+    if (settled_ == value_) return;
+    settled_ = value_;
+    Raise("Change", change_);
+}
+
+void ScrollBar::SetValue(int value) {
+    const int inside = std::clamp(value, minimum_, maximum_);
+    if (inside == value_) return;
+    value_ = inside;
+    Changed(aspect::kValue);
+    Raise("Change", change_);
+}
+
+bool ScrollBar::UserSet(int value) {
+    if (!IsOperable()) return false;
+    SetValue(value);
+    return true;
+}
+
+void PictureBox::SetPicture(std::string encoded) {
+    picture_ = std::move(encoded);
+    Changed(aspect::kPicture);
+}
+
+void WebBrowser::Navigate(std::string_view path, int flags) {
+    address_ = path;
+    flags_ = flags;
+    Changed(aspect::kNavigate);
+}
+
+void WebBrowser::RefreshPage() {
+    Changed(aspect::kReload);
+}
+
+void WebBrowser::Refresh2(int level) {
+    Changed(level == kRefreshCompletely ? aspect::kReloadCompletely : aspect::kReload);
+}
+
+bool Timer::Tick() {
+    if (!IsOperable()) return false;
+    Raise("Timer", tick_);
+    return true;
+}
+
+}  // namespace morpho

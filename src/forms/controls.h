@@ -1,0 +1,212 @@
+#pragma once
+
+#include <functional>
+#include <span>
+
+#include "forms/control.h"
+
+namespace morpho {
+
+using Handler = std::function<void()>;
+
+// A group box with controls inside.
+class Frame : public Control, public Container {
+  public:
+    using Control::Control;
+    Form& OwnerForm() override { return Control::OwnerForm(); }
+    bool IsOperable() const override { return Control::IsOperable(); }
+    void Accept(ControlVisitor& visitor) override;
+};
+
+enum class Alignment { kLeft, kRight, kCenter };
+
+// Text. With "&" or an access key it leads to the next control in tab order. With a handler it is a
+// link.
+class Label : public Control {
+  public:
+    Label(Container& parent, const ControlSpec& spec, Alignment alignment = Alignment::kLeft,
+          Handler click = {})
+        : Control(parent, spec), alignment_(alignment), click_(std::move(click)) {}
+
+    Alignment TextAlignment() const { return alignment_; }
+    bool IsLink() const { return click_ != nullptr; }
+    bool UserClick();
+    void Accept(ControlVisitor& visitor) override;
+
+  private:
+    Alignment alignment_;
+    Handler click_;
+};
+
+enum class ButtonRole {
+    kNone,
+    kDefault,
+    kCancel,
+    kDefaultAndCancel
+};  // pressed by Enter, by Escape, by both
+
+class CommandButton : public Control {
+  public:
+    // `shortcut` is a key that presses the button from anywhere in the form, such as "Ctrl+Z" or
+    // "F1".
+    CommandButton(Container& parent, const ControlSpec& spec, Handler click,
+                  ButtonRole role = ButtonRole::kNone, std::string_view shortcut = {})
+        : Control(parent, spec), click_(std::move(click)), role_(role), shortcut_(shortcut) {}
+
+    ButtonRole Role() const { return role_; }
+    const std::string& Shortcut() const { return shortcut_; }
+    bool UserClick();
+    void Accept(ControlVisitor& visitor) override;
+
+  private:
+    Handler click_;
+    ButtonRole role_;
+    std::string shortcut_;
+};
+
+class CheckBox : public Control {
+  public:
+    CheckBox(Container& parent, const ControlSpec& spec, Handler click = {})
+        : Control(parent, spec), click_(std::move(click)) {}
+
+    bool Value() const { return value_; }
+    void SetValue(bool value);
+    void SetValueQuietly(bool value);
+    bool UserSet(bool value);
+    void Accept(ControlVisitor& visitor) override;
+
+  private:
+    bool value_ = false;
+    Handler click_;
+};
+
+// A slider. Scroll is raised while a person drags the thumb, Change once the value has settled.
+class Slider : public Control {
+  public:
+    struct Range {
+        int minimum = 0;
+        int maximum = 100;
+        int value = 0;          // at the start
+        int smallChange = 1;    // arrow keys
+        int largeChange = 10;   // page keys
+        int tickFrequency = 0;  // 0: no ticks
+    };
+    Slider(Container& parent, const ControlSpec& spec, const Range& range, Handler scroll,
+           Handler change)
+        : Control(parent, spec),
+          range_(range),
+          value_(range.value),
+          settled_(range.value),
+          scroll_(std::move(scroll)),
+          change_(std::move(change)) {}
+
+    const Range& Limits() const { return range_; }
+    int Value() const { return value_; }
+    // A value outside the range becomes the nearest one inside.
+    void SetValue(int value);
+    void SetValueQuietly(int value);
+    // The thumb is being dragged and now stands at `value`.
+    bool UserScroll(int value);
+    // The person let go of the thumb, or set `value` by key or click.
+    bool UserSettle(int value);
+    void Accept(ControlVisitor& visitor) override;
+
+  private:
+    int Clamped(int value) const;
+    void Settle();
+
+    Range range_;
+    int value_;
+    int settled_;
+    Handler scroll_;
+    Handler change_;
+};
+
+// A scroll bar or spin control, vertical.
+class ScrollBar : public Control {
+  public:
+    ScrollBar(Container& parent, const ControlSpec& spec, int minimum, int maximum, int value,
+              Handler change)
+        : Control(parent, spec),
+          minimum_(minimum),
+          maximum_(maximum),
+          value_(value),
+          change_(std::move(change)) {}
+
+    int Minimum() const { return minimum_; }
+    int Maximum() const { return maximum_; }
+    int Value() const { return value_; }
+    void SetValue(int value);
+    bool UserSet(int value);
+    void Accept(ControlVisitor& visitor) override;
+
+  private:
+    int minimum_;
+    int maximum_;
+    int value_;
+    Handler change_;
+};
+
+// A still picture, fitted to nothing: it is shown at its own size from the top left corner unless
+// `stretch`.
+class PictureBox : public Control {
+  public:
+    PictureBox(Container& parent, const ControlSpec& spec, bool stretch = false)
+        : Control(parent, spec), stretch_(stretch) {}
+
+    bool Stretch() const { return stretch_; }
+    // The encoded picture (JPEG, GIF, PNG, BMP); empty shows nothing.
+    const std::string& Picture() const { return picture_; }
+    void SetPicture(std::string encoded);
+    void Accept(ControlVisitor& visitor) override;
+
+  private:
+    bool stretch_;
+    std::string picture_;
+};
+
+// Flags of WebBrowser::Navigate.
+inline constexpr int kNavigateNoHistory = 2;
+inline constexpr int kNavigateNoReadFromCache = 4;
+inline constexpr int kNavigateNoWriteToCache = 8;
+inline constexpr int kRefreshCompletely = 3;
+
+// An embedded browser for pages on disk.
+class WebBrowser : public Control {
+  public:
+    using Control::Control;
+
+    // Shows the page at this Windows path.
+    void Navigate(std::string_view path, int flags);
+    // Shows the current page again; with Refresh2(kRefreshCompletely) every picture of it is read
+    // again too.
+    void RefreshPage();
+    void Refresh2(int level);
+
+    const std::string& Address() const { return address_; }
+    int NavigationFlags() const { return flags_; }
+    void Accept(ControlVisitor& visitor) override;
+
+  private:
+    std::string address_;
+    int flags_ = 0;
+};
+
+// A timer. It never fires without a toolkit.
+class Timer : public Control {
+  public:
+    Timer(Container& parent, std::string_view name, int intervalMilliseconds, Handler tick)
+        : Control(parent, {name, {}}), interval_(intervalMilliseconds), tick_(std::move(tick)) {
+        SetEnabled(false);
+    }
+
+    int Interval() const { return interval_; }
+    bool Tick();
+    void Accept(ControlVisitor& visitor) override;
+
+  private:
+    int interval_;
+    Handler tick_;
+};
+
+}  // namespace morpho

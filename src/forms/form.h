@@ -1,0 +1,105 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "forms/control.h"
+#include "forms/toolkit.h"
+#include "platform/run_time_error.h"
+
+namespace morpho {
+
+enum class WindowState { kNormal = 0, kMinimized = 1, kMaximized = 2 };
+enum class MousePointer { kDefault = 0, kHourglass = 11 };
+enum class BorderStyle { kSizable, kFixedDialog };
+
+struct FormSpec {
+    std::string_view name;
+    std::string_view caption;
+    Size inner;  // the client area, in twips
+    BorderStyle border = BorderStyle::kFixedDialog;
+};
+
+// A window. Deriving classes declare their controls as members and override the Form_ events.
+class Form : public Container {
+  public:
+    Form(Toolkit& toolkit, const FormSpec& spec);
+
+    const std::string& Name() const { return name_; }
+    const std::string& Caption() const { return caption_; }
+    void SetCaption(std::string_view caption);
+    BorderStyle Border() const { return border_; }
+    Form& OwnerForm() override { return *this; }
+    bool IsOperable() const override { return true; }
+
+    // The outer rectangle on the screen, in twips, and the inner size within the window's borders.
+    const Rectangle& Bounds() const { return bounds_; }
+    void SetBounds(const Rectangle& bounds);
+    Size Inner() const { return {bounds_.width - chrome_.width, bounds_.height - chrome_.height}; }
+    WindowState State() const { return state_; }
+    void SetState(WindowState state);
+    MousePointer Pointer() const { return pointer_; }
+    void SetPointer(MousePointer pointer);
+    void BringToTop() { Changed(aspect::kToTop); }
+
+    // Runs Form_Load, once.
+    void Load();
+    // Loads the form if need be and returns when it has been hidden or unloaded.
+    void ShowModal();
+    // Makes ShowModal return and keeps the form loaded.
+    void Hide();
+    // Asks Form_QueryUnload; unless that refuses, ShowModal returns and the form is no longer
+    // loaded.
+    void Unload();
+    bool IsLoaded() const { return loaded_; }
+    bool IsVisible() const { return visible_; }
+
+    // What a window system, a test or a batch reports. UserClose is the window's own close button
+    // or Escape: true when the form went.
+    bool UserClose();
+    void UserResize(const Rectangle& outer, Size inner, WindowState state);
+    void Painted();
+
+    // The control that has the focus; null when none was given it yet.
+    Control* Focused() const { return focused_; }
+    void FocusMoved(Control* control) { focused_ = control; }
+
+    // Runs an event handler. Every error that reaches this point ends the handler and goes to
+    // HandlerFailed.
+    void RunHandler(std::string_view name, const std::function<void()>& handler);
+    // Shows a message box on this form.
+    Answer MsgBox(std::string_view text, int flags, std::string_view title);
+
+    // Connects the window; null disconnects. The toolkit owns it.
+    void Attach(Peer* window);
+
+  protected:
+    virtual void Form_Load() {}
+    virtual void Form_Paint() {}
+    virtual void Form_Resize() {}
+    // `byUser`: the window's own close button, not the program, asks.
+    virtual void Form_QueryUnload(bool& /*cancel*/, bool /*byUser*/) {}
+    virtual void HandlerFailed(std::string_view /*handler*/, const RunTimeError& /*error*/) {}
+
+    Toolkit& TheToolkit() const { return toolkit_; }
+
+  private:
+    void Changed(Aspects changed);
+    void TryUnload(bool byUser);
+
+    Toolkit& toolkit_;
+    std::string name_;
+    std::string caption_;
+    BorderStyle border_;
+    Rectangle bounds_;
+    Size chrome_;  // outer less inner size
+    WindowState state_ = WindowState::kNormal;
+    MousePointer pointer_ = MousePointer::kDefault;
+    bool loaded_ = false;
+    bool visible_ = false;
+    Control* focused_ = nullptr;
+    Peer* window_ = nullptr;
+};
+
+}  // namespace morpho

@@ -1,0 +1,48 @@
+#include "forms/headless_toolkit.h"
+
+#include "forms/form.h"
+
+namespace morpho {
+
+namespace {
+
+constexpr int kButtonsMask = 15;
+
+Answer LeastHarm(int flags) {
+    return (flags & kButtonsMask) == kYesNoCancel ? Answer::kCancel : Answer::kNo;
+}
+
+}  // namespace
+
+void HeadlessToolkit::RunModal(Form& form) {
+    form.Load();
+    form.Painted();
+    const auto person = people_.find(form.Name());
+    if (person == people_.end()) {
+        unscripted_.push_back("Nobody plays the form " + form.Name());
+    } else {
+        const Person play = person->second;
+        play(form);
+        if (form.IsVisible()) unscripted_.push_back("The form " + form.Name() + " was left open");
+    }
+    if (form.IsVisible()) form.Hide();
+}
+
+Answer HeadlessToolkit::MessageBox(Form* /*owner*/, std::string_view text, int flags,
+                                   std::string_view title) {
+    messages_.push_back({std::string(text), flags, std::string(title)});
+    if (answers_.empty()) {
+        if ((flags & kButtonsMask) != kOkOnly)
+            unscripted_.push_back("No answer to: " + std::string(text));
+        return LeastHarm(flags);
+    }
+    const Answer answer = answers_.front();
+    answers_.pop_front();
+    return answer;
+}
+
+Rectangle HeadlessToolkit::NormalPlacement(const Form& form) const {
+    return form.Bounds();
+}
+
+}  // namespace morpho

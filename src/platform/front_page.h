@@ -1,0 +1,103 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace morpho {
+
+// The host's automation objects, named after its own, with the members that the editors use.
+// Objects are handed out as views that the caller owns; the host owns what they show. Texts are
+// UTF-8, collections are zero-based. An index out of range and a call that the host refuses throw
+// RunTimeError (kAutomation).
+
+// One rule of a style sheet.
+class StyleRule {
+  public:
+    virtual ~StyleRule() = default;
+    virtual std::string SelectorText() const = 0;
+    // The declared value of a property, also of one that CSS does not know; compared without regard
+    // to case. Nothing when the rule does not declare it.
+    virtual std::optional<std::string> Attribute(std::string_view name) const = 0;
+};
+
+class StyleSheet {
+  public:
+    virtual ~StyleSheet() = default;
+    virtual int RuleCount() const = 0;
+    virtual std::unique_ptr<StyleRule> Rule(int index) const = 0;
+};
+
+// The document of an open page.
+class PageDocument {
+  public:
+    virtual ~PageDocument() = default;
+    // Parses `html` and puts it into the body; `where` is "AfterBegin" or "BeforeEnd".
+    virtual void InsertAdjacentHtml(std::string_view where, std::string_view html) = 0;
+    // The style sheets of the document in order of appearance.
+    virtual std::unique_ptr<StyleSheet> StyleSheetAt(int index) const = 0;
+};
+
+class PageWindow {
+  public:
+    virtual ~PageWindow() = default;
+    virtual std::unique_ptr<PageDocument> Document() = 0;
+    // Closes the page; with `forceSave` its changes are saved first, without it they are dropped.
+    virtual void Close(bool forceSave) = 0;
+};
+
+// The window of a web and the pages open in it.
+class WebWindow {
+  public:
+    virtual ~WebWindow() = default;
+    // Opens a new blank page.
+    virtual std::unique_ptr<PageWindow> AddPageWindow() = 0;
+};
+
+struct Theme {
+    std::string name;   // the theme's folder name
+    std::string label;  // its display title
+};
+
+// Asks Web::ThemeProperties for the theme's name.
+inline constexpr int kThemeNameProperty = 0x2000000;
+
+class Web {
+  public:
+    virtual ~Web() = default;
+    virtual int ThemeCount() const = 0;
+    virtual Theme ThemeAt(int index) const = 0;
+    // With kThemeNameProperty: the folder name of the theme that the web as a whole uses; empty
+    // when it has none.
+    virtual std::string ThemeProperties(int which) const = 0;
+    virtual std::unique_ptr<WebWindow> ActiveWebWindow() = 0;
+};
+
+// Numbers of LanguageSettings::LanguageId.
+enum class LanguageUse {
+    kInstall = 1,
+    kUserInterface = 2,
+    kHelp = 3,
+    kExecutionMode = 4,
+    kPreviousUserInterface = 5
+};
+
+class LanguageSettings {
+  public:
+    virtual ~LanguageSettings() = default;
+    // A Windows language identifier, such as 1033.
+    virtual int LanguageId(LanguageUse use) const = 0;
+};
+
+class Application {
+  public:
+    virtual ~Application() = default;
+    // The release, such as "6.0".
+    virtual std::string Version() const = 0;
+    // The open web; null when there is none.
+    virtual std::unique_ptr<Web> ActiveWeb() = 0;
+    virtual std::unique_ptr<LanguageSettings> Languages() const = 0;
+};
+
+}  // namespace morpho

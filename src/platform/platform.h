@@ -1,0 +1,31 @@
+#pragma once
+
+namespace morpho {
+
+class Clock;
+class CodePage;
+class ColorizerFactory;
+class Environment;
+class FileSystem;
+class ProfileFiles;
+class Registry;
+class Resources;
+class Shell;
+class Toolkit;
+
+// Everything outside that the system may touch. Whoever starts the program builds it and owns the
+// parts; they outlive every window. Passed down by reference; there is no other way out.
+struct Platform {
+    Registry& registry;
+    FileSystem& files;
+    ProfileFiles& profileFiles;
+    CodePage& codePage;
+    Shell& shell;
+    Clock& clock;
+    Environment& environment;
+    const Resources& resources;
+    ColorizerFactory& colorizers;
+    Toolkit& toolkit;
+};
+
+}  // namespace morpho

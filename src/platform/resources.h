@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace morpho {
+
+// What is compiled into the program beside its code.
+class Resources {
+  public:
+    virtual ~Resources() = default;
+
+    // The bytes of the resource of this type and id; empty when there is none. They live as long as
+    // the program.
+    virtual std::span<const std::byte> Data(std::string_view type, int id) const = 0;
+    // String `id` of the string table, UTF-8; empty when there is none.
+    virtual std::string String(int id) const = 0;
+};
+
+}  // namespace morpho
