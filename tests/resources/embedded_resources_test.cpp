@@ -1,0 +1,130 @@
+#include "resources/embedded_resources.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "resources/resource_ids.h"
+
+namespace morpho {
+namespace {
+
+std::string Bytes(std::string_view type, int id) {
+    const auto data = EmbeddedResources().Data(type, id);
+    return {reinterpret_cast<const char*>(data.data()), data.size()};
+}
+
+size_t CountOf(const std::string& text, const std::string& part) {
+    size_t count = 0;
+    for (size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1))
+        ++count;
+    return count;
+}
+
+constexpr auto kElements = std::to_array<std::string_view>({
+    "active/nav-banner-image",       "active/navbutton-vert-normal",
+    "active/navbutton-vert-hovered", "active/navbutton-vert-pushed",
+    "active/navbutton-horiz-normal", "active/navbutton-horiz-hovered",
+    "active/navbutton-horiz-pushed", "active/list-image-1",
+    "active/list-image-2",           "active/list-image-3",
+    "active/separator-image",        "active/navbutton-prev-normal",
+    "active/navbutton-prev-hovered", "active/navbutton-prev-pushed",
+    "active/navbutton-home-normal",  "active/navbutton-home-hovered",
+    "active/navbutton-home-pushed",  "active/navbutton-next-normal",
+    "active/navbutton-next-hovered", "active/navbutton-next-pushed",
+    "active/navbutton-up-normal",    "active/navbutton-up-hovered",
+    "active/navbutton-up-pushed",    "normal/nav-banner-image",
+    "normal/navbutton-vert-normal",  "normal/navbutton-vert-pushed",
+    "normal/navbutton-horiz-normal", "normal/navbutton-horiz-pushed",
+    "normal/list-image-1",           "normal/list-image-2",
+    "normal/list-image-3",           "normal/separator-image",
+    "normal/navbutton-prev-normal",  "normal/navbutton-home-normal",
+    "normal/navbutton-next-normal",  "normal/navbutton-up-normal",
+    "global/top-bar-button",         "global/background-image",
+});
+
+TEST(PreviewTemplate, HasAPlaceForEachThemeElementOnce) {
+    const std::string page = Bytes(kTemplateResource, kPreviewTemplate);
+    for (const auto element : kElements) {
+        EXPECT_EQ(CountOf(page, '#' + std::string(element) + '#'), 1u) << element;
+    }
+    EXPECT_EQ(CountOf(page, "<img src=\"#"), kElements.size() - 1);
+    EXPECT_EQ(CountOf(page, "<body background=\"#global/background-image#\""), 1u);
+}
+
+TEST(PreviewTemplate, CrossesTheActiveHorizontalBarsHoveredAndPushed) {
+    const std::string page = Bytes(kTemplateResource, kPreviewTemplate);
+    const size_t bar = page.find("Horizontal Nav. Bar");
+    const size_t hovered = page.find(">Hovered<", bar);
+    const size_t pushed = page.find(">Pushed<", bar);
+    const size_t pushedPicture = page.find("#active/navbutton-horiz-pushed#");
+    const size_t hoveredPicture = page.find("#active/navbutton-horiz-hovered#");
+    EXPECT_LT(hovered, pushed);
+    EXPECT_LT(pushed, pushedPicture);
+    EXPECT_LT(pushedPicture, hoveredPicture);
+    EXPECT_LT(hoveredPicture, page.find("Bullets"));
+}
+
+TEST(PreviewTemplate, KeepsItsSizeAndTheZerosAtItsEnd) {
+    const std::string page = Bytes(kTemplateResource, kPreviewTemplate);
+    EXPECT_EQ(page.size(), 8268u);
+    EXPECT_EQ(page.find('\0'), 8265u);
+    EXPECT_TRUE(
+        std::ranges::all_of(page, [](char c) { return static_cast<unsigned char>(c) < 128; }));
+}
+
+TEST(ColorBand, Is397By7PixelsWithFullColourResolution) {
+    const std::string band = Bytes(kColorBandResource, kColorBand);
+    const size_t frame =
+        band.find("\xFF\xC0");  // baseline; length, precision, height, width, components
+    ASSERT_NE(frame, std::string::npos);
+    EXPECT_EQ(band.substr(frame + 4, 6), std::string("\x08\x00\x07\x01\x8D\x03", 6));
+    EXPECT_EQ(band[frame + 11], 0x11);
+    EXPECT_EQ(band[frame + 14], 0x11);
+}
+
+TEST(ToolbarFace, Is20By20PixelsOnTheFacesGrey) {
+    const std::string face = Bytes(kBitmapResource, kToolbarFace);
+    EXPECT_EQ(face.substr(0, 2), "BM");
+    EXPECT_EQ(face.substr(18, 8), std::string("\x14\0\0\0\x14\0\0\0", 8));
+    const auto corner = static_cast<unsigned char>(face.back());
+    EXPECT_EQ(face.substr(54 + 4 * corner, 3), "\xC0\xC0\xC0");
+}
+
+void ExpectPng(std::string_view type, int id, int width, int height) {
+    const std::string png = Bytes(type, id);
+    ASSERT_EQ(png.substr(0, 8), "\x89PNG\r\n\x1A\n") << type << ' ' << id;
+    EXPECT_EQ(static_cast<unsigned char>(png[19]), width) << type << ' ' << id;
+    EXPECT_EQ(static_cast<unsigned char>(png[23]), height % 256) << type << ' ' << id;
+}
+
+TEST(Icons, HaveTheSizesTheirNamesSay) {
+    ExpectPng(kIconResource, kApplicationIcon16, 16, 16);
+    ExpectPng(kIconResource, kApplicationIcon32, 32, 32);
+    ExpectPng(kIconResource, kApplicationIcon48, 48, 48);
+    ExpectPng(kIconResource, kApplicationIcon128, 128, 128);
+    for (int id : {kStopIcon, kQuestionIcon, kInformationIcon})
+        ExpectPng(kIconResource, id, 64, 64);
+    ExpectPng(kPictureResource, kAboutPicture, 192, 256);
+}
+
+TEST(Strings, AreTheQuickReferenceAndTheUnsavedThemePrompt) {
+    const EmbeddedResources resources;
+    EXPECT_EQ(resources.String(kUnsavedThemePrompt),
+              "Theme \"%1\" modified.\nDo you wish to save the changes ?");
+    const std::string guide = resources.String(kQuickReferenceText);
+    EXPECT_EQ(CountOf(guide, "\n\nStep "), 7u);
+    EXPECT_EQ(CountOf(guide, "\n"), 16u);
+    EXPECT_TRUE(guide.ends_with("\n\nSee Webtrove Morpho Help file for more information."));
+}
+
+TEST(Resources, AreEmptyWhereThereIsNone) {
+    EXPECT_TRUE(EmbeddedResources().Data(kTemplateResource, 102).empty());
+    EXPECT_TRUE(EmbeddedResources().Data("template", kPreviewTemplate).empty());
+    EXPECT_TRUE(EmbeddedResources().String(103).empty());
+}
+
+}  // namespace
+}  // namespace morpho
