@@ -93,8 +93,8 @@ bool Slider::UserScroll(int value) {
 }
 
 bool Slider::UserSettle(int value) {
-    if (!IsOperable()) return false;
-    SetValue(value);
+    if (!UserScroll(value)) return false;
+    Settle();
     return true;
 }
 
