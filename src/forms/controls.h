@@ -107,7 +107,8 @@ class Slider : public Control {
     void SetValueQuietly(int value);
     // The thumb is being dragged and now stands at `value`.
     bool UserScroll(int value);
-    // The person let go of the thumb, or set `value` by key or click: Scroll, if it moved, then Change.
+    // The person let go of the thumb, or set `value` by key or click: Scroll, if it moved, then
+    // Change.
     bool UserSettle(int value);
     void Accept(ControlVisitor& visitor) override;
 

@@ -4,21 +4,9 @@
 #include <stdexcept>
 
 #include "forms/control_visitor.h"
+#include "platform/ignoring_case.h"
 
 namespace morpho {
-
-namespace {
-
-char Lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool EqualIgnoringCase(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char x, char y) { return Lower(x) == Lower(y); });
-}
-
-}  // namespace
 
 void ComboBox::Accept(ControlVisitor& visitor) {
     visitor.Visit(*this);

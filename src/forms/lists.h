@@ -21,7 +21,7 @@ class ListControl : public Control {
     }
     virtual void AddItem(std::string_view text);
     virtual void Clear();
-    // The entry whose whole text equals `text` without regard to (ASCII) case, or kNoEntry.
+    // The entry whose whole text equals `text` without regard to case, or kNoEntry.
     int FindExact(std::string_view text) const;
 
     // The current entry, or kNoEntry. Changing it raises Click; an index outside the list throws.
