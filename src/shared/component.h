@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+
+namespace morpho {
+
+class Application;
+struct Platform;
+
+// What the loaded component holds once, for both add-ins and both editors. Whichever of them
+// started last has set it.
+struct Component {
+    int logMode = 0;                     // 0 off, 1 daily file, 2 debugger output; others are off
+    std::string logPrefix;               // "TM" or "IM", before the date in the log file's name
+    std::string logFolder;               // with a trailing "\"; empty until first needed
+    int logIndent = 0;                   // nesting level of log lines
+    Application* application = nullptr;  // the host; not owned
+    std::string explorerProgId;          // the host's explorer, for late-bound calls
+    std::string editorProgId;
+    std::string webSite;  // address or document the About box links to; empty: no link
+};
+
+// What every module and window is handed: what is outside, and what the component holds. Both
+// outlive every window.
+struct Program {
+    Platform& platform;
+    Component& component;
+};
+
+}  // namespace morpho
