@@ -24,9 +24,9 @@ inline constexpr int kApplicationIcon16 = 1;
 inline constexpr int kApplicationIcon32 = 2;
 inline constexpr int kApplicationIcon48 = 3;
 inline constexpr int kApplicationIcon128 = 4;
-inline constexpr int kStopIcon = 11;
-inline constexpr int kQuestionIcon = 12;
-inline constexpr int kInformationIcon = 13;
+inline constexpr int kStopIconId = 11;
+inline constexpr int kQuestionIconId = 12;
+inline constexpr int kInformationIconId = 13;
 
 // Strings.
 inline constexpr int kQuickReferenceText = 101;  // lines end with a line feed

@@ -105,7 +105,7 @@ TEST(Icons, HaveTheSizesTheirNamesSay) {
     ExpectPng(kIconResource, kApplicationIcon32, 32, 32);
     ExpectPng(kIconResource, kApplicationIcon48, 48, 48);
     ExpectPng(kIconResource, kApplicationIcon128, 128, 128);
-    for (int id : {kStopIcon, kQuestionIcon, kInformationIcon})
+    for (int id : {kStopIconId, kQuestionIconId, kInformationIconId})
         ExpectPng(kIconResource, id, 64, 64);
     ExpectPng(kPictureResource, kAboutPicture, 192, 256);
 }

@@ -1,0 +1,50 @@
+#include "theme_editor/colour_band.h"
+
+#include "forms/form.h"
+#include "platform/file_system.h"
+#include "platform/platform.h"
+#include "platform/resources.h"
+#include "platform/run_time_error.h"
+#include "resources/resource_ids.h"
+#include "shared/log.h"
+#include "theme_editor/pointer_guard.h"
+
+namespace morpho {
+
+void ColourBand::Open(Form& form, const std::string& tempPath) {
+    FileSystem& files = program_.platform.files;
+    WriteLog(program_, "Loading color band image...");
+    colorBandFile_ = tempPath + "ColorBand.jpg";
+    processedColorBandFile_ = tempPath + "pColorBand.jpg";
+    {
+        const HourglassPointer hourglass(form);
+        files.WriteFile(colorBandFile_,
+                        program_.platform.resources.Bytes(kColorBandResource, kColorBand));
+    }
+    WriteLog(program_, "Showing color band image...");
+    imgBand_.SetPicture(files.ReadFile(colorBandFile_));
+    WriteLog(program_, "Loading colorizer for the band...");
+    bandColorizer_ = program_.platform.colorizers.Create();
+    WriteLog(program_, "Setting colorizer properties...");
+    bandColorizer_->SetSourceFile(colorBandFile_);
+    bandColorizer_->SetDestinationFile(processedColorBandFile_);
+    bandColorizer_->SetAuxParameter1(0.0);
+    bandColorizer_->SetAuxParameter2(0.0);
+}
+
+void ColourBand::UpdateColourBand() {
+    if (!bandColorizer_) return;
+    try {
+        bandColorizer_->SetHue(sliders_.Hue());
+        bandColorizer_->SetSaturation(sliders_.Saturation());
+        bandColorizer_->SetBrightness(sliders_.Brightness());
+        bandColorizer_->Colorize();
+        picBand_.SetPicture(program_.platform.files.ReadFile(processedColorBandFile_));
+        picBand_.Refresh();
+    } catch (const RunTimeError&) {
+        // The band is only feedback; the strip keeps its last colours.
+        return;
+    }
+}
+
+}  // namespace morpho

@@ -1,0 +1,64 @@
+#include "theme_editor/element_renderer.h"
+
+#include "forms/toolkit.h"
+#include "image_editor/frm_jpeg_qf.h"
+#include "platform/colorizer.h"
+#include "platform/file_system.h"
+#include "platform/platform.h"
+#include "platform/run_time_error.h"
+#include "shared/log.h"
+#include "shared/mod_shared_code.h"
+
+namespace morpho {
+
+void ElementRenderer::SetFolders(const std::string& originals, const std::string& work) {
+    originals_ = originals;
+    work_ = work;
+    failures_.clear();
+}
+
+bool ElementRenderer::RenderElement(int row) {
+    try {
+        failures_.erase(row);
+        return Rebuild(row);
+    } catch (const RunTimeError& error) {
+        failures_[row] = error.what();
+        return false;
+    }
+}
+
+bool ElementRenderer::Rebuild(int row) {
+    const std::string& file = elements_.File(row);
+    const std::unique_ptr<Colorizer> colorizer = program_.platform.colorizers.Create();
+    WriteLog(program_, "  " + elements_.Key(row) + " (" + file + ")...");
+    colorizer->SetSourceFile(originals_ + file);
+    colorizer->SetDestinationFile(work_ + file);
+    colorizer->SetAuxParameter1(0.0);
+    colorizer->SetAuxParameter2(0.0);
+    if (history_.UndoDepth() < 1) {
+        program_.platform.files.CopyFile(colorizer->SourceFile(), colorizer->DestinationFile());
+        return false;
+    }
+    if (IsJpegFile(colorizer->SourceFile()) && askJpegQuality_ == kAsk) AskQuality(*colorizer);
+    for (int step = 1; step <= history_.UndoDepth(); ++step) {
+        const ElementAdjustment record = history_.GetUndoRecordAt(row, step).value();
+        colorizer->SetHue(record.Hue);
+        colorizer->SetSaturation(record.Saturation);
+        colorizer->SetBrightness(record.Brightness);
+        colorizer->Colorize();
+        colorizer->SetSourceFile(work_ + file);
+    }
+    return true;
+}
+
+void ElementRenderer::AskQuality(Colorizer& colorizer) {
+    frmJPEGQF prompt(program_);
+    Toolkit& toolkit = program_.platform.toolkit;
+    const CapturedWindow captured = toolkit.ReleaseCapture();
+    prompt.ShowModal();
+    toolkit.SetCapture(captured);
+    askJpegQuality_ = static_cast<std::int16_t>(prompt.vsQF.Value());
+    colorizer.SetQuality(askJpegQuality_);
+}
+
+}  // namespace morpho

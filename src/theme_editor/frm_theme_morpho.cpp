@@ -1,0 +1,214 @@
+#include "theme_editor/frm_theme_morpho.h"
+
+#include "about/frm_about.h"
+#include "platform/environment.h"
+#include "platform/file_system.h"
+#include "platform/platform.h"
+#include "platform/resources.h"
+#include "platform/shell.h"
+#include "resources/resource_ids.h"
+#include "shared/mod_shared_code.h"
+#include "shared/settings.h"
+#include "theme_editor/frm_prompt_duplicate.h"
+
+namespace morpho {
+
+namespace {
+
+constexpr Size kDesignSize{14400, 9900};
+constexpr std::string_view kDuplicateNoticeText =
+    "In selecting or deselecting this element, you may have noticed that multiple theme elements "
+    "were "
+    "selected or deselected. This is because the image associated with this element is also used "
+    "by other "
+    "elements in this theme.";
+
+}  // namespace
+
+frmThemeMorpho::frmThemeMorpho(const Program& program)
+    : LoggedForm(program, {"frmThemeMorpho", kThemeProduct, kDesignSize, BorderStyle::kSizable}),
+      band_(program, sliders_, imgBand, picBand),
+      renderer_(program, elements_, history_),
+      preview_(program, *this, elements_, wbbImagePreview),
+      loader_(program, elements_),
+      selection_(
+          program, elements_, [this] { return ShowDuplicateNotice(); },
+          [this] { colorization_.SelectionTouched(); }),
+      colorization_(program, {*this, busySwitch_, elements_, selection_, history_, renderer_,
+                              sliders_, band_, preview_, cmdUndo, cmdRedo}) {
+    cmbThemeName.SetVisible(false);
+    lstGifNames.SetVisible(false);
+    // Saving is still to come.
+    cmdSave.SetEnabled(false);
+    cmdSaveAs.SetEnabled(false);
+}
+
+void frmThemeMorpho::Form_Paint() {
+    if (!firstPaint_) return;
+    firstPaint_ = false;
+    Form_Resize();
+    ShowQuickReference();
+}
+
+void frmThemeMorpho::cmbThemeLabel_Click() {
+    cmbThemeName.SetListIndex(cmbThemeLabel.ListIndex());
+}
+
+void frmThemeMorpho::cmbThemeName_Click() {
+    if (revertingCombo_) {
+        revertingCombo_ = false;
+        return;
+    }
+    WriteLog("Changing theme combo selection to " + cmbThemeName.Text() + "...");
+    if (colorization_.Modified() && !MayLeaveTheme(false)) {
+        WriteLog("Theme change/save cancelled. Reverting combo selections...");
+        revertingCombo_ = true;
+        cmbThemeLabel.SetListIndex(currentThemeIndex_);
+        return;
+    }
+    LoadCurrentTheme();
+}
+
+void frmThemeMorpho::LoadCurrentTheme() {
+    currentThemeIndex_ = cmbThemeName.ListIndex();
+    const std::string name = cmbThemeName.Text();
+    loadFailure_.clear();
+    try {
+        loader_.LoadTheme(name, fpThemeTempPath_ + name, WorkRoot());
+    } catch (const RunTimeError& error) {
+        // The earlier theme's work copy is gone: none of its steps may be replayed, or asked about.
+        loadFailure_ = error.what();
+        colorization_.Begin();
+        throw;
+    }
+    ShowThemeLoaded(name);
+}
+
+void frmThemeMorpho::ShowThemeLoaded(const std::string& name) {
+    renderer_.SetFolders(fpThemeTempPath_ + name + "\\", WorkFolder() + "\\");
+    preview_.SetTheme(name, WorkRoot() + "\\Theme.htm");
+    preview_.GeneratePreview(loading_);
+    colorization_.Begin();
+    cmdSelectAll_Click();
+}
+
+std::string frmThemeMorpho::WorkFolder() const {
+    return WorkRoot() + "\\" + cmbThemeName.Text();
+}
+
+bool frmThemeMorpho::MayLeaveTheme(bool closing) {
+    const std::string name = cmbThemeName.List(currentThemeIndex_);
+    const std::string label = cmbThemeLabel.List(currentThemeIndex_);
+    if (!closing) WriteLog("Earlier theme modified: " + name);
+    const std::string prompt =
+        FormatText(ThePlatform().resources.String(kUnsavedThemePrompt), {label});
+    const Answer answer = MsgBox(prompt, kYesNoCancel | kQuestionIcon, kThemeProduct);
+    if (answer != Answer::kYes) return answer == Answer::kNo;
+    if (!closing) WriteLog("Saving modified theme...");
+    return SaveTheme(name, label, closing, false);
+}
+
+bool frmThemeMorpho::SaveTheme(const std::string& /*name*/, const std::string& /*title*/,
+                               bool /*applyFlag*/, bool /*asNew*/) {
+    // Saving is still to come; until then no save succeeds, and the person keeps the window and the
+    // changes.
+    return false;
+}
+
+void frmThemeMorpho::lstImageNames_ItemCheck(int index) {
+    selection_.ItemChecked(index);
+}
+void frmThemeMorpho::cmdSelectAll_Click() {
+    selection_.SelectAll();
+}
+void frmThemeMorpho::cmdSelectNone_Click() {
+    selection_.SelectNone();
+}
+void frmThemeMorpho::cmdSelectActive_Click() {
+    selection_.SelectActive();
+}
+void frmThemeMorpho::cmdSelectNormal_Click() {
+    selection_.SelectNormal();
+}
+
+bool frmThemeMorpho::ShowDuplicateNotice() {
+    frmPromptDuplicate notice(TheProgram());
+    return notice.ShowDuplicateNoticeDialog(kDuplicateNoticeText, kThemeProduct, kInformationIcon);
+}
+
+void frmThemeMorpho::Slider_Scroll() {
+    sliders_.ShowValuesNow();
+    band_.UpdateColourBand();
+}
+
+void frmThemeMorpho::Slider_Change() {
+    sliders_.ShowValues();
+    colorization_.ProcessSelection(false);
+}
+
+void frmThemeMorpho::cmdApply_Click() {
+    colorization_.ProcessSelection(true);
+}
+void frmThemeMorpho::cmdUndo_Click() {
+    colorization_.Undo();
+}
+void frmThemeMorpho::cmdRedo_Click() {
+    colorization_.Redo();
+}
+void frmThemeMorpho::cmdReset_Click() {
+    colorization_.Reset();
+}
+
+void frmThemeMorpho::cmdCancel_Click() {
+    Unload();
+}
+
+void frmThemeMorpho::btnAbout_Click() {
+    ShowAboutBox();
+}
+
+void frmThemeMorpho::ShowAboutBox() {
+    frmAbout about(TheProgram());
+    about.ShowAbout(Editor::kTheme, TheComponent().logMode);
+    SaveSettingText("Logging", std::to_string(TheComponent().logMode));
+}
+
+void frmThemeMorpho::btnHelp_Click() {
+    const Platform& platform = ThePlatform();
+    platform.shell.WinExec("Winhlp32.exe " + platform.environment.ModuleFolder() + "\\morpho.hlp",
+                           1);
+}
+
+void frmThemeMorpho::Form_QueryUnload(bool& cancel, bool /*byUser*/) {
+    if (busySwitch_.Busy() || (colorization_.Modified() && !MayLeaveTheme(true))) {
+        cancel = true;
+        return;
+    }
+    SavePlacement();
+    DeleteWorkFolder();
+    WriteLog("Unloading TM");
+}
+
+void frmThemeMorpho::DeleteWorkFolder() {
+    FileSystem& files = ThePlatform().files;
+    try {
+        if (!tempPath_.empty() && FolderExists(files, WorkRoot())) files.DeleteFolder(WorkRoot());
+    } catch (const RunTimeError&) {
+        // Closing goes on; the temporary folder is swept later.
+        return;
+    }
+}
+
+std::string frmThemeMorpho::Setting(std::string_view key, std::string_view fallback) const {
+    return GetSetting(ThePlatform(), kThemeProduct, kWindowSection, key, fallback);
+}
+
+int frmThemeMorpho::SettingNumber(std::string_view key, int fallback) const {
+    return GetSettingNumber(ThePlatform(), kThemeProduct, kWindowSection, key, fallback);
+}
+
+void frmThemeMorpho::SaveSettingText(std::string_view key, std::string_view value) {
+    SaveSetting(ThePlatform(), kThemeProduct, kWindowSection, key, value);
+}
+
+}  // namespace morpho

@@ -1,0 +1,253 @@
+#pragma once
+
+#include <string>
+
+#include "forms/controls.h"
+#include "forms/lists.h"
+#include "shared/logged_form.h"
+#include "theme_editor/colorization.h"
+#include "theme_editor/product.h"
+#include "theme_editor/theme_loader.h"
+
+namespace morpho {
+
+// The Theme Morpho window: recolours the graphics of a theme of the open web. The controls stand
+// here in tab order; what they do is done by the classes below them.
+class frmThemeMorpho : public LoggedForm {
+  public:
+    explicit frmThemeMorpho(const Program& program);
+
+    static constexpr Size kMinimumSize{11820, 6000};
+
+    Label lblTheme{*this, {"lblTheme", {60, 75, 2820, 195}, "Theme:", {}, 'T'}};
+    ComboBox cmbThemeLabel{
+        *this,
+        {"cmbThemeLabel", {60, 285, 2820, 315}, {}, "Select a web theme", 0, "Theme"},
+        [this] { cmbThemeLabel_Click(); }};
+    // The names behind the labels, at the same index; never shown.
+    ComboBox cmbThemeName{
+        *this, {"cmbThemeName", {60, 285, 2820, 315}}, [this] { cmbThemeName_Click(); }};
+
+    Frame frameImageList{*this, {"frameImageList", {60, 660, 2820, 4000}, "Images"}};
+    CheckListBox lstImageNames{frameImageList,
+                               {"lstImageNames",
+                                {90, 300, 2640, 3565},
+                                {},
+                                "Images available for the selected theme",
+                                0,
+                                "Images"},
+                               [this](int index) { lstImageNames_ItemCheck(index); }};
+    ListBox lstGifNames{frameImageList, {"lstGifNames", {90, 300, 2640, 3565}}};
+
+    Frame frameImageListControl{*this, {"frameImageListControl", {60, 7000, 2820, 960}}};
+    CommandButton cmdSelectAll{frameImageListControl,
+                               {"cmdSelectAll",
+                                {0, 60, 1380, 375},
+                                "Select All",
+                                "Select all the images of the theme",
+                                'l'},
+                               [this] { cmdSelectAll_Click(); }};
+    CommandButton cmdSelectNone{frameImageListControl,
+                                {"cmdSelectNone",
+                                 {1440, 60, 1380, 375},
+                                 "Select None",
+                                 "Deselect all the images of the theme",
+                                 'n'},
+                                [this] { cmdSelectNone_Click(); }};
+    CommandButton cmdSelectActive{frameImageListControl,
+                                  {"cmdSelectActive",
+                                   {0, 495, 1380, 375},
+                                   "Select Active",
+                                   "Select the active images of the theme",
+                                   'i'},
+                                  [this] { cmdSelectActive_Click(); }};
+    CommandButton cmdSelectNormal{frameImageListControl,
+                                  {"cmdSelectNormal",
+                                   {1440, 495, 1380, 375},
+                                   "Select Normal",
+                                   "Select the normal images of the theme",
+                                   'm'},
+                                  [this] { cmdSelectNormal_Click(); }};
+
+    Frame framePreview{*this,
+                       {"framePreview", {2940, 60, 11415, 5000}, "Preview:", "Theme preview"}};
+    PictureBox picPreview{framePreview, {"picPreview", {30, 330, 11355, 4580}}};
+    WebBrowser wbbImagePreview{framePreview,
+                               {"wbbImagePreview", {30, 330, 11355, 4580}, {}, {}, 0, "Preview"}};
+
+    Frame frameProcess{*this, {"frameProcess", {2940, 7000, 8700, 1890}}};
+    Label lblBrightness{frameProcess,
+                        {"lblBrightness", {60, 150, 1020, 225}, "Brightness:", {}, 'g'}};
+    Slider sldBrightness{frameProcess,
+                         {"sldBrightness",
+                          {1080, 75, 5985, 375},
+                          {},
+                          "Change brightness of the selected images",
+                          0,
+                          "Brightness"},
+                         AdjustmentSliders::kFactorRange,
+                         [this] { Slider_Scroll(); },
+                         [this] { Slider_Change(); }};
+    Label lblBVal{frameProcess, {"lblBVal", {7110, 150, 510, 225}, "100 %"}, Alignment::kRight};
+    Label lblSaturation{frameProcess,
+                        {"lblSaturation", {60, 555, 1020, 225}, "Saturation:", {}, 'o'}};
+    Slider sldSaturation{frameProcess,
+                         {"sldSaturation",
+                          {1080, 480, 5985, 375},
+                          {},
+                          "Change saturation of the selected images",
+                          0,
+                          "Saturation"},
+                         AdjustmentSliders::kFactorRange,
+                         [this] { Slider_Scroll(); },
+                         [this] { Slider_Change(); }};
+    Label lblSVal{frameProcess, {"lblSVal", {7110, 555, 510, 225}, "100 %"}, Alignment::kRight};
+    Label lblHue{frameProcess, {"lblHue", {60, 960, 1020, 225}, "Hue:", {}, 'H'}};
+    Slider sldHue{
+        frameProcess,
+        {"sldHue", {1080, 885, 5985, 375}, {}, "Change hue of the selected images", 0, "Hue"},
+        AdjustmentSliders::kHueRange,
+        [this] { Slider_Scroll(); },
+        [this] { Slider_Change(); }};
+    Label lblHVal{frameProcess, {"lblHVal", {7110, 960, 510, 225}, "0"}, Alignment::kRight};
+    Label lblBand{frameProcess, {"lblBand", {60, 1320, 1020, 195}, "Original:"}};
+    PictureBox imgBand{
+        frameProcess, {"imgBand", {1095, 1365, 5955, 105}, {}, "Original color band"}, true};
+    Label lblProcessedBand{frameProcess, {"lblProcessedBand", {60, 1560, 1020, 195}, "Processed:"}};
+    PictureBox picBand{
+        frameProcess, {"picBand", {1095, 1605, 5955, 105}, {}, "Processed color band"}, true};
+    CommandButton cmdApply{frameProcess,
+                           {"cmdApply",
+                            {7740, 75, 960, 375},
+                            "Apply",
+                            "Apply the changes to the selected images and update the preview",
+                            'A'},
+                           [this] { cmdApply_Click(); }};
+    CommandButton cmdUndo{frameProcess,
+                          {"cmdUndo", {7740, 510, 960, 375}, "Undo", "Undo ", 'U'},
+                          [this] { cmdUndo_Click(); },
+                          ButtonRole::kNone,
+                          "Ctrl+Z"};
+    CommandButton cmdRedo{frameProcess,
+                          {"cmdRedo", {7740, 945, 960, 375}, "Redo", "Redo", 'R'},
+                          [this] { cmdRedo_Click(); },
+                          ButtonRole::kNone,
+                          "Ctrl+Y"};
+    CommandButton cmdReset{frameProcess,
+                           {"cmdReset",
+                            {7740, 1380, 960, 375},
+                            "Reset",
+                            "Restore all the original images of the theme",
+                            'e'},
+                           [this] { cmdReset_Click(); }};
+
+    Label lblStatus{*this, {"lblStatus", {90, 9000, 2790, 225}}};
+    Frame frameMenu{*this, {"frameMenu", {2940, 9000, 8700, 495}}};
+    CommandButton cmdSave{frameMenu,
+                          {"cmdSave", {0, 60, 1275, 375}, "Save", "Save the theme", 'S'},
+                          {},
+                          ButtonRole::kNone,
+                          "Ctrl+S"};
+    CommandButton cmdSaveAs{
+        frameMenu,
+        {"cmdSaveAs", {1335, 60, 1275, 375}, "Save As...", "Save the theme as another theme", 'v'},
+        {}};
+    CommandButton cmdCancel{
+        frameMenu,
+        {"cmdCancel", {4755, 60, 1275, 375}, "Close", "Close Theme Morpho", 'C'},
+        [this] { cmdCancel_Click(); }};
+    CommandButton btnAbout{
+        frameMenu,
+        {"btnAbout", {6090, 60, 1275, 375}, "About...", "About Theme Morpho", 'b'},
+        [this] { btnAbout_Click(); }};
+    CommandButton btnHelp{frameMenu,
+                          {"btnHelp", {7425, 60, 1275, 375}, "Help", "Help", 'p'},
+                          [this] { btnHelp_Click(); },
+                          ButtonRole::kNone,
+                          "F1"};
+    Timer timer{*this, "timer", 50, [this] { timer.SetEnabled(false); }};
+
+    // What a batch reads after it has worked the controls.
+    const ElementList& Elements() const { return elements_; }
+    const EditHistory& History() const { return history_; }
+    const ElementRenderer& Renderer() const { return renderer_; }
+    bool IsRecoloured(int row) const { return colorization_.IsRecoloured(row); }
+    // The work copy of the loaded theme, without a trailing "\".
+    std::string WorkFolder() const;
+    // What ended the last theme load; empty when it went well.
+    const std::string& LoadFailure() const { return loadFailure_; }
+
+  protected:
+    void Form_Load() override;
+    void Form_Paint() override;
+    void Form_QueryUnload(bool& cancel, bool byUser) override;
+    void Form_Resize() override;
+
+  private:
+    void cmbThemeLabel_Click();
+    void cmbThemeName_Click();
+    void lstImageNames_ItemCheck(int index);
+    void cmdSelectAll_Click();
+    void cmdSelectNone_Click();
+    void cmdSelectActive_Click();
+    void cmdSelectNormal_Click();
+    void Slider_Scroll();
+    void Slider_Change();
+    void cmdApply_Click();
+    void cmdUndo_Click();
+    void cmdRedo_Click();
+    void cmdReset_Click();
+    void cmdCancel_Click();
+    void btnAbout_Click();
+    void btnHelp_Click();
+
+    // Start-up, in the order in which it runs.
+    void StartUp();
+    void ConnectToHost();
+    void WriteBanner();
+    void ShowAboutBox();
+    void RestorePlacement();
+    void FindFolders();
+    void ListThemes();
+    void OpenFirstTheme();
+    void StartUpFailed(const RunTimeError* error);
+
+    void LoadCurrentTheme();
+    void ShowThemeLoaded(const std::string& name);
+    // Asks what to do with unsaved changes; false when the person, or a failed save, wants to stay.
+    bool MayLeaveTheme(bool closing);
+    bool SaveTheme(const std::string& name, const std::string& title, bool applyFlag, bool asNew);
+    void SavePlacement();
+    void DeleteWorkFolder();
+    void LayOut();
+    bool ShowDuplicateNotice();
+    void ShowQuickReference();
+
+    std::string WorkRoot() const { return tempPath_ + "Morpho"; }
+    std::string Setting(std::string_view key, std::string_view fallback) const;
+    int SettingNumber(std::string_view key, int fallback) const;
+    void SaveSettingText(std::string_view key, std::string_view value);
+
+    std::string version_;          // of the host
+    std::string tempPath_;         // with a trailing "\"
+    std::string fpThemeTempPath_;  // where the host unpacks themes, with a trailing "\"
+    int currentThemeIndex_ = kNoEntry;
+    bool firstPaint_ = false;
+    bool loading_ = false;
+    bool revertingCombo_ = false;
+    std::string loadFailure_;
+
+    ElementList elements_{lstImageNames, lstGifNames};
+    EditHistory history_;
+    AdjustmentSliders sliders_{sldBrightness, lblBVal, sldSaturation, lblSVal, sldHue, lblHVal};
+    BusySwitch busySwitch_{
+        *this, {&frameImageList, &frameImageListControl, &frameMenu, &framePreview, &frameProcess}};
+    ColourBand band_;
+    ElementRenderer renderer_;
+    ThemePreview preview_;
+    ThemeLoader loader_;
+    ElementSelection selection_;
+    Colorization colorization_;
+};
+
+}  // namespace morpho

@@ -1,0 +1,62 @@
+#include "theme_editor/url_value.h"
+
+#include "platform/ignoring_case.h"
+#include "platform/run_time_error.h"
+
+namespace morpho {
+
+namespace {
+
+constexpr std::string_view kWhiteSpaces = " \r\n\t\v";
+constexpr std::string_view kUrl = "url";
+
+bool IsQuote(std::string_view text, std::size_t position) {
+    return position >= 1 && position <= text.size() &&
+           (text[position - 1] == '"' || text[position - 1] == '\'');
+}
+
+}  // namespace
+
+std::size_t IgnoreWhiteSpaces(std::string_view text, std::size_t start) {
+    const auto found = text.find_first_not_of(kWhiteSpaces, start - 1);
+    return found == std::string_view::npos ? 0 : found + 1;
+}
+
+std::string TrimWhiteSpaces(std::string_view text) {
+    const auto first = text.find_first_not_of(kWhiteSpaces);
+    if (first == std::string_view::npos) return {};
+    return std::string(text.substr(first, text.find_last_not_of(kWhiteSpaces) - first + 1));
+}
+
+bool IsUrlValue(std::string_view value) {
+    return StartsWithIgnoringCase(value, kUrl);
+}
+
+bool FileNameOfUrl(std::string_view value, std::string& name) {
+    std::size_t first = IgnoreWhiteSpaces(value, 1 + kUrl.size());
+    if (first != 0) first = IgnoreWhiteSpaces(value, first + 1);
+    if (first == 0)
+        throw RunTimeError(ErrorNumber::kInvalidCall, "Nothing follows url in a style sheet");
+    std::size_t last = value.find(')', first - 1);
+    if (last == std::string_view::npos) return false;
+    while (IsQuote(value, first))
+        ++first;
+    while (IsQuote(value, last))
+        --last;
+    name =
+        last >= first ? TrimWhiteSpaces(value.substr(first - 1, last - first + 1)) : std::string();
+    return true;
+}
+
+bool StaysInsideFolder(std::string_view name) {
+    if (name.find(':') != std::string_view::npos || name.starts_with('\\') || name.starts_with('/'))
+        return false;
+    for (std::size_t start = 0; start <= name.size();) {
+        const auto end = std::min(name.find_first_of("\\/", start), name.size());
+        if (name.substr(start, end - start) == "..") return false;
+        start = end + 1;
+    }
+    return true;
+}
+
+}  // namespace morpho
