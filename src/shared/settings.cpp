@@ -1,0 +1,54 @@
+#include "shared/settings.h"
+
+#include "platform/environment.h"
+#include "platform/platform.h"
+#include "platform/run_time_error.h"
+#include "shared/numbers.h"
+#include "shared/reg_key.h"
+
+namespace morpho {
+
+namespace {
+
+std::string SettingsPath(std::string_view application, std::string_view section) {
+    return "Software\\VB and VBA Program Settings\\" + std::string(application) + '\\' +
+           std::string(section);
+}
+
+}  // namespace
+
+std::string GetSetting(const Platform& platform, std::string_view application,
+                       std::string_view section, std::string_view key, std::string_view fallback) {
+    RegKey settings(platform.registry, platform.environment);
+    std::string value;
+    const bool found = settings.OpenKey(kCurrentUser, SettingsPath(application, section)) &&
+                       settings.QueryValueEx_SZ(key, value);
+    return found ? value : std::string(fallback);
+}
+
+int GetSettingNumber(const Platform& platform, std::string_view application,
+                     std::string_view section, std::string_view key, int fallback) {
+    const std::string text =
+        GetSetting(platform, application, section, key, std::to_string(fallback));
+    try {
+        return WholeNumber(Val(text));
+    } catch (const RunTimeError&) {
+        return fallback;
+    }
+}
+
+bool SaveSetting(const Platform& platform, std::string_view application, std::string_view section,
+                 std::string_view key, std::string_view value) {
+    RegKey settings(platform.registry, platform.environment);
+    return settings.CreateKey(kCurrentUser, SettingsPath(application, section)) &&
+           settings.SetValueEx_SZ(key, value);
+}
+
+bool DeleteSetting(const Platform& platform, std::string_view application, std::string_view section,
+                   std::string_view key) {
+    RegKey settings(platform.registry, platform.environment);
+    return settings.OpenKey(kCurrentUser, SettingsPath(application, section)) &&
+           platform.registry.DeleteValue(settings.hKey(), key) == kRegSuccess;
+}
+
+}  // namespace morpho
