@@ -1,0 +1,78 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/file_system.h"
+#include "platform/run_time_error.h"
+
+namespace morpho::test {
+
+// Files in memory, on the drives C: and Z:. It remembers every change and fails when told to.
+class FakeFileSystem : public FileSystem {
+  public:
+    FakeFileSystem();
+
+    // Put an entry there, with the folders above it. These neither count nor fail.
+    void PutFile(std::string_view path, std::string_view bytes,
+                 FileAttributes attributes = kArchiveAttribute);
+    void PutFolder(std::string_view path, FileAttributes attributes = 0);
+
+    bool HasFile(std::string_view path) const;
+    bool HasFolder(std::string_view path) const;
+    // The file's bytes; a test failure when there is no such file.
+    std::string Bytes(std::string_view path) const;
+    // The paths of all files in the folder and below, sorted, as spelled and relative to it.
+    std::vector<std::string> FilesBelow(std::string_view folder) const;
+
+    // Every operation but Find that names this path (as source or destination) fails from now on.
+    void FailOn(std::string_view path, ErrorNumber number = ErrorNumber::kPathFileAccess);
+    // The nth operation but Find from now on fails, once; 1 is the next.
+    void FailAt(int nth, ErrorNumber number = ErrorNumber::kPathFileAccess);
+    void FailNoMore();
+
+    // Every change that succeeded, in order, such as "WriteFile C:\a.txt" and "CopyFile C:\a >
+    // C:\b".
+    const std::vector<std::string>& Changes() const { return changes_; }
+
+    std::optional<FileEntry> Find(std::string_view path) const override;
+    std::vector<FileEntry> List(std::string_view folder) const override;
+    std::string ReadFile(std::string_view path) const override;
+    void WriteFile(std::string_view path, std::string_view bytes) override;
+    void AppendFile(std::string_view path, std::string_view bytes) override;
+    void CopyFile(std::string_view source, std::string_view destination) override;
+    void MoveFile(std::string_view source, std::string_view destination) override;
+    void DeleteFile(std::string_view path) override;
+    void CreateFolder(std::string_view path) override;
+    void CopyFolder(std::string_view source, std::string_view destination) override;
+    void DeleteFolder(std::string_view path) override;
+
+  private:
+    struct Node {
+        std::string name;
+        FileAttributes attributes = 0;
+        std::string bytes;
+        bool IsFolder() const { return (attributes & kFolderAttribute) != 0; }
+    };
+    // By path in lower case without doubled or trailing "\".
+    using Nodes = std::map<std::string, Node>;
+
+    void Count(std::string_view path) const;
+    const Node& File(std::string_view path) const;
+    void RequireFolder(std::string_view path) const;
+    void Store(std::string_view path, std::string_view bytes);
+    void Remember(std::string_view operation, std::string_view path,
+                  std::string_view destination = {});
+    Nodes Below(const std::string& key) const;
+
+    Nodes nodes_;
+    std::vector<std::string> changes_;
+    std::map<std::string, ErrorNumber> failingPaths_;
+    mutable int untilFailure_ = 0;
+    ErrorNumber failure_ = ErrorNumber::kPathFileAccess;
+};
+
+}  // namespace morpho::test
