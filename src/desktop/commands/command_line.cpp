@@ -1,0 +1,142 @@
+#include "desktop/commands/command_line.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <map>
+#include <sstream>
+
+#include "platform/ignoring_case.h"
+#include "theme_editor/adjustment_sliders.h"
+#include "theme_editor/catalogue.h"
+
+namespace morpho {
+
+namespace {
+
+constexpr const char* kSteps =
+    "Steps run in the order given, on the same window that a person uses. A theme opens with all its elements\n"
+    "selected, so a batch that means some of them begins with --select none. Elements that share a picture are\n"
+    "selected together.";
+
+bool IsSelectionWord(const std::string& word) {
+    static constexpr std::array<std::string_view, 4> kGroups{"all", "none", "active", "normal"};
+    const auto isWord = [&](std::string_view known) { return EqualIgnoringCase(known, word); };
+    return std::any_of(kGroups.begin(), kGroups.end(), isWord) ||
+           std::any_of(kCatalogue.begin(), kCatalogue.end(),
+                       [&](const CatalogueElement& element) { return isWord(element.key); });
+}
+
+Step SelectStep(const std::string& argument) {
+    Step step{Step::Kind::kSelect};
+    std::istringstream words(argument);
+    for (std::string word; std::getline(words, word, ',');) {
+        if (!IsSelectionWord(word)) {
+            throw CommandError(CommandError::Status::kWrongUsage,
+                               "--select: \"" + word + "\" is neither all, none, active, normal nor an element key.");
+        }
+        step.words.push_back(Lowered(word));
+    }
+    if (step.words.empty()) {
+        throw CommandError(CommandError::Status::kWrongUsage, "--select: nothing is named.");
+    }
+    return step;
+}
+
+// The options that are steps, with what each may be given.
+class StepOptions {
+  public:
+    explicit StepOptions(CLI::App& command) : command_(command) {
+        const auto& factor = AdjustmentSliders::kFactorRange;
+        const auto& hue = AdjustmentSliders::kHueRange;
+        options_[command.add_option("--select", select_, "Elements to add to the selection, separated by commas: all, active, normal or element keys; none clears it")
+                     ->group("Steps")] = Step::Kind::kSelect;
+        Number("--brightness", Step::Kind::kBrightness, factor.minimum, factor.maximum, "Brightness in percent; 100 is neutral");
+        Number("--saturation", Step::Kind::kSaturation, factor.minimum, factor.maximum, "Saturation in percent; 100 is neutral");
+        Number("--hue", Step::Kind::kHue, hue.minimum, hue.maximum, "Hue shift in degrees; 0 is neutral, 120 carries red towards green");
+        Number("--quality", Step::Kind::kQuality, 1, 100, "JPEG quality from here on; 75 if never given");
+        Plain("--apply", Step::Kind::kApply, "Apply the sliders to the selected elements");
+        Plain("--undo", Step::Kind::kUndo, "Undo the last step");
+        Plain("--redo", Step::Kind::kRedo, "Redo the step undone last");
+        Plain("--reset", Step::Kind::kReset, "Restore all original pictures");
+    }
+
+    // The steps as they stand on the command line.
+    std::vector<Step> InOrder() const {
+        std::vector<Step> steps;
+        std::map<const CLI::Option*, std::size_t> taken;
+        for (const CLI::Option* option : command_.parse_order()) {
+            const auto found = options_.find(option);
+            if (found == options_.end()) continue;
+            const std::size_t occurrence = taken[option]++;
+            steps.push_back(StepOf(found->second, *option, occurrence));
+        }
+        return steps;
+    }
+
+  private:
+    void Number(const char* name, Step::Kind kind, int least, int most, const char* help) {
+        CLI::Option* option = command_.add_option(name, numbers_[kind], help)->check(CLI::Range(least, most))->group("Steps");
+        options_[option] = kind;
+    }
+
+    void Plain(const char* name, Step::Kind kind, const char* help) {
+        options_[command_.add_flag(name, help)->group("Steps")] = kind;
+    }
+
+    static Step StepOf(Step::Kind kind, const CLI::Option& option, std::size_t occurrence) {
+        if (kind == Step::Kind::kSelect) return SelectStep(option.results().at(occurrence));
+        Step step{kind};
+        if (option.get_items_expected_max() > 0) step.number = std::stoi(option.results().at(occurrence));
+        return step;
+    }
+
+    CLI::App& command_;
+    std::map<const CLI::Option*, Step::Kind> options_;
+    std::vector<std::string> select_;
+    std::map<Step::Kind, std::vector<int>> numbers_;
+};
+
+}  // namespace
+
+Request ParseCommandLine(int argc, const char* const* argv, const std::string& version) {
+    CLI::App app("Recolours the graphics of FrontPage webs.", "morpho");
+    app.set_version_flag("--version", "morpho " + version);
+    app.require_subcommand(1);
+
+    ThemeRequest theme;
+    CLI::App* themeCommand = app.add_subcommand("theme", "Open a web's theme in the Theme Morpho window");
+    themeCommand->add_option("WEB", theme.web, "Folder of the web")->required();
+    themeCommand->add_option("--theme", theme.theme, "Theme to open; the web's first if not given");
+
+    ListRequest list;
+    CLI::App* listCommand = app.add_subcommand("list", "List a web's themes and their elements");
+    listCommand->add_option("WEB", list.web, "Folder of the web")->required();
+    listCommand->add_option("--theme", list.theme, "List this theme's elements: key, file, image group");
+    listCommand->add_flag("--json", list.json, "Print all as JSON");
+
+    RecolorRequest recolor;
+    CLI::App* recolorCommand = app.add_subcommand("recolor", "Recolour a theme in a batch");
+    recolorCommand->footer(kSteps);
+    recolorCommand->add_option("WEB", recolor.web, "Folder of the web")->required();
+    recolorCommand->add_option("--theme", recolor.theme, "Theme to recolour")->required();
+    recolorCommand->add_option("--export", recolor.exportFolder, "New or empty folder that gets the recoloured theme")->required();
+    recolorCommand->add_option("--picture", recolor.picture, "PNG file that gets a picture of the window after the steps");
+    recolorCommand->add_flag("--json", recolor.json, "Print the elements and the history as JSON");
+    const StepOptions steps(*recolorCommand);
+
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForVersion& call) {
+        return TextRequest{std::string(call.what()) + "\n"};
+    } catch (const CLI::CallForHelp&) {
+        return TextRequest{app.help()};
+    } catch (const CLI::ParseError& error) {
+        throw CommandError(CommandError::Status::kWrongUsage, std::string(error.what()) + ". See morpho --help.");
+    }
+    if (*themeCommand) return theme;
+    if (*listCommand) return list;
+    recolor.steps = steps.InOrder();
+    return recolor;
+}
+
+}  // namespace morpho

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <filesystem>
+
+namespace morpho {
+
+// The folder that a batch exports to: it gets all files or none.
+class ExportFolder {
+  public:
+    // Throws CommandError unless `folder` is empty, or missing in a folder that exists.
+    explicit ExportFolder(const std::filesystem::path& folder);
+
+    // Copies the files of `source` there, as a whole. Throws CommandError, and leaves nothing behind, when that fails.
+    void Fill(const std::filesystem::path& source) const;
+
+  private:
+    std::filesystem::path folder_;
+};
+
+}  // namespace morpho

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace morpho {
+
+// What a command line asks for.
+
+// One step of a batch, as a person would take it in the window.
+struct Step {
+    enum class Kind { kSelect, kBrightness, kSaturation, kHue, kQuality, kApply, kUndo, kRedo, kReset };
+    Kind kind = Kind::kApply;
+    std::vector<std::string> words = {};  // kSelect: "all", "none", "active", "normal" or element keys
+    int number = 0;                       // a slider's value, or the JPEG quality
+};
+
+struct ThemeRequest {
+    std::filesystem::path web;
+    std::string theme;  // empty: the web's first
+};
+
+struct ListRequest {
+    std::filesystem::path web;
+    std::string theme;  // empty: all
+    bool json = false;
+};
+
+struct RecolorRequest {
+    std::filesystem::path web;
+    std::string theme;
+    std::vector<Step> steps;
+    std::filesystem::path exportFolder;
+    std::filesystem::path picture;  // where to draw the window; empty: nowhere
+    bool json = false;
+};
+
+// The command line asks for help or the version: `text` is what it gets.
+struct TextRequest {
+    std::string text;
+};
+
+using Request = std::variant<TextRequest, ThemeRequest, ListRequest, RecolorRequest>;
+
+// A command line that cannot be understood (status 2), or a world that refuses what it asks for (status 1); one
+// sentence, UTF-8.
+class CommandError : public std::runtime_error {
+  public:
+    enum class Status { kRefused = 1, kWrongUsage = 2 };
+    CommandError(Status status, const std::string& sentence) : std::runtime_error(sentence), status_(status) {}
+    int ExitStatus() const { return static_cast<int>(status_); }
+
+  private:
+    Status status_;
+};
+
+}  // namespace morpho
