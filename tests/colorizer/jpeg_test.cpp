@@ -1,0 +1,197 @@
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+#include "colorizer/colorizer.h"
+#include "colorizer/pictures.h"
+
+namespace colorizer {
+namespace {
+
+using testing::HasSubstr;
+using testing::ThrowsMessage;
+
+constexpr int kDqt = 0xDB, kDri = 0xDD, kSof0 = 0xC0, kSof2 = 0xC2, kSos = 0xDA;
+constexpr std::array<std::pair<int, int>, 3> k444{{{1, 1}, {1, 1}, {1, 1}}};
+
+/// Every kind of file that is taken.
+const std::vector<std::pair<const char*, JpegKind>>& Kinds() {
+    static const Bytes kExif = MakeSegment(0xE1, FromText("Exif") + Bytes(300, 7));
+    static const Bytes kIcc = MakeSegment(0xE2, FromText("ICC_PROFILE") + Bytes(99, 3));
+    static const Bytes kComment = MakeSegment(0xFE, FromText("made by hand"));
+    static const std::vector<std::pair<const char*, JpegKind>> kKinds{
+        {"4:2:0", {}},
+        {"4:4:4", {.sampling = k444}},
+        {"4:2:2", {.sampling = {{{2, 1}, {1, 1}, {1, 1}}}}},
+        {"4:4:0", {.sampling = {{{1, 2}, {1, 1}, {1, 1}}}}},
+        {"4:1:1", {.sampling = {{{4, 1}, {1, 1}, {1, 1}}}}},
+        {"Cb and Cr unlike", {.sampling = {{{2, 2}, {2, 1}, {1, 2}}}}},
+        {"grey", {.colour = 'g'}},
+        {"RGB", {.colour = 'r'}},
+        {"RGB, progressive", {.colour = 'r', .isProgressive = true}},
+        {"progressive", {.isProgressive = true}},
+        {"progressive 4:4:4 with restarts",
+         {.sampling = k444, .isProgressive = true, .restartInterval = 2}},
+        {"restarts", {.restartInterval = 2}},
+        {"planes", {.isInterleaved = false}},
+        {"own Huffman tables", {.hasOwnHuffmanTables = true}},
+        {"16-bit steps", {.quality = 20, .stepFactor = 3}},
+        {"Exif, profile, comment", {.segments = kExif + kIcc + kComment + kIcc}},
+        {"one pixel", {.width = 1, .height = 1}},
+        {"whole blocks", {.width = 48, .height = 32}},
+        {"one pixel over", {.width = 33, .height = 17}},
+    };
+    return kKinds;
+}
+
+std::vector<Segment> Frame(const Bytes& jpeg) {
+    return Segments(jpeg, kSof0, kSof2);
+}
+std::vector<Segment> Kept(const Bytes& jpeg) {
+    return Segments(jpeg, 0xE0, 0xFE);
+}
+std::size_t Scans(const Bytes& jpeg) {
+    return Segments(jpeg, kSos, kSos).size();
+}
+
+TEST(Jpeg, KeepsAllButTheCoefficients) {
+    for (const auto& [name, kind] : Kinds()) {
+        SCOPED_TRACE(name);
+        const Bytes before = MakeJpeg(kind) + FromText("trailing bytes");
+        const Bytes after = Recolored(before, {0.9, 1.2, 50});
+        EXPECT_EQ(Frame(after), Frame(before));
+        EXPECT_EQ(Kept(after), Kept(before));
+        EXPECT_EQ(Segments(after, kDqt, kDqt), Segments(before, kDqt, kDqt));
+        EXPECT_EQ(Segments(after, kDri, kDri), Segments(before, kDri, kDri));
+        EXPECT_EQ(Scans(after), Scans(before));
+        EXPECT_EQ(Bytes(after.end() - 14, after.end()), FromText("trailing bytes"));
+    }
+}
+
+TEST(Jpeg, GetsStandardTablesWithAQuality) {
+    for (const auto& [name, kind] : Kinds()) {
+        SCOPED_TRACE(name);
+        JpegKind asked = kind;
+        asked.quality = 60;
+        asked.stepFactor = 1;
+        const Bytes after = Recolored(MakeJpeg(kind), {}, 60);
+        EXPECT_EQ(Segments(after, kDqt, kDqt), Segments(MakeJpeg(asked), kDqt, kDqt));
+        EXPECT_EQ(Kept(after), Kept(MakeJpeg(kind)));
+        EXPECT_EQ(Scans(after), Scans(MakeJpeg(kind)));
+    }
+}
+
+/// The exact colour after the pass: YCbCr, grey or RGB as in the file.
+std::array<double, 3> Exact(std::array<double, 3> colour, const Adjustment& adjustment, char kind) {
+    auto& [y, cb, cr] = colour;
+    if (kind == 'r') {
+        const auto [red, green, blue] = colour;
+        y = 0.299 * red + 0.587 * green + 0.114 * blue;
+        cb = (blue - y) / 1.772 + 128;
+        cr = (red - y) / 1.402 + 128;
+    }
+    const double angle = adjustment.hueDegrees * std::acos(-1.0) / 180;
+    const double strength = adjustment.brightness * adjustment.saturation, oldCb = cb - 128,
+                 oldCr = cr - 128;
+    y = std::clamp(adjustment.brightness * y, 0.0, 255.0);
+    cb = std::clamp(strength * (std::cos(angle) * oldCb - std::sin(angle) * oldCr), -128.0, 127.0) +
+         128;
+    cr = std::clamp(strength * (std::sin(angle) * oldCb + std::cos(angle) * oldCr), -128.0, 127.0) +
+         128;
+    if (kind != 'r') return colour;
+    const double red = y + 1.402 * (cr - 128), blue = y + 1.772 * (cb - 128);
+    return {red, (y - 0.299 * red - 0.114 * blue) / 0.587, blue};
+}
+
+/// The mean distance of the samples from the exact ones, in levels.
+double MeanError(const Bytes& before, const Bytes& after, const Adjustment& adjustment, char kind) {
+    const Bytes old = Samples(before), recolored = Samples(after);
+    const std::size_t channels = kind == 'g' ? 1 : 3;
+    double sum = 0;
+    for (std::size_t at = 0; at < old.size(); at += channels) {
+        std::array<double, 3> colour{128, 128, 128};
+        std::copy_n(old.data() + at, channels, colour.begin());
+        const auto exact = Exact(colour, adjustment, kind);
+        for (std::size_t c = 0; c < channels; ++c) {
+            sum += std::abs(recolored[at + c] - std::clamp(exact[c], 0.0, 255.0));
+        }
+    }
+    return sum / static_cast<double>(old.size());
+}
+
+TEST(Jpeg, HasTheColoursOfTheFormula) {
+    for (auto [name, kind] : Kinds()) {
+        if (kind.stepFactor > 1) continue;
+        kind.quality = 100;
+        const Bytes before = MakeJpeg(kind);
+        const bool isUnlike = kind.sampling[1] != kind.sampling[2];
+        for (const Adjustment& adjustment : {Adjustment{1, 1, 77},
+                                             {0.6, 1, 0},
+                                             {1, 1.7, 0},
+                                             {1.5, 2, -130},
+                                             {1, 0, 0},
+                                             {4, 4, 180},
+                                             {0, 1, 20},
+                                             {0.3, 4, 90}}) {
+            const Bytes after = Recolored(before, adjustment);
+            EXPECT_LT(MeanError(before, after, adjustment, kind.colour), isUnlike ? 3 : 0.8)
+                << name << " " << adjustment.brightness << " " << adjustment.saturation << " "
+                << adjustment.hueDegrees;
+        }
+    }
+}
+
+TEST(Jpeg, WithoutBrightnessIsBlackEvenWithCoarseTables) {
+    const Bytes samples = Samples(Recolored(MakeJpeg({.colour = 'g', .quality = 5}), {0, 1, 0}));
+    EXPECT_THAT(samples, testing::Each(0));
+}
+
+void ExpectRefused(const Bytes& jpeg, const char* reason) {
+    EXPECT_THAT([&] { Recolored(jpeg, {1, 1, 90}); }, ThrowsMessage<Error>(HasSubstr(reason)));
+}
+
+Bytes WithByte(Bytes jpeg, std::size_t place, std::uint8_t value) {
+    jpeg[place] = value;
+    return jpeg;
+}
+
+TEST(Jpeg, OfAnotherKindIsRefused) {
+    const Bytes jpeg = MakeJpeg({});
+    const std::size_t frame = Frame(jpeg)[0].start;
+    ExpectRefused(MakeJpeg({.colour = 'k'}), "CMYK");
+    ExpectRefused(MakeJpeg({.isArithmetic = true}), "arithmetic");
+    ExpectRefused(WithByte(jpeg, frame + 1, 0xC3), "Lossless");
+    ExpectRefused(WithByte(jpeg, frame + 4, 12), "12 bits");
+    ExpectRefused(FromText("BM is another format"), "neither");
+    ExpectRefused({}, "neither");
+}
+
+TEST(Jpeg, ThatClaimsTooMuchIsRefused) {
+    const Bytes jpeg = MakeJpeg({});
+    const std::size_t frame = Frame(jpeg)[0].start;
+    const auto sized = [&](std::uint8_t high) {
+        return WithByte(WithByte(jpeg, frame + 5, high), frame + 7, high);
+    };
+    ExpectRefused(sized(0xFF), "too many pixels");
+    ExpectRefused(sized(0x20), "truncated");
+    Bytes segments;
+    for (std::size_t count = 0; count < kMaxSegments; ++count)
+        segments = std::move(segments) + MakeSegment(0xFE, {});
+    ExpectRefused(MakeJpeg({.segments = segments}), "too many marker segments");
+}
+
+TEST(Jpeg, CutAnywhereIsRefused) {
+    for (const JpegKind& kind : {JpegKind{}, JpegKind{.isProgressive = true}}) {
+        const Bytes jpeg = MakeJpeg(kind);
+        for (std::size_t length = 0; length < jpeg.size(); ++length) {
+            EXPECT_THROW(Recolored(std::span(jpeg).first(length), {1, 1, 90}), Error) << length;
+        }
+        for (std::size_t length = 700; length < jpeg.size() - 20; ++length) {
+            const Bytes cut = Bytes(jpeg.data(), jpeg.data() + length) + Bytes{0xFF, 0xD9};
+            EXPECT_THROW(Recolored(cut, {1, 1, 90}), Error) << length << " and an end marker";
+        }
+    }
+}
+
+}  // namespace
+}  // namespace colorizer
