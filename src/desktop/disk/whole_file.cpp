@@ -1,0 +1,119 @@
+#include "desktop/disk/whole_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <atomic>
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+
+#include "desktop/disk/disk_path.h"
+#include "desktop/disk/file_error.h"
+
+namespace morpho {
+
+namespace {
+
+constexpr std::size_t kChunk = 256 * 1024;
+constexpr std::string_view kCannotWrite = "could not be written";
+
+// Reads at most `size` bytes; throws when that fails.
+std::size_t ReadSome(const Descriptor& file, char* into, std::size_t size,
+                     const std::string& diskPath) {
+    for (;;) {
+        const ssize_t count = ::read(file.Number(), into, size);
+        if (count >= 0) return static_cast<std::size_t>(count);
+        if (errno != EINTR) throw FileError(errno, diskPath, "could not be read");
+    }
+}
+
+// A short name, so that it fits beside a file whose own name is as long as can be.
+std::string NameBeside() {
+    static std::atomic<unsigned> serial = 0;
+    return ".morpho-" + std::to_string(::getpid()) + "-" + std::to_string(++serial) + ".tmp";
+}
+
+}  // namespace
+
+bool WriteAll(int number, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t count = ::write(number, bytes.data(), bytes.size());
+        if (count < 0 && errno != EINTR) return false;
+        if (count > 0) bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+    return true;
+}
+
+std::string ReadWhole(const Descriptor& file, const std::string& diskPath) {
+    struct stat status = {};
+    std::string bytes;
+    // One byte more than the file's size, so that its end is met without growing.
+    if (::fstat(file.Number(), &status) == 0)
+        bytes.resize(static_cast<std::size_t>(status.st_size) + 1);
+    std::size_t filled = 0;
+    for (;;) {
+        if (filled == bytes.size()) bytes.resize(bytes.size() + kChunk);
+        const std::size_t count =
+            ReadSome(file, bytes.data() + filled, bytes.size() - filled, diskPath);
+        if (count == 0) break;
+        filled += count;
+    }
+    bytes.resize(filled);
+    return bytes;
+}
+
+WholeFile::WholeFile(std::string diskPath, Durability durability)
+    : path_(std::move(diskPath)), durability_(durability) {
+    OpenBeside();
+    try {
+        KeepModeOfExisting();
+    } catch (...) {
+        ::unlink(besidePath_.c_str());
+        throw;
+    }
+}
+
+WholeFile::~WholeFile() {
+    if (!besidePath_.empty()) ::unlink(besidePath_.c_str());
+}
+
+void WholeFile::OpenBeside() {
+    do {
+        besidePath_ = JoinDiskPath(ParentFolder(path_), NameBeside());
+        file_ =
+            Descriptor(::open(besidePath_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    } while (!file_.IsOpen() && errno == EEXIST);
+    if (!file_.IsOpen()) throw FileError(errno, path_, kCannotWrite);
+}
+
+void WholeFile::KeepModeOfExisting() {
+    struct stat status = {};
+    if (::lstat(path_.c_str(), &status) != 0) return;
+    if (S_ISDIR(status.st_mode)) throw FileError(EISDIR, path_, kCannotWrite);
+    if (!S_ISREG(status.st_mode)) return;
+    if ((status.st_mode & S_IWUSR) == 0)
+        throw FileError(ErrorNumber::kPathFileAccess, path_, kCannotWrite, "it is read-only");
+    ::fchmod(file_.Number(), status.st_mode & 0777U);
+}
+
+void WholeFile::Write(std::string_view bytes) {
+    if (!WriteAll(file_.Number(), bytes)) throw FileError(errno, path_, kCannotWrite);
+}
+
+void WholeFile::CopyFrom(const Descriptor& file, const std::string& source) {
+    const auto chunk = std::make_unique_for_overwrite<char[]>(kChunk);
+    while (const std::size_t count = ReadSome(file, chunk.get(), kChunk, source))
+        Write({chunk.get(), count});
+}
+
+void WholeFile::Commit() {
+    if (durability_ == Durability::kFlushed && ::fsync(file_.Number()) != 0)
+        throw FileError(errno, path_, kCannotWrite);
+    if (!file_.Close()) throw FileError(errno, path_, kCannotWrite);
+    if (::rename(besidePath_.c_str(), path_.c_str()) != 0)
+        throw FileError(errno, path_, kCannotWrite);
+    besidePath_.clear();
+}
+
+}  // namespace morpho

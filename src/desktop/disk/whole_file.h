@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "desktop/disk/descriptor.h"
+
+namespace morpho {
+
+// Whether what is written must outlive a power failure.
+enum class Durability { kFlushed, kScratch };
+
+// Replaces a file of the disk as a whole, or creates it: the new contents are written beside it and
+// take its place with Commit. Without Commit the file stays as it was. An existing file's mode is
+// kept; a link is replaced, not followed. Failures throw RunTimeError naming the file.
+class WholeFile {
+  public:
+    WholeFile(std::string diskPath, Durability durability);
+    ~WholeFile();
+    WholeFile(const WholeFile&) = delete;
+    WholeFile& operator=(const WholeFile&) = delete;
+
+    void Write(std::string_view bytes);
+    // Writes all that is left to read there; `source` is its path, for the error.
+    void CopyFrom(const Descriptor& file, const std::string& source);
+    void Commit();
+
+  private:
+    void KeepModeOfExisting();
+    void OpenBeside();
+
+    std::string path_;
+    std::string besidePath_;
+    Durability durability_;
+    Descriptor file_;
+};
+
+// Everything in the open regular file, for reading small ones; `diskPath` is for the error.
+std::string ReadWhole(const Descriptor& file, const std::string& diskPath);
+
+// Writes all the bytes; false when that fails, with the reason in errno.
+bool WriteAll(int number, std::string_view bytes);
+
+}  // namespace morpho

@@ -1,0 +1,63 @@
+#include "desktop/disk/disk_path.h"
+
+#include <gtest/gtest.h>
+
+#include "desktop/temporary_folder.h"
+#include "desktop/text/utf8.h"
+
+namespace morpho {
+namespace {
+
+TEST(DiskPath, MapsTheRootAndWhatIsBelow) {
+    const auto expectBothWays = [](const std::string& disk, const std::string& windows) {
+        EXPECT_EQ(ToWindowsPath(disk), windows);
+        EXPECT_EQ(ToDiskPath(windows), disk);
+    };
+    expectBothWays("/", "Z:\\");
+    expectBothWays("/home/ann/My Web", "Z:\\home\\ann\\My Web");
+    expectBothWays("/Größe", "Z:\\Größe");
+}
+
+TEST(DiskPath, AcceptsOtherSpellings) {
+    const auto expectDisk = [](const char* windows, const char* disk) {
+        EXPECT_EQ(ToDiskPath(windows), disk) << windows;
+    };
+    expectDisk("z:\\a\\\\b\\", "/a/b");
+    expectDisk("Z:/a/b", "/a/b");
+    expectDisk("Z:", "/");
+    expectDisk("Z:\\a\\.\\b\\..\\c", "/a/c");
+    expectDisk("Z:\\..\\..\\a", "/a");
+}
+
+TEST(DiskPath, KnowsNoOtherDrive) {
+    for (const std::string_view path :
+         {"", "C:\\a", "\\a", "a\\b", "\\\\server\\a", "Z:a", "/a", "ZZ:\\a"})
+        EXPECT_FALSE(ToDiskPath(path)) << path;
+    EXPECT_FALSE(ToDiskPath(std::string_view("Z:\\a\0b", 6)));
+}
+
+TEST(DiskPath, BringsBackNamesThatWindowsCouldNotHold) {
+    for (const std::string name : {"caf\xE9", "a\\b", "\xEF\x9F\xA9", "\xFF\xC3", "\xC3\xA9"}) {
+        EXPECT_TRUE(IsUtf8(NameFromDisk(name)));
+        EXPECT_EQ(NameFromDisk(name).find('\\'), std::string::npos);
+        EXPECT_EQ(NameToDisk(NameFromDisk(name)), name);
+    }
+}
+
+TEST(DiskPath, FindsExistingNamesWithoutRegardToCase) {
+    const TemporaryFolder folder;
+    folder.Write("Images/Blatt_Ö.GIF", "x");
+    folder.Write("Both/name", "x");
+    folder.Write("Both/NAME", "x");
+    const auto expectFound = [&](const std::string& asked, const std::string& found) {
+        EXPECT_EQ(FindOnDisk(ToWindowsPath(folder / asked)), folder / found);
+    };
+    expectFound("images/blatt_ö.gif", "Images/Blatt_Ö.GIF");
+    expectFound("Both/name", "Both/name");
+    expectFound("both/Name", "Both/NAME");
+    expectFound("IMAGES/New.gif", "Images/New.gif");
+    expectFound("Nowhere/images", "Nowhere/images");
+}
+
+}  // namespace
+}  // namespace morpho
