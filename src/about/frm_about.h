@@ -17,11 +17,11 @@ class frmAbout : public LoggedForm {
     // "Enable logging" says; a mode that was on and stays on is kept. The caller stores it.
     void ShowAbout(Editor editor, int& logMode);
 
-    PictureBox imgBand;
+    PictureBox imgMorpho;
     Label lblName;
     Label lblVersion;
-    CheckBox chkLogging;
     Label lblWebSiteLink;  // visible when a web site is configured
+    CheckBox chkLogging;
     CommandButton btnQuickReference;
     CommandButton btnOK;
 

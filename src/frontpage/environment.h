@@ -3,7 +3,6 @@
 #include <string>
 #include <string_view>
 
-#include "platform/registry.h"
 #include "shared/component.h"
 
 namespace morpho {
@@ -37,10 +36,6 @@ std::string GetCachePath(const Platform& platform, std::string_view version);
 
 // The temporary folder with a trailing "\".
 std::string GetTempPath(const Platform& platform);
-
-// Reads a plain string value; false, and `value` as it was, when the key or the string is missing.
-bool GetRegString(const Platform& platform, RegHandle hive, std::string_view path,
-                  std::string_view name, std::string& value);
 
 // One line about the operating system; empty for one that is not Windows.
 std::string GetOSInfo(const Platform& platform);

@@ -16,12 +16,6 @@ namespace morpho {
 
 namespace {
 
-constexpr int kLogToFile = 1;
-constexpr int kLogToDebugger = 2;
-// The user's special folders, by name.
-constexpr const char* kShellFolders =
-    "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders";
-
 std::string LogLine(const Component& component, const LocalTime& now, std::string_view text) {
     char time[40];
     std::snprintf(time, sizeof time, "%02d:%02d:%02d", now.hour, now.minute, now.second);
@@ -48,7 +42,7 @@ void Enter(FileSystem& files, std::string& path, const char* folder) {
 void WriteLog(const Program& program, std::string_view text) {
     const Platform& platform = program.platform;
     Component& component = program.component;
-    if (component.logMode != kLogToFile && component.logMode != kLogToDebugger) return;
+    if (!IsLogOn(component.logMode)) return;
     const LocalTime now = platform.clock.Now();
     const std::string line = LogLine(component, now, text);
     if (component.logMode == kLogToDebugger) {
@@ -66,10 +60,8 @@ void WriteLog(const Program& program, std::string_view text) {
 
 std::string GetLogFolder(const Program& program) {
     const Platform& platform = program.platform;
-    RegKey folders(platform.registry, platform.environment);
     std::string path;
-    if (!folders.OpenKey(kCurrentUser, kShellFolders) ||
-        !folders.QueryValueEx_SZ("AppData", path) || path.empty())
+    if (!GetRegString(platform, kCurrentUser, kShellFolders, "AppData", path) || path.empty())
         return {};
     const auto entry = platform.files.Find(path);
     if (!entry || (entry->attributes & kSystemAttribute) != 0) return {};

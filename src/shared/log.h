@@ -7,6 +7,15 @@
 
 namespace morpho {
 
+// Values of Component::logMode. Any other is off, too.
+inline constexpr int kLogOff = 0;
+inline constexpr int kLogToFile = 1;
+inline constexpr int kLogToDebugger = 2;
+
+inline bool IsLogOn(int logMode) {
+    return logMode == kLogToFile || logMode == kLogToDebugger;
+}
+
 // Writes one line to the diagnostic log, "hh:mm:ss", logIndent + 1 spaces and the text, as
 // Component::logMode says: to the file of this day, to the debugger output, or nowhere. The file is
 // opened and closed for each line, so that it is complete even if the host dies. Throws

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/environment.h"
+#include "platform/platform.h"
 #include "shared/mod_shared_code.h"
 
 namespace morpho {
@@ -160,6 +161,12 @@ bool RegKey::SetValueEx_SZ(std::string_view name, std::string_view value, RegTyp
     std::string data(value);
     if (environment_.Os().platformId == kWindows9xPlatform) data += '\0';
     return Done(registry_.SetValue(chosen, name, type, std::as_bytes(std::span(data))));
+}
+
+bool GetRegString(const Platform& platform, RegHandle hive, std::string_view path,
+                  std::string_view name, std::string& value) {
+    RegKey key(platform.registry, platform.environment);
+    return key.OpenKey(hive, path) && key.QueryValueEx_SZ(name, value);
 }
 
 }  // namespace morpho

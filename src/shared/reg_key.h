@@ -11,6 +11,7 @@
 namespace morpho {
 
 class Environment;
+struct Platform;
 
 // Holds at most one open registry key, which is closed with the object. No member throws: each
 // operation returns whether it succeeded, and GetLastError and GetErrorDescription tell why not.
@@ -77,5 +78,14 @@ class RegKey {
     std::int32_t status_ = kSystem;
     std::int32_t errorData_ = 0;
 };
+
+// The key below HKEY_CURRENT_USER that holds the user's special folders by name ("AppData",
+// "Cache").
+inline constexpr std::string_view kShellFolders =
+    "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders";
+
+// Reads a plain string value; false, and `value` as it was, when the key or the string is missing.
+bool GetRegString(const Platform& platform, RegHandle hive, std::string_view path,
+                  std::string_view name, std::string& value);
 
 }  // namespace morpho

@@ -19,11 +19,9 @@ std::string SettingsPath(std::string_view application, std::string_view section)
 
 std::string GetSetting(const Platform& platform, std::string_view application,
                        std::string_view section, std::string_view key, std::string_view fallback) {
-    RegKey settings(platform.registry, platform.environment);
-    std::string value;
-    const bool found = settings.OpenKey(kCurrentUser, SettingsPath(application, section)) &&
-                       settings.QueryValueEx_SZ(key, value);
-    return found ? value : std::string(fallback);
+    std::string value(fallback);
+    GetRegString(platform, kCurrentUser, SettingsPath(application, section), key, value);
+    return value;
 }
 
 int GetSettingNumber(const Platform& platform, std::string_view application,
