@@ -8,12 +8,8 @@ namespace morpho {
 namespace {
 
 constexpr std::string_view kWhiteSpaces = " \r\n\t\v";
+constexpr std::string_view kQuotes = "\"'";
 constexpr std::string_view kUrl = "url";
-
-bool IsQuote(std::string_view text, std::size_t position) {
-    return position >= 1 && position <= text.size() &&
-           (text[position - 1] == '"' || text[position - 1] == '\'');
-}
 
 }  // namespace
 
@@ -37,14 +33,12 @@ bool FileNameOfUrl(std::string_view value, std::string& name) {
     if (first != 0) first = IgnoreWhiteSpaces(value, first + 1);
     if (first == 0)
         throw RunTimeError(ErrorNumber::kInvalidCall, "Nothing follows url in a style sheet");
-    std::size_t last = value.find(')', first - 1);
-    if (last == std::string_view::npos) return false;
-    while (IsQuote(value, first))
-        ++first;
-    while (IsQuote(value, last))
-        --last;
-    name =
-        last >= first ? TrimWhiteSpaces(value.substr(first - 1, last - first + 1)) : std::string();
+    const std::size_t close = value.find(')', first - 1);
+    if (close == std::string_view::npos) return false;
+    std::string inside = TrimWhiteSpaces(value.substr(first - 1, close - (first - 1)));
+    inside.erase(0, inside.find_first_not_of(kQuotes));
+    inside.erase(inside.find_last_not_of(kQuotes) + 1);
+    name = TrimWhiteSpaces(inside);
     return true;
 }
 
