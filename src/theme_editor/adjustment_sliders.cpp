@@ -34,6 +34,7 @@ void AdjustmentSliders::MoveToNeutral() {
     saturation_.SetValue(kFactorRange.value);
     brightness_.SetValue(kFactorRange.value);
     hue_.SetValue(kHueRange.value);
+    ShowValues();  // a thumb that was still being dragged has raised no Change
 }
 
 }  // namespace morpho
