@@ -57,8 +57,9 @@ void ElementRenderer::AskQuality(Colorizer& colorizer) {
     const CapturedWindow captured = toolkit.ReleaseCapture();
     prompt.ShowModal();
     toolkit.SetCapture(captured);
-    askJpegQuality_ = static_cast<std::int16_t>(prompt.vsQF.Value());
-    colorizer.SetQuality(askJpegQuality_);
+    const auto quality = static_cast<std::int16_t>(prompt.vsQF.Value());
+    colorizer.SetQuality(quality);
+    askJpegQuality_ = quality;
 }
 
 }  // namespace morpho

@@ -73,6 +73,8 @@ void frmThemeMorpho::LoadCurrentTheme() {
     currentThemeIndex_ = cmbThemeName.ListIndex();
     const std::string name = cmbThemeName.Text();
     loadFailure_.clear();
+    renderer_.SetFolders(fpThemeTempPath_ + name + "\\", WorkFolder() + "\\");
+    preview_.SetTheme(name, WorkRoot() + "\\Theme.htm");
     try {
         loader_.LoadTheme(name, fpThemeTempPath_ + name, WorkRoot());
     } catch (const RunTimeError& error) {
@@ -81,12 +83,6 @@ void frmThemeMorpho::LoadCurrentTheme() {
         colorization_.Begin();
         throw;
     }
-    ShowThemeLoaded(name);
-}
-
-void frmThemeMorpho::ShowThemeLoaded(const std::string& name) {
-    renderer_.SetFolders(fpThemeTempPath_ + name + "\\", WorkFolder() + "\\");
-    preview_.SetTheme(name, WorkRoot() + "\\Theme.htm");
     preview_.GeneratePreview(loading_);
     colorization_.Begin();
     cmdSelectAll_Click();
@@ -180,10 +176,9 @@ void frmThemeMorpho::btnHelp_Click() {
 }
 
 void frmThemeMorpho::Form_QueryUnload(bool& cancel, bool /*byUser*/) {
-    if (busySwitch_.Busy() || (colorization_.Modified() && !MayLeaveTheme(true))) {
-        cancel = true;
-        return;
-    }
+    cancel = true;  // and so it stays if asking or saving fails
+    if (busySwitch_.Busy() || (colorization_.Modified() && !MayLeaveTheme(true))) return;
+    cancel = false;
     SavePlacement();
     DeleteWorkFolder();
     WriteLog("Unloading TM");

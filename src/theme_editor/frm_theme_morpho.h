@@ -213,7 +213,6 @@ class frmThemeMorpho : public LoggedForm {
     void StartUpFailed(const RunTimeError* error);
 
     void LoadCurrentTheme();
-    void ShowThemeLoaded(const std::string& name);
     // Asks what to do with unsaved changes; false when the person, or a failed save, wants to stay.
     bool MayLeaveTheme(bool closing);
     bool SaveTheme(const std::string& name, const std::string& title, bool applyFlag, bool asNew);

@@ -108,7 +108,6 @@ void frmThemeMorpho::OpenFirstTheme() {
 }
 
 void frmThemeMorpho::StartUpFailed(const RunTimeError* error) {
-    WriteLog("Error occured while loading TM");
     Control* const unusable[] = {
         &cmbThemeLabel,   &lstImageNames,   &cmdSelectAll,    &cmdSelectNone,
         &cmdSelectActive, &cmdSelectNormal, &wbbImagePreview, &sldBrightness,
@@ -116,6 +115,7 @@ void frmThemeMorpho::StartUpFailed(const RunTimeError* error) {
         &cmdRedo,         &cmdReset,        &cmdSave,         &cmdSaveAs};
     for (Control* control : unusable)
         control->SetEnabled(false);
+    WriteLog("Error occured while loading TM");  // only now: the log may be what failed
     if (error != nullptr && error->Number() == ErrorNumber::kCannotCreateComponent) {
         MsgBox(kNoColorizer, kOkOnly | kCriticalIcon, kThemeProduct);
     }
