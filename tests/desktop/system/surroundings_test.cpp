@@ -1,0 +1,82 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <map>
+#include <thread>
+
+#include "desktop/disk/disk_path.h"
+#include "desktop/system/desktop_environment.h"
+#include "desktop/system/desktop_shell.h"
+#include "desktop/system/user_folders.h"
+#include "desktop/temporary_folder.h"
+
+namespace morpho {
+namespace {
+
+TEST(UserFolders, FollowTheEnvironment) {
+    const auto folders = [](std::map<std::string, std::string> variables) {
+        return FindUserFolders([variables](const char* name) {
+            const auto found = variables.find(name);
+            return found == variables.end() ? std::string() : found->second;
+        });
+    };
+    EXPECT_EQ(folders({{"HOME", "/home/ann"}}).cache, "/home/ann/.cache/morpho");
+    EXPECT_EQ(folders({{"HOME", "/home/ann"}}).data, "/home/ann/.local/share/morpho");
+    EXPECT_EQ(folders({{"HOME", "/h"}, {"XDG_DATA_HOME", "/d"}}).data, "/d/morpho");
+    EXPECT_EQ(folders({{"HOME", "/h"}, {"XDG_CACHE_HOME", "rel"}}).cache, "/h/.cache/morpho");
+}
+
+TEST(DesktopEnvironment, AnswersItsOwnTemporaryFolder) {
+    const DesktopEnvironment environment({"Morpho", 1, 2, 3, ""}, "/cache/run-1/temp");
+    EXPECT_EQ(environment.Variable("TMP"), "Z:\\cache\\run-1\\temp");
+    EXPECT_EQ(environment.Variable("temp"), "Z:\\cache\\run-1\\temp");
+    EXPECT_EQ(environment.Variable("NoSuchVariableAtAll"), "");
+    EXPECT_TRUE(FindOnDisk(environment.ModuleFolder() + "\\test_system"));
+    EXPECT_GT(environment.Os().major, 0U);
+}
+
+class DesktopShellTest : public testing::Test {
+  protected:
+    TemporaryFolder folder_;
+    std::string help_ = folder_.Write("help/index.html", "help");
+    std::vector<std::string> started_;
+    DesktopShell shell_{{folder_ / "none.html", help_}, [this](const auto& command) {
+                            started_ = command;
+                            return true;
+                        }};
+};
+
+TEST_F(DesktopShellTest, OpensTheHelpPageForTheHelpViewer) {
+    EXPECT_GT(shell_.WinExec("Winhlp32.exe Z:\\opt\\morpho\\morpho.hlp", 1), 31);
+    EXPECT_EQ(started_, (std::vector<std::string>{"xdg-open", help_}));
+    started_.clear();
+    EXPECT_LE(shell_.WinExec("calc.exe", 1), 31);
+    EXPECT_TRUE(started_.empty());
+}
+
+TEST_F(DesktopShellTest, OpensAddressesAndExistingFilesOnly) {
+    const auto expectOpened = [this](const std::string& file, const std::string& target) {
+        started_.clear();
+        EXPECT_GT(shell_.ShellExecute("open", file, "", 1), 32) << file;
+        EXPECT_EQ(started_, (std::vector<std::string>{"xdg-open", target}));
+    };
+    expectOpened("https://example.org/", "https://example.org/");
+    expectOpened(ToWindowsPath(folder_ / "HELP/index.HTML"), help_);
+    started_.clear();
+    for (const char* file : {"--help", "Z:\\no such file", "javascript:x", "calc", ""})
+        EXPECT_LE(shell_.ShellExecute("open", file, "", 1), 32) << file;
+    EXPECT_LE(shell_.ShellExecute("print", "https://example.org/", "", 1), 32);
+    EXPECT_TRUE(started_.empty());
+}
+
+TEST(StartDetached, TellsWhetherTheProgramBegan) {
+    const TemporaryFolder folder;
+    EXPECT_TRUE(StartDetached({"touch", folder / "started"}));
+    EXPECT_FALSE(StartDetached({folder / "no program"}));
+    for (int i = 0; i < 500 && !folder.Has("started"); ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    EXPECT_TRUE(folder.Has("started"));
+}
+
+}  // namespace
+}  // namespace morpho
