@@ -9,18 +9,18 @@
 namespace morpho {
 
 frmQuickReference::frmQuickReference(const Program& program)
-    : LoggedForm(program, {"frmQuickReference", "Theme Morpho Quick Reference Card", {7200, 6705}}),
+    : LoggedForm(program, {"frmQuickReference", "Theme Morpho Quick Reference Card", {7200, 6225}}),
       lblTitle(*this, {.name = "lblTitle",
                        .place = {180, 180, 6840, 240},
                        .caption = "Theme Morpho Quick Reference"}),
-      txtQuickReference(*this, {.name = "txtQuickReference", .place = {180, 510, 6840, 5520}},
+      txtQuickReference(*this, {.name = "txtQuickReference", .place = {180, 510, 6840, 5040}},
                         TextBox::Kind::kMultiLineReadOnly),
       chkDontShow(*this, {.name = "chkDontShow",
-                          .place = {180, 6210, 4500, 285},
+                          .place = {180, 5730, 4500, 285},
                           .caption = "Don't show this message again",
                           .accessKey = 'D'}),
       btnOK(
-          *this, {.name = "btnOK", .place = {5895, 6180, 1125, 345}, .caption = "OK"},
+          *this, {.name = "btnOK", .place = {5895, 5700, 1125, 345}, .caption = "OK"},
           [this] { Unload(); }, ButtonRole::kDefault) {}
 
 void frmQuickReference::Form_Load() {
