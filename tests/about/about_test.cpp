@@ -2,7 +2,6 @@
 
 #include "about/frm_about.h"
 #include "about/frm_quick_reference.h"
-#include "resources/embedded_resources.h"
 #include "support/fake_platform.h"
 #include "support/form_layout.h"
 
@@ -101,19 +100,6 @@ TEST(QuickReferenceTest, ShowsTheGuideWithWindowsLineEndsAndCanBeSilenced) {
     EXPECT_TRUE(guide.chkDontShow.Value());
     EXPECT_FALSE(guide.IsLoaded());
     ExpectWellLaidOut(guide);
-}
-
-TEST(QuickReferenceTest, TheRealResourcesHoldTheGuideAndThePicture) {
-    FakePlatform world;
-    const EmbeddedResources real;
-    world.resources.strings[101] = real.String(101);
-    const auto picture = real.Data("PICTURE", 101);
-    EXPECT_FALSE(picture.empty());
-    frmQuickReference guide(world.program);
-    guide.Load();
-    const std::string& text = guide.txtQuickReference.Text();
-    EXPECT_TRUE(text.starts_with("Follow the simple steps below")) << text;
-    EXPECT_TRUE(text.ends_with("See Webtrove Morpho Help file for more information.")) << text;
 }
 
 }  // namespace morpho::test

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "desktop/text/windows_1252.h"
 #include "forms/headless_toolkit.h"
 #include "platform/platform.h"
 #include "shared/component.h"
 #include "support/fake_application.h"
-#include "support/fake_code_page.h"
 #include "support/fake_colorizer.h"
 #include "support/fake_file_system.h"
 #include "support/fake_profile_files.h"
@@ -18,7 +18,7 @@ namespace morpho::test {
 struct FakePlatform {
     FakeRegistry registry;
     FakeFileSystem files;
-    FakeCodePage codePage;
+    Windows1252 codePage;
     FakeProfileFiles profileFiles{files, codePage};
     FakeShell shell;
     FakeClock clock;
