@@ -31,9 +31,9 @@ void HeadlessToolkit::RunModal(Form& form) {
 Answer HeadlessToolkit::MessageBox(Form* /*owner*/, std::string_view text, int flags,
                                    std::string_view title) {
     messages_.push_back({std::string(text), flags, std::string(title)});
+    if ((flags & kButtonsMask) == kOkOnly) return Answer::kOk;
     if (answers_.empty()) {
-        if ((flags & kButtonsMask) != kOkOnly)
-            unscripted_.push_back("No answer to: " + std::string(text));
+        unscripted_.push_back("No answer to: " + std::string(text));
         return LeastHarm(flags);
     }
     const Answer answer = answers_.front();

@@ -21,20 +21,20 @@ void TextBox::SetTextQuietly(std::string_view text) {
 }
 
 bool TextBox::UserKey(char32_t key) {
-    if (!IsOperable() || kind_ == Kind::kMultiLineReadOnly) return false;
+    if (!CanType()) return false;
     if (keyPress_) Raise("KeyPress", [&] { keyPress_(key); });
     return key != 0;
 }
 
 bool TextBox::UserEdit(std::string_view text) {
-    if (!IsOperable() || kind_ == Kind::kMultiLineReadOnly) return false;
+    if (!CanType()) return false;
     SetText(text);
     return true;
 }
 
 bool TextBox::UserType(std::string_view keys) {
     for (const char key : keys) {
-        if (!IsOperable()) return false;
+        if (!CanType()) return false;
         if (!UserKey(static_cast<unsigned char>(key))) continue;
         std::string edited = text_;
         if (key != '\b') {

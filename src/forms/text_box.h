@@ -33,6 +33,8 @@ class TextBox : public Control {
     void Accept(ControlVisitor& visitor) override;
 
   private:
+    bool CanType() const { return IsOperable() && kind_ == Kind::kSingleLine; }
+
     Kind kind_;
     std::string text_;
     KeyHandler keyPress_;

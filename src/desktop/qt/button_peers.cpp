@@ -1,19 +1,43 @@
 #include "desktop/qt/button_peers.h"
 
+#include <QKeyEvent>
 #include <QShortcut>
 
 #include "desktop/qt/qt_text.h"
 
 namespace morpho {
 
+namespace {
+
+// Enter presses the button that has the focus, default or not.
+class PushButton : public QPushButton {
+  public:
+    using QPushButton::QPushButton;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+            click();
+        } else {
+            QPushButton::keyPressEvent(event);
+        }
+    }
+};
+
+bool IsDefault(ButtonRole role) {
+    return role == ButtonRole::kDefault || role == ButtonRole::kDefaultAndCancel;
+}
+
+}  // namespace
+
 CommandButtonPeer::CommandButtonPeer(CommandButton& button, QWidget* parent,
                                      const PeerContext& context)
-    : ControlPeer(button, new QPushButton(parent), context),
+    : ControlPeer(button, new PushButton(parent), context),
       button_(button),
       widget_(static_cast<QPushButton*>(Widget())) {
-    widget_->setAutoDefault(true);
-    const ButtonRole role = button.Role();
-    widget_->setDefault(role == ButtonRole::kDefault || role == ButtonRole::kDefaultAndCancel);
+    // Qt would make any other button the default one where the form has none.
+    widget_->setAutoDefault(false);
+    widget_->setDefault(IsDefault(button.Role()));
     QObject::connect(widget_, &QPushButton::clicked, Receiver(),
                      [this] { Did([this] { button_.UserClick(); }); });
     if (button.Shortcut().empty()) return;

@@ -17,6 +17,8 @@ Qt::CheckState ToQt(bool checked) {
     return checked ? Qt::Checked : Qt::Unchecked;
 }
 
+constexpr int kRowGap = 3;  // pixels between two boxes
+
 // Lets a double click on an entry's text tick it; the box itself sees to its own clicks.
 class TickOnDoubleClick : public QStyledItemDelegate {
   public:
@@ -28,6 +30,10 @@ class TickOnDoubleClick : public QStyledItemDelegate {
             return QStyledItemDelegate::editorEvent(event, model, option, index);
         const bool checked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
         return model->setData(index, ToQt(!checked), Qt::CheckStateRole);
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kRowGap);
     }
 
   private:

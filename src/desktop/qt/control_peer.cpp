@@ -1,6 +1,7 @@
 #include "desktop/qt/control_peer.h"
 
 #include "desktop/qt/qt_text.h"
+#include "forms/form.h"
 
 namespace morpho {
 
@@ -21,11 +22,21 @@ void ControlPeer::Write(Aspects changed) {
         widget_->setAccessibleName(ToQt(control_.AccessibleName()));
         widget_->setAccessibleDescription(toolTip.trimmed());
     }
-    if (changed & aspect::kEnabled) widget_->setEnabled(control_.Enabled());
+    if (changed & aspect::kEnabled) {
+        widget_->setEnabled(control_.Enabled());
+        KeepFocus();
+    }
     WriteOwn(changed);
     if (changed & aspect::kVisible) widget_->setVisible(control_.Visible());
     if (changed & aspect::kFocus) widget_->setFocus(Qt::OtherFocusReason);
     if (changed & aspect::kRepaint) widget_->repaint();
+}
+
+// A container that is disabled takes the focus off what it holds; enabled again, it gives it back.
+void ControlPeer::KeepFocus() {
+    Control* const focused = control_.OwnerForm().Focused();
+    if (widget_->window()->focusWidget() != nullptr || focused == nullptr) return;
+    if (focused->IsOperable()) focused->SetFocus();
 }
 
 }  // namespace morpho

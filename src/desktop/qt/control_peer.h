@@ -49,6 +49,8 @@ class ControlPeer : public Peer {
     QObject* Receiver() { return &receiver_; }
 
   private:
+    void KeepFocus();
+
     Control& control_;
     QWidget* widget_;
     PeerContext context_;

@@ -58,6 +58,7 @@ FormWindow::FormWindow(Form& form, QWidget* owner, PageServer& pages)
     focusConnection_ = connect(qApp, &QApplication::focusChanged, this,
                                [this](QWidget* /*old*/, QWidget* now) { FocusChanged(now); });
     form.Attach(this);
+    if (form.Focused() != nullptr) form.Focused()->SetFocus();
 }
 
 FormWindow::~FormWindow() {
@@ -133,7 +134,7 @@ void FormWindow::WritePlace() {
 void FormWindow::PlaceFirst() {
     const Rectangle& bounds = form_.Bounds();
     const bool placed = IsSizable() && (placedByCode_ || bounds.left != 0 || bounds.top != 0);
-    QRect wanted(ToPixels(bounds).topLeft(), size());
+    QRect wanted = placed ? ToPixels(bounds) : QRect(QPoint(), size());
     if (!placed) {
         const QWidget* const owner = parentWidget();
         wanted.moveCenter(owner != nullptr && owner->isVisible()
@@ -142,6 +143,7 @@ void FormWindow::PlaceFirst() {
     }
     wanted = OnScreen(wanted);
     if (IsSizable()) resize(wanted.size());
+    if (placed) outerAsked_ = wanted.size();
     move(wanted.topLeft());
 }
 
@@ -157,10 +159,8 @@ bool FormWindow::event(QEvent* event) {
 void FormWindow::FirstPainted() {
     if (painted_ || !form_.IsVisible()) return;
     painted_ = true;
-    const bool outerAsked = placedByCode_ && IsSizable();
-    const QSize chrome = frameGeometry().size() - size();
-    if (outerAsked && StateOf(*this) == WindowState::kNormal && !chrome.isNull())
-        resize((size() - chrome).expandedTo({1, 1}));
+    if (outerAsked_.isValid() && StateOf(*this) == WindowState::kNormal)
+        resize(outerAsked_ - (frameGeometry().size() - size()));
     ReportGeometry();
     form_.Painted();
     if (stands_ && form_.IsVisible()) stands_();

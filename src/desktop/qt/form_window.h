@@ -61,6 +61,7 @@ class FormWindow : public QDialog, public Peer {
     bool painted_ = false;       // the first paint is over: what happens now is reported
     bool placedByCode_ = false;  // bounds were set before the window was seen
     bool reportQueued_ = false;
+    QSize outerAsked_;  // by code, in pixels, before the frame's size was known
     QSize lastNormalChrome_{0,
                             0};  // outer less inner size, in pixels, outside of the maximised state
 };

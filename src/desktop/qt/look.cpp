@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QPalette>
 #include <QStyleFactory>
+#include <QToolTip>
 
 namespace morpho {
 
@@ -45,6 +46,7 @@ QFont FormFont() {
 void ApplyLook() {
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QApplication::setPalette(LightPalette());
+    QToolTip::setPalette(LightPalette());
     QApplication::setFont(FormFont());
 }
 

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QLoggingCategory>
 #include <QMessageBox>
 #include <QPixmap>
 #include <algorithm>
@@ -75,6 +76,8 @@ void AppendChromiumFlags(const QByteArray& flags) {
 
 void QtToolkit::Prepare() {
     PageServer::RegisterScheme();
+    // The browser tells about itself at every start.
+    QLoggingCategory::setFilterRules("default.info=false\nqt.webenginecontext.info=false");
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     // The browser's sandbox refuses to run as root.
     if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");

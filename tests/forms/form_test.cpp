@@ -1,0 +1,100 @@
+#include <gtest/gtest.h>
+
+#include "forms/gallery.h"
+#include "forms/headless_toolkit.h"
+
+namespace morpho::test {
+namespace {
+
+using Events = std::vector<std::string>;
+
+class FormTest : public testing::Test {
+  protected:
+    HeadlessToolkit toolkit_;
+    Gallery form_{toolkit_};
+};
+
+TEST_F(FormTest, LoadsOnceAndPaintsAtEveryShowing) {
+    toolkit_.WillPlay("frmGallery", [](Form& form) { form.Hide(); });
+    form_.ShowModal();
+    EXPECT_TRUE(form_.IsLoaded());
+    form_.ShowModal();
+    EXPECT_EQ(form_.events, (Events{"Form_Load", "Form_Paint", "Form_Paint"}));
+}
+
+TEST_F(FormTest, AsksBeforeItGoesAndTellsWhoWantsIt) {
+    form_.Load();
+    form_.refuseClosing = true;
+    EXPECT_FALSE(form_.UserClose());
+    form_.Unload();
+    EXPECT_TRUE(form_.IsLoaded());
+
+    form_.refuseClosing = false;
+    EXPECT_TRUE(form_.UserClose());
+    EXPECT_FALSE(form_.IsLoaded());
+    EXPECT_EQ(form_.events, (Events{"Form_Load", "Form_QueryUnload by user", "Form_QueryUnload",
+                                    "Form_QueryUnload by user"}));
+}
+
+TEST_F(FormTest, ResizesOncePerChangeOfSizeOrStateAndNotForAMove) {
+    const auto expectResizes = [&](std::size_t count, const char* why) {
+        EXPECT_EQ(form_.events.size(), count) << why;
+        form_.events.clear();
+    };
+    form_.SetBounds({300, 300, 12000, 7000});
+    expectResizes(1, "code sets another size");
+    form_.SetBounds({600, 300, 12000, 7000});
+    expectResizes(0, "code moves the window");
+    form_.UserResize({0, 0, 12000, 7000}, {12000, 7000}, WindowState::kNormal);
+    expectResizes(0, "the person moves the window");
+    form_.UserResize({0, 0, 12000, 7000}, {11900, 6600}, WindowState::kNormal);
+    expectResizes(1, "the borders become known");
+    EXPECT_EQ(form_.Inner(), (Size{11900, 6600}));
+    form_.UserResize({0, 0, 12000, 7000}, {11900, 6600}, WindowState::kMaximized);
+    expectResizes(1, "the window is maximised");
+    form_.UserResize({0, 0, 9000, 7000}, {8900, 6600}, WindowState::kNormal);
+    expectResizes(2, "the form sets its smallest size");
+    EXPECT_EQ(form_.Bounds().width, Gallery::kMinimum.width);
+}
+
+TEST_F(FormTest, EveryErrorOfAHandlerIsTrapped) {
+    const auto expectFailure = [&](const std::function<void()>& answer, const char* failure) {
+        form_.answer = answer;
+        form_.cmdApply.UserClick();
+        EXPECT_EQ(form_.failures.back(), failure);
+    };
+    expectFailure([] { throw RunTimeError(ErrorNumber::kOverflow, "Overflow"); },
+                  "cmdApply_Click: Overflow");
+    expectFailure([] { throw std::bad_alloc(); }, "cmdApply_Click: Out of memory");
+    expectFailure([&] { form_.lstPlain.SetListIndex(9); }, "cmdApply_Click: list index");
+}
+
+TEST_F(FormTest, WithoutAScriptTheHeadlessToolkitChangesLeastAndRemembers) {
+    const auto expectAnswer = [&](int flags, Answer answer, std::size_t unscripted) {
+        EXPECT_EQ(form_.MsgBox("Save?", flags, "Gallery"), answer) << flags;
+        EXPECT_EQ(toolkit_.Unscripted().size(), unscripted) << flags;
+    };
+    expectAnswer(kYesNoCancel | kQuestionIcon, Answer::kCancel, 1);
+    expectAnswer(kYesNo, Answer::kNo, 2);
+    toolkit_.WillAnswer(Answer::kYes);
+    expectAnswer(kYesNo, Answer::kYes, 2);
+    EXPECT_EQ(toolkit_.Messages().size(), 3u);
+
+    form_.ShowModal();
+    EXPECT_EQ(toolkit_.Unscripted().back(), "Nobody plays the form frmGallery");
+    toolkit_.WillPlay("frmGallery", [](Form&) {});
+    form_.ShowModal();
+    EXPECT_EQ(toolkit_.Unscripted().back(), "The form frmGallery was left open");
+    EXPECT_FALSE(form_.IsVisible());
+}
+
+TEST_F(FormTest, SayingSomethingIsNotAQuestion) {
+    form_.MsgBox("Saved.", kOkOnly | kInformationIcon, "Gallery");
+    toolkit_.WillAnswer(Answer::kYes);
+    form_.MsgBox("Saved again.", kOkOnly, "Gallery");
+    EXPECT_EQ(form_.MsgBox("More?", kYesNo, "Gallery"), Answer::kYes);
+    EXPECT_TRUE(toolkit_.Unscripted().empty());
+}
+
+}  // namespace
+}  // namespace morpho::test

@@ -1,0 +1,125 @@
+#pragma once
+
+#include <algorithm>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "forms/form.h"
+#include "forms/lists.h"
+#include "forms/text_box.h"
+
+namespace morpho::test {
+
+// A window with a control of every kind but the browser, that remembers every event.
+class Gallery : public Form {
+  public:
+    explicit Gallery(Toolkit& toolkit)
+        : Form(toolkit, {"frmGallery", "Gallery", kMinimum, BorderStyle::kSizable}) {
+        for (const char* const theme : {"Arctic", "Tom & Jerry", "Ärger"})
+            cmbTheme.AddItem(theme);
+        for (const char* const entry : {"one", "two", "three"})
+            lstPlain.AddItem(entry);
+        for (int i = 0; i < 30; ++i)
+            lstNames.AddItem("active/image-" + std::to_string(i));
+        txtGuide.SetTextQuietly("Step 1: pick <b>elements</b>.\r\n\r\nStep 2: move the sliders.");
+        cmdOff.SetEnabled(false);
+    }
+
+    static constexpr Size kMinimum{11820, 6000};
+
+    // What was raised, in order, and what is done in answer to each event.
+    std::vector<std::string> events;
+    std::function<void()> answer;
+    bool refuseClosing = false;
+    std::vector<std::string> failures;
+
+    Frame fraPick{*this, {"fraPick", {60, 60, 2775, 5400}, "&Elements", "What is recoloured"}};
+    Label lblTheme{fraPick, {"lblTheme", {120, 270, 2500, 210}, "&Theme & label:"}};
+    ComboBox cmbTheme{
+        fraPick, {"cmbTheme", {120, 480, 2535, 315}, {}, "Select a theme"}, On("cmbTheme_Click")};
+    CheckListBox lstNames{fraPick,
+                          {"lstNames", {120, 870, 2535, 3000}, {}, "Images of the theme"},
+                          [this](int row) { On("lstNames_ItemCheck " + std::to_string(row))(); }};
+    ListBox lstPlain{fraPick,
+                     {"lstPlain", {120, 3960, 2535, 900}, {}, {}, 0, "Plain list"},
+                     On("lstPlain_Click")};
+    CheckBox chkApply{
+        fraPick, {"chkApply", {120, 4950, 2535, 255}, "Appl&y to web"}, On("chkApply_Click")};
+
+    Frame fraPreview{*this, {"fraPreview", {2910, 60, 8790, 3420}, "Preview:"}};
+    Frame fraProcess{*this, {"fraProcess", {2910, 3540, 8790, 1440}, "Colours"}};
+    Label lblHue{fraProcess, {"lblHue", {120, 300, 960, 210}, "Hue:", {}, 'H'}};
+    Slider sldHue{fraProcess,
+                  {"sldHue", {1100, 240, 4000, 375}, {}, "Change hue"},
+                  {-180, 180, 0, 1, 20, 30},
+                  On("sldHue_Scroll"),
+                  On("sldHue_Change")};
+    Label lblHueValue{fraProcess, {"lblHueValue", {5160, 300, 600, 210}, "0"}, Alignment::kRight};
+    Label lblQuality{fraProcess, {"lblQuality", {120, 780, 960, 210}, "&Quality:"}};
+    TextBox txtQuality{fraProcess,
+                       {"txtQuality", {1100, 720, 600, 315}, {}, "JPEG quality"},
+                       TextBox::Kind::kSingleLine,
+                       [](char32_t& key) {
+                           if (key != 8 && (key < '0' || key > '9')) key = 0;
+                       },
+                       On("txtQuality_Change")};
+    ScrollBar vsQuality{fraProcess, {"vsQuality", {1700, 720, 255, 315}, {}, {}, 0, "Quality"},
+                        0,          100,
+                        75,         On("vsQuality_Change")};
+    PictureBox picBand{fraProcess, {"picBand", {2200, 800, 3600, 105}}, true};
+    PictureBox picOwnSize{fraProcess, {"picOwnSize", {5900, 700, 800, 500}}};
+    TextBox txtGuide{fraProcess,
+                     {"txtGuide", {6800, 240, 1900, 1080}, {}, {}, 0, "Guide"},
+                     TextBox::Kind::kMultiLineReadOnly};
+
+    Frame fraMenu{*this, {"fraMenu", {2910, 5040, 8790, 420}}};
+    Label lblLink{fraMenu,
+                  {"lblLink", {60, 90, 1500, 210}, "www.example.com", "Visit us"},
+                  Alignment::kLeft,
+                  On("lblLink_Click")};
+    CommandButton cmdApply{fraMenu,
+                           {"cmdApply", {3000, 30, 1095, 345}, "&Apply", "Apply all"},
+                           On("cmdApply_Click"),
+                           ButtonRole::kDefault};
+    CommandButton cmdUndo{fraMenu,
+                          {"cmdUndo", {4150, 30, 1095, 345}, "Undo", "Undo "},
+                          On("cmdUndo_Click"),
+                          ButtonRole::kNone,
+                          "Ctrl+Z"};
+    CommandButton cmdOff{fraMenu, {"cmdOff", {5300, 30, 1095, 345}, "Re&do"}, On("cmdOff_Click")};
+    CommandButton cmdClose{fraMenu,
+                           {"cmdClose", {7500, 30, 1095, 345}, "Close"},
+                           [this] { Unload(); },
+                           ButtonRole::kCancel};
+    Label lblStatus{*this, {"lblStatus", {60, 5640, 8000, 210}, "Ready: Tom && Jerry"}};
+    Timer timer{*this, "timer", 10, On("timer_Timer")};
+
+  protected:
+    void Form_Load() override { On("Form_Load")(); }
+    void Form_Paint() override { On("Form_Paint")(); }
+    void Form_Resize() override {
+        On("Form_Resize")();
+        Rectangle bounds = Bounds();
+        bounds.width = std::max(bounds.width, kMinimum.width);
+        bounds.height = std::max(bounds.height, kMinimum.height);
+        if (State() == WindowState::kNormal) SetBounds(bounds);
+    }
+    void Form_QueryUnload(bool& cancel, bool byUser) override {
+        On(byUser ? "Form_QueryUnload by user" : "Form_QueryUnload")();
+        cancel = refuseClosing;
+    }
+    void HandlerFailed(std::string_view handler, const RunTimeError& error) override {
+        failures.push_back(std::string(handler) + ": " + error.what());
+    }
+
+  private:
+    Handler On(const std::string& event) {
+        return [this, event] {
+            events.push_back(event);
+            if (answer) answer();
+        };
+    }
+};
+
+}  // namespace morpho::test
