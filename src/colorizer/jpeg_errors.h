@@ -43,9 +43,4 @@ struct JpegCompress : jpeg_compress_struct {
     ~JpegCompress() { jpeg_destroy_compress(this); }
 };
 
-/// Lets the library read and write the planes of a picture in place of its own virtual arrays,
-/// without a copy. Planes are handed out in the order of the components; `client_data` points to
-/// the next one.
-void UsePlanes(jpeg_memory_mgr& memory);
-
 }  // namespace colorizer

@@ -54,9 +54,20 @@ bool IsJpeg(std::span<const std::uint8_t> file);
 /// Takes a file apart. Throws Error for kinds that are refused and for damage, std::bad_alloc.
 JpegPicture ReadJpeg(std::span<const std::uint8_t> file);
 
-/// Puts a file together. `sizeHint` is about how many bytes it will have. Throws Error,
-/// std::bad_alloc.
-std::vector<std::uint8_t> WriteJpeg(JpegPicture& picture, std::size_t sizeHint);
+/// Does to a picture's blocks what is to be done while they are at hand.
+class RowPreparation {
+  public:
+    virtual ~RowPreparation() = default;
+    /// The component's first `rows` rows of blocks are about to be used. Rows come in order, but
+    /// are asked for again when a file is written in several scans. May name rows below the
+    /// picture. Throws nothing.
+    virtual void Prepare(std::size_t component, std::size_t rows) = 0;
+};
+
+/// Puts a file together from the picture as `preparation` leaves it. `sizeHint` is about how many
+/// bytes it will have. Throws Error, std::bad_alloc.
+std::vector<std::uint8_t> WriteJpeg(JpegPicture& picture, RowPreparation& preparation,
+                                    std::size_t sizeHint);
 
 /// The standard's example tables for luma and chroma at a quality of 1 to 100, steps of at most
 /// 255.

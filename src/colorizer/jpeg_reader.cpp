@@ -4,7 +4,7 @@
 #include "colorizer/colorizer.h"
 #include "colorizer/jpeg_errors.h"
 #include "colorizer/jpeg_layout.h"
-#include "colorizer/jpeg_picture.h"
+#include "colorizer/jpeg_planes.h"
 
 namespace colorizer {
 
@@ -29,12 +29,9 @@ class Decoder {
         for (int index = 0; index < info_.num_components; ++index) {
             picture.components.push_back(Component(info_.comp_info[index]));
         }
-        JpegComponent* const components = picture.components.data();
-        info_.client_data = components;
-        errors_.Run([&] {
-            UsePlanes(*info_.mem);
-            jpeg_read_coefficients(&info_);
-        });
+        JpegPlanes planes(picture);
+        planes.AttachTo(reinterpret_cast<j_common_ptr>(&info_));
+        errors_.Run([&] { jpeg_read_coefficients(&info_); });
         for (int index = 0; index < info_.num_components; ++index) {
             SetTable(picture, index, info_.comp_info[index]);
         }

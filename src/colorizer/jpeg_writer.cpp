@@ -4,7 +4,7 @@
 
 #include "colorizer/colorizer.h"
 #include "colorizer/jpeg_errors.h"
-#include "colorizer/jpeg_picture.h"
+#include "colorizer/jpeg_planes.h"
 
 #include <jerror.h>
 
@@ -73,22 +73,23 @@ class Output : public jpeg_destination_mgr {
 
 class Encoder {
   public:
-    Encoder(JpegPicture& picture, std::size_t sizeHint) : picture_(picture), output_(sizeHint) {
+    Encoder(JpegPicture& picture, RowPreparation& preparation, std::size_t sizeHint)
+        : picture_(picture), planes_(picture, &preparation), output_(sizeHint) {
         info_.err = &errors_;
         errors_.Run([&] { jpeg_create_compress(&info_); });
         info_.dest = &output_;
-        UsePlanes(*info_.mem);
+        planes_.AttachTo(reinterpret_cast<j_common_ptr>(&info_));
     }
 
     std::vector<std::uint8_t> Run() {
         SetScript();
-        for (JpegComponent& component : picture_.components) {
-            planes_[&component - picture_.components.data()] =
-                reinterpret_cast<jvirt_barray_ptr>(&component.plane);
+        jvirt_barray_ptr arrays[MAX_COMPONENTS];
+        for (std::size_t index = 0; index < picture_.components.size(); ++index) {
+            arrays[index] = planes_.Array(index);
         }
         errors_.Run([&] {
             SetParameters();
-            jpeg_write_coefficients(&info_, planes_);
+            jpeg_write_coefficients(&info_, arrays);
             output_.Append(&info_, picture_.markers);
             jpeg_finish_compress(&info_);
             output_.Append(&info_, picture_.trailing);
@@ -145,17 +146,18 @@ class Encoder {
     }
 
     JpegPicture& picture_;
+    JpegPlanes planes_;
     Output output_;
     JpegErrors errors_;
     std::vector<jpeg_scan_info> script_;
-    jvirt_barray_ptr planes_[MAX_COMPONENTS];
     JpegCompress info_;
 };
 
 }  // namespace
 
-std::vector<std::uint8_t> WriteJpeg(JpegPicture& picture, std::size_t sizeHint) {
-    return Encoder(picture, sizeHint).Run();
+std::vector<std::uint8_t> WriteJpeg(JpegPicture& picture, RowPreparation& preparation,
+                                    std::size_t sizeHint) {
+    return Encoder(picture, preparation, sizeHint).Run();
 }
 
 std::array<QuantTable, 2> StandardTables(int quality) {

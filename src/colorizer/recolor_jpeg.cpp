@@ -2,87 +2,122 @@
 
 #include <algorithm>
 
+#include "colorizer/coefficient_path.h"
 #include "colorizer/sample_tile.h"
 
 namespace colorizer {
 
 namespace {
 
-float Clamped(float sample) {
-    return std::min(std::max(sample, kLowestSample), kHighestSample);
+using Step = std::function<void(std::size_t)>;
+using Components = std::vector<JpegComponent*>;
+using Tables = std::vector<QuantTable>;
+
+Step LumaStep(const ColourMap& map, JpegComponent& luma, const QuantTable& target) {
+    return [&luma, path = LumaPath(map.luma, luma.table, target)](std::size_t row) {
+        path.Recolor(luma.plane.Row(row), luma.blocksWide);
+    };
 }
 
-void RecolorLuma(float factor, float* y, std::size_t count) {
-    for (std::size_t at = 0; at < count; ++at)
-        y[at] = Clamped(factor * (y[at] - kLowestSample) + kLowestSample);
+Step ChromaStep(const ColourMap& map, JpegComponent& cb, JpegComponent& cr, const Tables& targets) {
+    const ChromaPath path(map, {cb.table, cr.table}, {targets[0], targets[1]});
+    return [&cb, &cr, path](std::size_t row) {
+        path.Recolor(cb.plane.Row(row), cr.plane.Row(row), cb.blocksWide);
+    };
 }
 
-void RecolorChroma(const ColourMap& map, float* cb, float* cr, std::size_t count) {
-    const float a = static_cast<float>(map.chroma[0][0]), b = static_cast<float>(map.chroma[0][1]);
-    const float c = static_cast<float>(map.chroma[1][0]), d = static_cast<float>(map.chroma[1][1]);
-    for (std::size_t at = 0; at < count; ++at) {
-        const float oldCb = cb[at], oldCr = cr[at];
-        cb[at] = Clamped(a * oldCb + b * oldCr);
-        cr[at] = Clamped(c * oldCb + d * oldCr);
-    }
-}
-
-void RecolorRgb(const ColourMap& map, float* red, float* green, float* blue, std::size_t count) {
-    for (std::size_t at = 0; at < count; ++at) {
-        const Rgb colour = Recolored(map, {red[at] + 128.0, green[at] + 128.0, blue[at] + 128.0});
-        red[at] = static_cast<float>(colour.red - 128);
-        green[at] = static_cast<float>(colour.green - 128);
-        blue[at] = static_cast<float>(colour.blue - 128);
-    }
-}
-
-/// `recolor` gets the tile with the values of all components side by side.
-template <class Step>
-void ThroughSamples(const std::vector<JpegComponent*>& components,
-                    const std::vector<QuantTable>& targets, const Step& recolor) {
-    SampleTile tile(components, targets);
-    for (std::size_t y = 0; y < tile.TilesHigh(); ++y) {
-        for (std::size_t x = 0; x < tile.TilesWide(); ++x) {
-            tile.Load(x, y);
-            recolor(tile);
-            tile.Store(x, y);
+/// `recolor` gets a tile and the place of a value in it.
+template <class Recolor>
+Step TileStep(const Components& components, const Tables& targets, const Recolor& recolor) {
+    return [tile = SampleTile(components, targets), recolor](std::size_t row) mutable {
+        for (std::size_t column = 0; column < tile.TilesWide(); ++column) {
+            tile.Load(column, row);
+            for (std::size_t at = 0; at < tile.ValueCount(); ++at)
+                recolor(tile, at);
+            tile.Store(column, row);
         }
+    };
+}
+
+Step ChromaTileStep(const ColourMap& map, const Components& components, const Tables& targets) {
+    return TileStep(components, targets, [map](SampleTile& tile, std::size_t at) {
+        float& cb = tile.Values(0)[at];
+        float& cr = tile.Values(1)[at];
+        const double oldCb = cb, oldCr = cr;
+        cb = Clamped(static_cast<float>(map.chroma[0][0] * oldCb + map.chroma[0][1] * oldCr));
+        cr = Clamped(static_cast<float>(map.chroma[1][0] * oldCb + map.chroma[1][1] * oldCr));
+    });
+}
+
+Step RgbTileStep(const ColourMap& map, const Components& components, const Tables& targets) {
+    return TileStep(components, targets, [map](SampleTile& tile, std::size_t at) {
+        float& red = tile.Values(0)[at];
+        float& green = tile.Values(1)[at];
+        float& blue = tile.Values(2)[at];
+        const Rgb colour = Recolored(map, {red + 128.0, green + 128.0, blue + 128.0});
+        red = static_cast<float>(colour.red - 128);
+        green = static_cast<float>(colour.green - 128);
+        blue = static_cast<float>(colour.blue - 128);
+    });
+}
+
+/// The tables that the components will have. Sets their slots.
+Tables TargetTables(JpegPicture& picture, std::optional<int> quality) {
+    Tables targets;
+    for (JpegComponent& component : picture.components) {
+        const bool isChroma = picture.colour == JpegColour::kYCbCr && !targets.empty();
+        if (quality) component.tableSlot = isChroma ? 1 : 0;
+        targets.push_back(quality ? StandardTables(*quality)[component.tableSlot]
+                                  : component.table);
     }
-    for (std::size_t index = 0; index < components.size(); ++index)
-        components[index]->table = targets[index];
+    return targets;
 }
 
 }  // namespace
 
-void RecolorJpeg(JpegPicture& picture, const ColourMap& map, std::optional<int> quality) {
-    std::vector<JpegComponent*> all;
-    std::vector<QuantTable> targets;
-    for (JpegComponent& component : picture.components) {
+JpegRecoloring::JpegRecoloring(JpegPicture& picture, const ColourMap& map,
+                               std::optional<int> quality)
+    : picture_(picture) {
+    const Tables targets = TargetTables(picture, quality);
+    Components all;
+    for (JpegComponent& component : picture.components)
         all.push_back(&component);
-        targets.push_back(component.table);
-    }
-    if (quality) {
-        const auto tables = StandardTables(*quality);
-        for (std::size_t index = 0; index < all.size(); ++index) {
-            all[index]->tableSlot = index > 0 && picture.colour == JpegColour::kYCbCr ? 1 : 0;
-            targets[index] = tables[all[index]->tableSlot];
-        }
-    }
     if (picture.colour == JpegColour::kRgb) {
-        ThroughSamples(all, targets, [&](SampleTile& tile) {
-            RecolorRgb(map, tile.Values(0), tile.Values(1), tile.Values(2), tile.ValueCount());
-        });
-        return;
-    }
-    if (map.luma != 1 || quality) {
-        ThroughSamples({all[0]}, {targets[0]}, [&](SampleTile& tile) {
-            RecolorLuma(static_cast<float>(map.luma), tile.Values(0), tile.ValueCount());
-        });
+        AddGroup(all, RgbTileStep(map, all, targets));
+    } else if (map.luma != 1 || quality) {
+        AddGroup({all[0]}, LumaStep(map, *all[0], targets[0]));
     }
     if (picture.colour == JpegColour::kYCbCr) {
-        ThroughSamples({all[1], all[2]}, {targets[1], targets[2]}, [&](SampleTile& tile) {
-            RecolorChroma(map, tile.Values(0), tile.Values(1), tile.ValueCount());
-        });
+        const Components chroma{all[1], all[2]};
+        const Tables chromaTargets{targets[1], targets[2]};
+        AddGroup(chroma, AreSampledAlike(chroma) ? ChromaStep(map, *all[1], *all[2], chromaTargets)
+                                                 : ChromaTileStep(map, chroma, chromaTargets));
+    }
+    for (std::size_t index = 0; index < all.size(); ++index)
+        all[index]->table = targets[index];
+}
+
+void JpegRecoloring::AddGroup(const Components& components, Step recolor) {
+    const JpegComponent& first = *components[0];
+    const bool areAlike = AreSampledAlike(components);
+    Group group{components, {}, 0, std::move(recolor)};
+    for (const JpegComponent* component : components) {
+        group.rowsInStep.push_back(areAlike ? 1 : std::size_t(component->vertical));
+    }
+    group.stepCount = (first.blocksHigh + group.rowsInStep[0] - 1) / group.rowsInStep[0];
+    groups_.push_back(std::move(group));
+}
+
+void JpegRecoloring::Prepare(std::size_t component, std::size_t rows) {
+    const JpegComponent* const asked = &picture_.components[component];
+    for (Group& group : groups_) {
+        const auto found = std::find(group.components.begin(), group.components.end(), asked);
+        if (found == group.components.end()) continue;
+        const std::size_t rowsInStep =
+            group.rowsInStep[std::size_t(found - group.components.begin())];
+        const std::size_t steps = std::min((rows + rowsInStep - 1) / rowsInStep, group.stepCount);
+        while (group.stepsDone < steps)
+            group.recolor(group.stepsDone++);
     }
 }
 

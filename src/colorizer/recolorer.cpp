@@ -36,8 +36,8 @@ std::span<const std::uint8_t> RecolorPicture(Picture& picture, const ColourMap& 
                                              std::optional<int> quality, std::size_t sizeHint,
                                              Bytes& encoded) {
     if (auto* jpeg = std::get_if<JpegPicture>(&picture)) {
-        RecolorJpeg(*jpeg, map, quality);
-        encoded = WriteJpeg(*jpeg, sizeHint);
+        JpegRecoloring recoloring(*jpeg, map, quality);
+        encoded = WriteJpeg(*jpeg, recoloring, sizeHint);
         return encoded;
     }
     Bytes& gif = std::get<Bytes>(picture);

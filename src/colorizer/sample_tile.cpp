@@ -5,14 +5,16 @@
 
 namespace colorizer {
 
+bool AreSampledAlike(const std::vector<JpegComponent*>& components) {
+    return std::all_of(components.begin(), components.end(), [&](const JpegComponent* component) {
+        return component->horizontal == components[0]->horizontal &&
+               component->vertical == components[0]->vertical;
+    });
+}
+
 SampleTile::SampleTile(std::vector<JpegComponent*> components,
                        const std::vector<QuantTable>& targets) {
-    const JpegComponent& first = *components.front();
-    const bool areAlike =
-        std::all_of(components.begin(), components.end(), [&](const JpegComponent* component) {
-            return component->horizontal == first.horizontal &&
-                   component->vertical == first.vertical;
-        });
+    const bool areAlike = AreSampledAlike(components);
     for (std::size_t index = 0; index < components.size(); ++index) {
         JpegComponent* const component = components[index];
         const std::size_t wide = areAlike ? 1 : std::size_t(component->horizontal);
@@ -40,6 +42,8 @@ void SampleTile::Load(std::size_t tileX, std::size_t tileY) {
             Block* const row = part.component->plane.Row(tileY * part.high + y) + tileX * part.wide;
             for (std::size_t x = 0; x < part.wide; ++x) {
                 ToSamples(row[x], part.scale, samples);
+                for (float& sample : samples)
+                    sample = Clamped(sample);
                 Spread(part, samples, x, y, part.values.data());
             }
         }

@@ -7,6 +7,9 @@
 
 namespace colorizer {
 
+/// True when the components have the same sampling factors.
+bool AreSampledAlike(const std::vector<JpegComponent*>& components);
+
 /// A square of the picture in which every component has whole blocks: one block each where all are
 /// sampled alike, otherwise what one MCU covers. Components that are sampled unlike meet on a grid
 /// as fine as needed for every one: a coarser one is repeated on the way there and averaged on the
