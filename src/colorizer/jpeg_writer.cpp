@@ -26,17 +26,17 @@ J_COLOR_SPACE ColourSpace(JpegColour colour) {
 /// The library's destination: bytes in memory.
 class Output : public jpeg_destination_mgr {
   public:
-    explicit Output(std::size_t sizeHint) : bytes_(sizeHint + 4096) {
-        init_destination = [](j_compress_ptr info) { Of(info).SetFree(0); };
+    explicit Output(std::size_t sizeHint) : bytes_(sizeHint + kSlack) {
+        init_destination = [](j_compress_ptr info) { Of(info).SetUsed(0); };
         empty_output_buffer = [](j_compress_ptr info) -> boolean { return Of(info).Grow(info); };
         term_destination = [](j_compress_ptr) {};
     }
 
-    void Append(j_compress_ptr info, std::span<const std::uint8_t> bytes) {
-        while (free_in_buffer < bytes.size())
-            Grow(info);
-        std::copy(bytes.begin(), bytes.end(), next_output_byte);
-        SetFree(Used() + bytes.size());
+    void Append(std::span<const std::uint8_t> bytes) {
+        const std::size_t used = Used();
+        if (free_in_buffer < bytes.size()) bytes_.resize(used + bytes.size() + kSlack);
+        std::copy(bytes.begin(), bytes.end(), bytes_.data() + used);
+        SetUsed(used + bytes.size());
     }
 
     std::vector<std::uint8_t> TakeBytes() {
@@ -49,25 +49,26 @@ class Output : public jpeg_destination_mgr {
 
     std::size_t Used() const { return bytes_.size() - free_in_buffer; }
 
-    void SetFree(std::size_t used) {
+    void SetUsed(std::size_t used) {
         next_output_byte = bytes_.data() + used;
         free_in_buffer = bytes_.size() - used;
     }
 
-    /// The library counts on the whole buffer being used when it asks for a new one.
+    /// The library asks when the whole buffer is used; its pointers here are older than that.
     boolean Grow(j_compress_ptr info) {
-        const std::size_t used = static_cast<std::size_t>(next_output_byte - bytes_.data());
-        bool grown = false;
+        const std::size_t used = bytes_.size();
+        bool isGrown = false;
         try {
-            bytes_.resize(bytes_.size() + bytes_.size() / 2);
-            grown = true;
+            bytes_.resize(used + used / 2);
+            isGrown = true;
         } catch (const std::bad_alloc&) {  // must not pass through the library's frames
         }
-        if (!grown) ERREXIT1(info, JERR_OUT_OF_MEMORY, 0);
-        SetFree(used);
+        if (!isGrown) ERREXIT1(info, JERR_OUT_OF_MEMORY, 0);
+        SetUsed(used);
         return TRUE;
     }
 
+    static constexpr std::size_t kSlack = 4096;
     std::vector<std::uint8_t> bytes_;
 };
 
@@ -90,9 +91,9 @@ class Encoder {
         errors_.Run([&] {
             SetParameters();
             jpeg_write_coefficients(&info_, arrays);
-            output_.Append(&info_, picture_.markers);
+            output_.Append(picture_.markers);
             jpeg_finish_compress(&info_);
-            output_.Append(&info_, picture_.trailing);
+            output_.Append(picture_.trailing);
         });
         return output_.TakeBytes();
     }

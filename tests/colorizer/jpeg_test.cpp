@@ -141,6 +141,20 @@ TEST(Jpeg, HasTheColoursOfTheFormula) {
     }
 }
 
+TEST(Jpeg, MayGrow) {
+    for (const bool isProgressive : {false, true}) {
+        const Bytes before = MakeJpeg({.width = 400,
+                                       .height = 300,
+                                       .quality = 30,
+                                       .isProgressive = isProgressive,
+                                       .grain = 160});
+        const Bytes after = Recolored(before + Bytes(9000, 'x'), {}, 100);
+        ASSERT_GT(after.size(), 9000 + 3 * before.size() / 2);
+        EXPECT_LT(MeanError(before, after, {}, 'y'), 0.5);
+        EXPECT_EQ(Bytes(after.end() - 9000, after.end()), Bytes(9000, 'x'));
+    }
+}
+
 TEST(Jpeg, WithoutBrightnessIsBlackEvenWithCoarseTables) {
     const Bytes samples = Samples(Recolored(MakeJpeg({.colour = 'g', .quality = 5}), {0, 1, 0}));
     EXPECT_THAT(samples, testing::Each(0));

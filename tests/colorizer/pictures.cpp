@@ -20,7 +20,8 @@ std::array<int, 4> Colour(const JpegKind& kind, unsigned x, unsigned y) {
     const int edge = x > kind.width / 2 ? 90 : 0;
     const int across = static_cast<int>(x * 120 / kind.width),
               down = static_cast<int>(y * 120 / kind.height);
-    return {40 + across + edge, 60 + down, 220 - across - edge / 2, 30};
+    const int grain = kind.grain ? static_cast<int>((x * 7919 ^ y * 104729) % kind.grain) : 0;
+    return {40 + across + edge - grain, 60 + down, 220 - across - edge / 2, 30};
 }
 
 void SetScans(jpeg_compress_struct& info, const JpegKind& kind) {
