@@ -55,4 +55,8 @@ std::string Windows1252::ToBytes(std::string_view text,
     return bytes;
 }
 
+std::string TextOfUnknownCoding(std::string_view bytes) {
+    return IsUtf8(bytes) ? std::string(bytes) : Windows1252().ToText(bytes);
+}
+
 }  // namespace morpho

@@ -14,4 +14,8 @@ class Windows1252 : public CodePage {
                         const std::function<std::string(char32_t)>& missing = {}) const override;
 };
 
+// Text in a file that does not reliably say how it is coded: UTF-8 when it is that, otherwise
+// Windows-1252.
+std::string TextOfUnknownCoding(std::string_view bytes);
+
 }  // namespace morpho

@@ -1,0 +1,166 @@
+#include "desktop/web/opened_web.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <set>
+
+#include "desktop/disk/disk_folder.h"
+#include "desktop/disk/disk_path.h"
+#include "desktop/disk/file_error.h"
+#include "desktop/disk/profile_text.h"
+#include "desktop/disk/whole_file.h"
+#include "desktop/text/windows_1252.h"
+#include "platform/ignoring_case.h"
+
+namespace morpho {
+
+namespace {
+
+// Far more than a theme's picture takes; a longer file is there to fill the disk.
+constexpr off_t kMaxFileBytes = 64 * 1024 * 1024;
+
+std::string ReadThemeFile(const DiskFolder& folder, const std::string& name) {
+    const Descriptor file = folder.OpenFile(name);
+    struct stat status = {};
+    if (::fstat(file.Number(), &status) == 0 && status.st_size > kMaxFileBytes)
+        throw FileError(ErrorNumber::kPathFileAccess, folder.PathOf(name), "was left out",
+                        "it is too large for a theme's file");
+    return ReadWhole(file, folder.PathOf(name));
+}
+
+// The entry of this name among the folder's files.
+const DiskEntry* FindFile(const std::vector<DiskEntry>& entries, const std::string& name) {
+    const auto found = std::find_if(entries.begin(), entries.end(), [&](const DiskEntry& entry) {
+        return entry.kind == DiskKind::kFile && EqualIgnoringCase(entry.name, name);
+    });
+    return found == entries.end() ? nullptr : &*found;
+}
+
+// The title that the theme's description gives it, or its name.
+std::string LabelOf(const DiskFolder& folder, const std::string& description,
+                    const std::string& name) {
+    const auto title = ProfileText(ReadThemeFile(folder, description)).Value("info", "title");
+    return title && !title->empty() ? TextOfUnknownCoding(*title) : name;
+}
+
+// Writes a file into the private cache, where nobody else writes.
+void WriteUnpacked(const DiskFolder& folder, const std::string& name, const std::string& bytes) {
+    const int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    Descriptor file(::openat(folder.Number(), name.c_str(), flags, 0600));
+    if (!file.IsOpen() || !WriteAll(file.Number(), bytes) || !file.Close())
+        throw FileError(errno, folder.PathOf(name), "could not be written");
+}
+
+class WebOpener {
+  public:
+    WebOpener(const std::string& folder, std::string unpackFolder,
+              const std::optional<std::string>& onlyTheme)
+        : web_(DiskFolder::Open(folder, true)),
+          unpackFolder_(std::move(unpackFolder)),
+          only_(onlyTheme) {
+        opened_.folder = folder;
+    }
+
+    OpenedWeb Open() {
+        const std::vector<DiskEntry> entries = web_.Entries();
+        EmptyUnpackFolder();
+        for (const DiskEntry& entry : entries) {
+            if (entry.kind == DiskKind::kFolder && EqualIgnoringCase(entry.name, "_themes"))
+                TakeThemes(entry.name);
+        }
+        std::stable_sort(
+            opened_.themes.begin(), opened_.themes.end(),
+            [](const Theme& a, const Theme& b) { return Lowered(a.name) < Lowered(b.name); });
+        return std::move(opened_);
+    }
+
+  private:
+    void EmptyUnpackFolder() {
+        std::error_code error;
+        std::filesystem::remove_all(unpackFolder_, error);
+        if (!error) std::filesystem::create_directories(unpackFolder_, error);
+        if (error) throw FileError(error.value(), unpackFolder_, "could not be emptied");
+    }
+
+    // What `read` returns; nothing, with the reason kept, when it fails.
+    template <typename Read>
+    auto Readable(Read read) -> std::optional<decltype(read())> {
+        try {
+            return read();
+        } catch (const RunTimeError& error) {
+            opened_.skipped.emplace_back(error.what());
+            return {};
+        }
+    }
+
+    void TakeThemes(const std::string& name) {
+        const auto themes = Readable([&] { return web_.Subfolder(name); });
+        const auto entries = themes ? Readable([&] { return themes->Entries(); }) : std::nullopt;
+        if (!entries) return;
+        for (const DiskEntry& entry : *entries) {
+            if (entry.kind == DiskKind::kFolder) TakeTheme(*themes, entry.name);
+        }
+    }
+
+    // A folder that cannot be read is listed by its name, but not unpacked.
+    void TakeTheme(const DiskFolder& themes, const std::string& diskName) {
+        Theme theme{NameFromDisk(diskName), NameFromDisk(diskName)};
+        const auto folder = Readable([&] { return themes.Subfolder(diskName); });
+        const auto entries = folder ? Readable([&] { return folder->Entries(); }) : std::nullopt;
+        const DiskEntry* description = entries ? FindFile(*entries, diskName + ".inf") : nullptr;
+        if (entries && !description) return;
+        if (!names_.insert(Lowered(diskName)).second) {
+            Skip(themes.PathOf(diskName), "another theme has that name");
+            return;
+        }
+        if (description) {
+            const auto label =
+                Readable([&] { return LabelOf(*folder, description->name, theme.name); });
+            if (label) theme.label = *label;
+            if (!only_ || EqualIgnoringCase(*only_, theme.name))
+                Unpack(*folder, *entries, diskName);
+        }
+        opened_.themes.push_back(std::move(theme));
+    }
+
+    void Unpack(const DiskFolder& theme, const std::vector<DiskEntry>& entries,
+                const std::string& diskName) {
+        const std::string path = JoinDiskPath(unpackFolder_, diskName);
+        if (::mkdir(path.c_str(), 0700) != 0) throw FileError(errno, path, "could not be created");
+        const DiskFolder target = DiskFolder::Open(path, false);
+        std::set<std::string> names;
+        for (const DiskEntry& entry : entries) {
+            if (entry.kind != DiskKind::kFile) continue;
+            if (!names.insert(Lowered(entry.name)).second) {
+                Skip(theme.PathOf(entry.name), "another file has that name");
+                continue;
+            }
+            const auto bytes = Readable([&] { return ReadThemeFile(theme, entry.name); });
+            if (bytes) WriteUnpacked(target, entry.name, *bytes);
+        }
+    }
+
+    void Skip(const std::string& path, std::string_view reason) {
+        opened_.skipped.emplace_back(
+            FileError(ErrorNumber::kFileExists, path, "was left out", reason).what());
+    }
+
+    DiskFolder web_;
+    std::string unpackFolder_;
+    std::optional<std::string> only_;
+    std::set<std::string> names_;  // of the themes, in lower case
+    OpenedWeb opened_;
+};
+
+}  // namespace
+
+OpenedWeb OpenWebFolder(const std::string& folder, const std::string& unpackFolder,
+                        const std::optional<std::string>& onlyTheme) {
+    return WebOpener(folder, unpackFolder, onlyTheme).Open();
+}
+
+}  // namespace morpho

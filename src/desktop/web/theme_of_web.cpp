@@ -1,0 +1,108 @@
+#include "desktop/web/theme_of_web.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <map>
+
+#include "desktop/text/windows_1252.h"
+#include "desktop/web/html_tags.h"
+#include "platform/ignoring_case.h"
+#include "platform/run_time_error.h"
+
+namespace morpho {
+
+namespace {
+
+// The head of every page that was ever made in the host fits in here.
+constexpr std::size_t kHeadBytes = 64 * 1024;
+
+constexpr std::array<std::string_view, 4> kHomePages = {"index.htm", "index.html", "default.htm",
+                                                        "default.html"};
+constexpr std::array<std::string_view, 5> kPageExtensions = {".htm", ".html", ".shtml", ".asp",
+                                                             ".php"};
+
+std::string_view Trimmed(std::string_view text) {
+    constexpr std::string_view kBlanks = " \t\r\n";
+    const std::size_t begin = text.find_first_not_of(kBlanks);
+    if (begin == text.npos) return {};
+    return text.substr(begin, text.find_last_not_of(kBlanks) - begin + 1);
+}
+
+PageTheme ParsedContent(std::string_view content) {
+    PageTheme theme;
+    const std::size_t comma = content.rfind(',');
+    if (comma != content.npos && EqualIgnoringCase(Trimmed(content.substr(comma + 1)), "default")) {
+        theme.ofWeb = true;
+        content = content.substr(0, comma);
+    }
+    content = Trimmed(content);
+    const std::size_t blank = content.rfind(' ');
+    if (blank != content.npos && content.find_first_not_of("0123456789", blank + 1) == content.npos)
+        content = Trimmed(content.substr(0, blank));
+    if (!EqualIgnoringCase(content, "none")) theme.name = TextOfUnknownCoding(content);
+    return theme;
+}
+
+// As much of the page as its head can be; what cannot be read has no theme.
+std::string HeadOf(const DiskFolder& web, const std::string& name) {
+    std::string head(kHeadBytes, '\0');
+    try {
+        const Descriptor file = web.OpenFile(name);
+        const ssize_t count = ::read(file.Number(), head.data(), head.size());
+        head.resize(static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+    } catch (const RunTimeError&) {
+        head.clear();
+    }
+    return head;
+}
+
+// The theme of the web, as far as this page takes it.
+std::optional<std::string> ThemeTaken(const DiskFolder& web, const std::string& name) {
+    const auto theme = ThemeOfPage(HeadOf(web, name));
+    if (!theme || !theme->ofWeb) return {};
+    return theme->name;
+}
+
+bool IsPage(const DiskEntry& entry) {
+    if (entry.kind != DiskKind::kFile) return false;
+    const std::string name = Lowered(entry.name);
+    return std::any_of(kPageExtensions.begin(), kPageExtensions.end(),
+                       [&](std::string_view extension) { return name.ends_with(extension); });
+}
+
+}  // namespace
+
+std::optional<PageTheme> ThemeOfPage(std::string_view page) {
+    HtmlTagReader tags(page);
+    while (const auto tag = tags.Next()) {
+        if (tag->name == "body") return {};
+        if (tag->name != "meta") continue;
+        if (!EqualIgnoringCase(tag->Attribute("name").value_or(""), "Microsoft Theme")) continue;
+        return ParsedContent(tag->Attribute("content").value_or(""));
+    }
+    return {};
+}
+
+std::string ThemeOfWeb(const DiskFolder& web) {
+    std::vector<DiskEntry> pages = web.Entries();
+    std::erase_if(pages, [](const DiskEntry& entry) { return !IsPage(entry); });
+    for (const std::string_view home : kHomePages) {
+        for (const DiskEntry& page : pages) {
+            if (!EqualIgnoringCase(page.name, home)) continue;
+            if (auto theme = ThemeTaken(web, page.name)) return *theme;
+        }
+    }
+    std::map<std::string, int> counts;
+    for (const DiskEntry& page : pages) {
+        const auto theme = ThemeTaken(web, page.name);
+        if (theme && !theme->empty()) ++counts[*theme];
+    }
+    const auto most =
+        std::max_element(counts.begin(), counts.end(),
+                         [](const auto& a, const auto& b) { return a.second < b.second; });
+    return most == counts.end() ? "" : most->first;
+}
+
+}  // namespace morpho

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "desktop/disk/disk_folder.h"
+
+namespace morpho {
+
+// What a page's "Microsoft Theme" meta tag says:
+//     <meta name="Microsoft Theme" content="NAME DIGITS, default">
+// DIGITS are the theme's flags; "default" stands where the page takes the theme of the whole web;
+// the name "none" means no theme.
+struct PageTheme {
+    std::string name;  // folder name, UTF-8; empty for none
+    bool ofWeb = false;
+};
+
+// Nothing when the page does not say. `page` may be its first part only.
+std::optional<PageTheme> ThemeOfPage(std::string_view page);
+
+// The theme that the web as a whole uses, told from its pages: the home page's, else the one that
+// most of the pages in the web's root folder take. Empty when there is none.
+std::string ThemeOfWeb(const DiskFolder& web);
+
+}  // namespace morpho
