@@ -1,0 +1,74 @@
+#include "desktop/host/desktop_platform.h"
+
+#include <filesystem>
+
+#include "desktop/disk/disk_path.h"
+#include "desktop/host/machine_description.h"
+#include "desktop/system/registry_file.h"
+
+namespace morpho {
+
+namespace {
+
+constexpr int kVersionMajor = MORPHO_VERSION_MAJOR;
+constexpr int kVersionMinor = MORPHO_VERSION_MINOR;
+constexpr int kVersionRevision = MORPHO_VERSION_REVISION;
+
+std::string DesktopFolder(const UserFolders& folders) {
+    const std::string desktop = JoinDiskPath(folders.home, "Desktop");
+    std::error_code ignored;
+    return std::filesystem::is_directory(desktop, ignored) ? desktop : folders.home;
+}
+
+// Settings as after a first start whose greetings were answered.
+RegistryData BatchSettings() {
+    RegistryData settings;
+    for (const std::string application : {"Theme Morpho", "Image Morpho"}) {
+        const std::string key =
+            "HKEY_CURRENT_USER\\Software\\VB and VBA Program Settings\\" + application + "\\Window";
+        for (const char* name : {"Splash", "QuickReference"})
+            settings.Set(key, {name, RegType::kString, "0"});
+    }
+    return settings;
+}
+
+std::unique_ptr<Registry> MakeRegistry(DesktopUse use, const UserFolders& folders,
+                                       const PrivateFolder& workFolder) {
+    MachineFolders machine;
+    machine.cache = workFolder.Cache();
+    machine.appData = JoinDiskPath(folders.data, "AppData");
+    machine.desktop = DesktopFolder(folders);
+    machine.commonFiles = JoinDiskPath(folders.data, "CommonFiles");
+    machine.program = ProgramFolder();
+    if (use == DesktopUse::kBatch)
+        return std::make_unique<MemoryRegistry>(DescribeMachine(machine), BatchSettings());
+    // Where it cannot be made, there are no logs; the editors run without.
+    std::error_code ignored;
+    std::filesystem::create_directories(machine.appData, ignored);
+    return std::make_unique<RegistryFile>(JoinDiskPath(folders.data, "registry.reg"),
+                                          DescribeMachine(machine));
+}
+
+// Beside an installed program, and in the sources of one that was only built.
+std::vector<std::string> HelpPages() {
+    const std::string program = ProgramFolder();
+    return {program + "/../share/doc/morpho/help/index.html",
+            program + "/../../../docs/help/index.html"};
+}
+
+}  // namespace
+
+DesktopPlatform::DesktopPlatform(DesktopUse use, const UserFolders& folders, Toolkit& toolkit,
+                                 const Resources& resources)
+    : workFolder_(folders.cache),
+      registry_(MakeRegistry(use, folders, workFolder_)),
+      files_(workFolder_.Path()),
+      profileFiles_(files_, codePage_),
+      shell_(HelpPages(), StartDetached),
+      environment_({"Morpho", kVersionMajor, kVersionMinor, kVersionRevision, ""},
+                   workFolder_.Temporary()),
+      frontPage_(workFolder_.Cache()),
+      platform_{*registry_, files_,       profileFiles_, codePage_,   shell_,
+                clock_,     environment_, resources,     colorizers_, toolkit} {}
+
+}  // namespace morpho
