@@ -75,12 +75,12 @@ class frmThemeMorpho : public LoggedForm {
     WebBrowser wbbImagePreview{framePreview,
                                {"wbbImagePreview", {30, 330, 11355, 4580}, {}, {}, 0, "Preview"}};
 
-    Frame frameProcess{*this, {"frameProcess", {2940, 7000, 8700, 1890}}};
+    Frame frameProcess{*this, {"frameProcess", {2940, 7000, 8580, 1890}}};
     Label lblBrightness{frameProcess,
                         {"lblBrightness", {60, 150, 1020, 225}, "Brightness:", {}, 'g'}};
     Slider sldBrightness{frameProcess,
                          {"sldBrightness",
-                          {1080, 75, 5985, 375},
+                          {1080, 75, 5865, 375},
                           {},
                           "Change brightness of the selected images",
                           0,
@@ -88,12 +88,12 @@ class frmThemeMorpho : public LoggedForm {
                          AdjustmentSliders::kFactorRange,
                          [this] { Slider_Scroll(); },
                          [this] { Slider_Change(); }};
-    Label lblBVal{frameProcess, {"lblBVal", {7110, 150, 510, 225}, "100 %"}, Alignment::kRight};
+    Label lblBVal{frameProcess, {"lblBVal", {6990, 150, 510, 225}, "100 %"}, Alignment::kRight};
     Label lblSaturation{frameProcess,
                         {"lblSaturation", {60, 555, 1020, 225}, "Saturation:", {}, 'o'}};
     Slider sldSaturation{frameProcess,
                          {"sldSaturation",
-                          {1080, 480, 5985, 375},
+                          {1080, 480, 5865, 375},
                           {},
                           "Change saturation of the selected images",
                           0,
@@ -101,48 +101,48 @@ class frmThemeMorpho : public LoggedForm {
                          AdjustmentSliders::kFactorRange,
                          [this] { Slider_Scroll(); },
                          [this] { Slider_Change(); }};
-    Label lblSVal{frameProcess, {"lblSVal", {7110, 555, 510, 225}, "100 %"}, Alignment::kRight};
+    Label lblSVal{frameProcess, {"lblSVal", {6990, 555, 510, 225}, "100 %"}, Alignment::kRight};
     Label lblHue{frameProcess, {"lblHue", {60, 960, 1020, 225}, "Hue:", {}, 'H'}};
     Slider sldHue{
         frameProcess,
-        {"sldHue", {1080, 885, 5985, 375}, {}, "Change hue of the selected images", 0, "Hue"},
+        {"sldHue", {1080, 885, 5865, 375}, {}, "Change hue of the selected images", 0, "Hue"},
         AdjustmentSliders::kHueRange,
         [this] { Slider_Scroll(); },
         [this] { Slider_Change(); }};
-    Label lblHVal{frameProcess, {"lblHVal", {7110, 960, 510, 225}, "0"}, Alignment::kRight};
+    Label lblHVal{frameProcess, {"lblHVal", {6990, 960, 510, 225}, "0"}, Alignment::kRight};
     Label lblBand{frameProcess, {"lblBand", {60, 1320, 1020, 195}, "Original:"}};
     PictureBox imgBand{
-        frameProcess, {"imgBand", {1095, 1365, 5955, 105}, {}, "Original color band"}, true};
+        frameProcess, {"imgBand", {1095, 1365, 5835, 105}, {}, "Original color band"}, true};
     Label lblProcessedBand{frameProcess, {"lblProcessedBand", {60, 1560, 1020, 195}, "Processed:"}};
     PictureBox picBand{
-        frameProcess, {"picBand", {1095, 1605, 5955, 105}, {}, "Processed color band"}, true};
+        frameProcess, {"picBand", {1095, 1605, 5835, 105}, {}, "Processed color band"}, true};
     CommandButton cmdApply{frameProcess,
                            {"cmdApply",
-                            {7740, 75, 960, 375},
+                            {7620, 75, 960, 375},
                             "Apply",
                             "Apply the changes to the selected images and update the preview",
                             'A'},
                            [this] { cmdApply_Click(); }};
     CommandButton cmdUndo{frameProcess,
-                          {"cmdUndo", {7740, 510, 960, 375}, "Undo", "Undo ", 'U'},
+                          {"cmdUndo", {7620, 510, 960, 375}, "Undo", "Undo ", 'U'},
                           [this] { cmdUndo_Click(); },
                           ButtonRole::kNone,
                           "Ctrl+Z"};
     CommandButton cmdRedo{frameProcess,
-                          {"cmdRedo", {7740, 945, 960, 375}, "Redo", "Redo", 'R'},
+                          {"cmdRedo", {7620, 945, 960, 375}, "Redo", "Redo", 'R'},
                           [this] { cmdRedo_Click(); },
                           ButtonRole::kNone,
                           "Ctrl+Y"};
     CommandButton cmdReset{frameProcess,
                            {"cmdReset",
-                            {7740, 1380, 960, 375},
+                            {7620, 1380, 960, 375},
                             "Reset",
                             "Restore all the original images of the theme",
                             'e'},
                            [this] { cmdReset_Click(); }};
 
     Label lblStatus{*this, {"lblStatus", {90, 9000, 2790, 225}}};
-    Frame frameMenu{*this, {"frameMenu", {2940, 9000, 8700, 495}}};
+    Frame frameMenu{*this, {"frameMenu", {2940, 9000, 8580, 495}}};
     CommandButton cmdSave{frameMenu,
                           {"cmdSave", {0, 60, 1275, 375}, "Save", "Save the theme", 'S'},
                           {},
@@ -154,14 +154,14 @@ class frmThemeMorpho : public LoggedForm {
         {}};
     CommandButton cmdCancel{
         frameMenu,
-        {"cmdCancel", {4755, 60, 1275, 375}, "Close", "Close Theme Morpho", 'C'},
+        {"cmdCancel", {4635, 60, 1275, 375}, "Close", "Close Theme Morpho", 'C'},
         [this] { cmdCancel_Click(); }};
     CommandButton btnAbout{
         frameMenu,
-        {"btnAbout", {6090, 60, 1275, 375}, "About...", "About Theme Morpho", 'b'},
+        {"btnAbout", {5970, 60, 1275, 375}, "About...", "About Theme Morpho", 'b'},
         [this] { btnAbout_Click(); }};
     CommandButton btnHelp{frameMenu,
-                          {"btnHelp", {7425, 60, 1275, 375}, "Help", "Help", 'p'},
+                          {"btnHelp", {7305, 60, 1275, 375}, "Help", "Help", 'p'},
                           [this] { btnHelp_Click(); },
                           ButtonRole::kNone,
                           "F1"};
