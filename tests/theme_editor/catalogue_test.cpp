@@ -2,50 +2,28 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <map>
 #include <set>
 
 namespace morpho::test {
-
 namespace {
 
-auto CountIf(auto condition) {
-    return std::count_if(kCatalogue.begin(), kCatalogue.end(), condition);
-}
-
-TEST(Catalogue, HasItsElementsOnceInThreeGroupsWithASheetEach) {
+TEST(Catalogue, HasEachElementOnceInThreeGroupsWithASheetEach) {
     std::set<std::string_view> keys;
+    std::map<std::string_view, int> groups;
+    std::map<std::string_view, int> hovered;
     for (const CatalogueElement& element : kCatalogue) {
-        const bool active = element.key.starts_with("active/");
-        const bool normal = element.key.starts_with("normal/");
-        EXPECT_TRUE(active || normal || element.key.starts_with("global/")) << element.key;
-        EXPECT_EQ(element.styleSheet, active   ? "\\graph1.css"
-                                      : normal ? "\\graph0.css"
-                                               : "\\theme.css");
-        EXPECT_EQ(element.selector, element.key == "global/background-image" ? "body" : ".mstheme");
         keys.insert(element.key);
+        ++groups[element.key.substr(0, 7)];
+        if (element.Attribute().ends_with("-hovered")) ++hovered[element.styleSheet];
+        EXPECT_EQ(element.selector == "body", element.Attribute() == "background-image");
     }
     EXPECT_EQ(keys.size(), 38U);
-    EXPECT_EQ(CountIf([](const auto& e) { return e.key.starts_with("active/"); }), 23);
-    EXPECT_EQ(CountIf([](const auto& e) { return e.key.starts_with("normal/"); }), 13);
-}
-
-TEST(Catalogue, KnowsHoveredStatesOfActiveButtonsOnly) {
-    const auto hovered = [](const auto& e) { return e.key.ends_with("-hovered"); };
-    EXPECT_EQ(CountIf(hovered), 6);
-    EXPECT_EQ(CountIf([&](const auto& e) { return hovered(e) && e.key.starts_with("active/"); }),
-              6);
-    EXPECT_EQ(CountIf([](const auto& e) {
-                  return e.key.ends_with("-pushed") && e.key.starts_with("normal/");
-              }),
-              2);
-}
-
-TEST(Catalogue, TakesTheAttributeFromTheKey) {
-    EXPECT_EQ(kCatalogue.front().Attribute(), "nav-banner-image");
-    EXPECT_EQ(kCatalogue.back().Attribute(), "background-image");
+    EXPECT_EQ(groups,
+              (std::map<std::string_view, int>{{"active/", 23}, {"normal/", 13}, {"global/", 2}}));
+    EXPECT_EQ(hovered, (std::map<std::string_view, int>{{"\\graph1.css", 6}}))
+        << "only active buttons are hovered";
 }
 
 }  // namespace
-
 }  // namespace morpho::test

@@ -7,7 +7,6 @@
 #include "theme_editor/frm_prompt_duplicate.h"
 
 namespace morpho::test {
-
 namespace {
 
 constexpr const char* kSettings = "Software\\VB and VBA Program Settings\\Theme Morpho\\Window";
@@ -16,6 +15,12 @@ constexpr const char* kShellFolders =
 const std::string kUnpacked = "C:\\Cache\\FrontPageTempDir\\mstheme\\";
 
 }  // namespace
+
+void RecordingBrowser::Write(Aspects changed) {
+    if ((changed & aspect::kNavigate) != 0) asked.emplace_back("navigate");
+    if ((changed & aspect::kReload) != 0) asked.emplace_back("refresh");
+    if ((changed & aspect::kReloadCompletely) != 0) asked.emplace_back("refresh completely");
+}
 
 ThemeWindow::ThemeWindow() {
     world_.registry.PutString(kCurrentUser, kShellFolders, "Cache", "C:\\Cache");
@@ -37,15 +42,15 @@ ThemeWindow::ThemeWindow() {
               {"global/background-image", "back.JPEG"}});
     PutTheme("citrus", "Citrus Punch", {{"active/list-image-1", "dot.gif"}});
     world_.toolkit.WillPlay("frmPromptDuplicate", [this](Form& form) {
-        ++notices_;
         auto& notice = dynamic_cast<frmPromptDuplicate&>(form);
+        notices_.push_back(notice.Caption() + ": " + notice.lblMessage.Caption());
         notice.chkDontShowAgain.UserSet(tickDontShow_);
         notice.btnOK.UserClick();
     });
     world_.toolkit.WillPlay("frmJPEGQF", [this](Form& form) {
         ++prompts_;
         auto& prompt = dynamic_cast<frmJPEGQF&>(form);
-        prompt.vsQF.UserSet(quality_);
+        prompt.vsQF.UserSet(60);
         prompt.btnOK.UserClick();
     });
 }
@@ -68,13 +73,8 @@ void ThemeWindow::PutTheme(const std::string& name, const std::string& label,
         }
     }
     for (const auto& [sheet, css] : sheets)
-        PutSheet(name, sheet, css);
+        world_.files.PutFile(Original(sheet, name), css);
     world_.application.web->themes.push_back({name, label});
-}
-
-void ThemeWindow::PutSheet(const std::string& theme, const std::string& sheet,
-                           const std::string& css) {
-    world_.files.PutFile(Original(sheet, theme), css);
 }
 
 std::string ThemeWindow::Original(const std::string& file, const std::string& theme) {
@@ -118,13 +118,20 @@ void ThemeWindow::Forget() {
     world_.shell.debugLines.clear();
     world_.colorizers.calls.clear();
     browser_.asked.clear();
-    notices_ = 0;
+    notices_.clear();
     prompts_ = 0;
 }
 
-std::string ThemeWindow::LastMessage() const {
-    const auto& messages = world_.toolkit.Messages();
-    return messages.empty() ? "(none)" : messages.back().text;
+void ThemeWindow::ExpectPicture(const std::string& file, const std::string& bytes) const {
+    EXPECT_EQ(world_.files.Bytes(Working(file)), bytes);
+}
+
+void ThemeWindow::ExpectMessage(std::size_t count, const std::string& text, int flags) const {
+    ASSERT_EQ(world_.toolkit.Messages().size(), count);
+    const HeadlessToolkit::Message& message = world_.toolkit.Messages().back();
+    EXPECT_EQ(message.text, text);
+    EXPECT_EQ(message.flags, flags);
+    EXPECT_EQ(message.title, "Theme Morpho");
 }
 
 void ThemeWindow::PutSetting(const std::string& key, const std::string& value) {

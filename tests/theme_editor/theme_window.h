@@ -26,21 +26,17 @@ class RecordingBrowser : public Peer {
     Lines asked;
 
   protected:
-    void Write(Aspects changed) override {
-        if ((changed & aspect::kNavigate) != 0) asked.emplace_back("navigate");
-        if ((changed & aspect::kReload) != 0) asked.emplace_back("refresh");
-        if ((changed & aspect::kReloadCompletely) != 0) asked.emplace_back("refresh completely");
-    }
+    void Write(Aspects changed) override;
 };
 
 // The Theme Morpho window on a web with two themes, "blends" and "citrus". The log goes to the
-// debugger output, and neither the About box nor the quick reference is shown at the start. The
-// person closes the shared-image notice. Questions that no test answered are failures.
+// debugger output, and neither the About box nor the quick reference is shown at the start.
+// Questions that no test answers are failures.
 class ThemeWindow : public testing::Test {
   protected:
     using Pictures = std::vector<std::pair<std::string, std::string>>;  // element key, file
 
-    // Rows of "blends", as listed.
+    // Rows of "blends", as listed; the two banners share an image.
     enum Row { kBanner, kButton, kBullet, kNormalBanner, kNormalBullet, kLine, kBackground };
 
     ThemeWindow();
@@ -48,32 +44,29 @@ class ThemeWindow : public testing::Test {
 
     // A theme of the web that the host has unpacked. The picture a.gif holds "blends/a.gif".
     void PutTheme(const std::string& name, const std::string& label, const Pictures& pictures);
-    void PutSheet(const std::string& theme, const std::string& sheet, const std::string& css);
+    void PutSetting(const std::string& key, const std::string& value);
     static std::string Original(const std::string& file, const std::string& theme = "blends");
     static std::string Working(const std::string& file, const std::string& theme = "blends");
 
     frmThemeMorpho& Open();
     // Ticks these rows alone and forgets what was logged and asked until then.
     void Tick(const std::vector<int>& rows);
+    void Forget();
+
     std::vector<int> Ticked() const;
     Lines Listed() const;  // "key=file", in the list's order
-    std::string PictureBytes(const std::string& file) const {
-        return world_.files.Bytes(Working(file));
-    }
-
     Lines Log() const { return world_.LogLines(); }
-    void Forget();
-    std::string LastMessage() const;
-    void PutSetting(const std::string& key, const std::string& value);
     std::string Setting(const std::string& key) const;  // "(none)" when there is none
+    void ExpectPicture(const std::string& file, const std::string& bytes) const;
+    // That so many messages were shown, and the last one.
+    void ExpectMessage(std::size_t count, const std::string& text, int flags) const;
 
     FakePlatform world_;
     RecordingBrowser browser_;
     std::optional<frmThemeMorpho> window_;
-    int notices_ = 0;            // how often the shared-image notice was shown
+    Lines notices_;              // what the shared-image notice said
     bool tickDontShow_ = false;  // the person ticks its box
-    int prompts_ = 0;            // how often the JPEG quality was asked
-    int quality_ = 60;           // what the person answers
+    int prompts_ = 0;            // how often the JPEG quality was asked; the answer is 60
 };
 
 }  // namespace morpho::test

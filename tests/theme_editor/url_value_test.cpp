@@ -5,21 +5,15 @@
 #include "platform/run_time_error.h"
 
 namespace morpho::test {
-
 namespace {
 
-TEST(UrlValue, FindsTheNextCharacterThatIsNoWhitespace) {
-    EXPECT_EQ(IgnoreWhiteSpaces("a", 1), 1U);
+TEST(UrlValue, KnowsFiveKindsOfWhitespace) {
     EXPECT_EQ(IgnoreWhiteSpaces(" \t\r\n\va", 1), 6U);
-    EXPECT_EQ(IgnoreWhiteSpaces("a b", 2), 3U);
+    EXPECT_EQ(IgnoreWhiteSpaces("a b", 1), 1U);
     EXPECT_EQ(IgnoreWhiteSpaces("a  ", 2), 0U);
     EXPECT_EQ(IgnoreWhiteSpaces("a", 2), 0U);
-    EXPECT_EQ(IgnoreWhiteSpaces("", 1), 0U);
-}
-
-TEST(UrlValue, TrimsFiveKindsOfWhitespaceFromBothEnds) {
     EXPECT_EQ(TrimWhiteSpaces(" \t\r\n\va b\v\n\r\t "), "a b");
-    EXPECT_EQ(TrimWhiteSpaces("\fa"), "\fa");
+    EXPECT_EQ(TrimWhiteSpaces("\f \t"), "\f");
     EXPECT_EQ(TrimWhiteSpaces(" \t"), "");
 }
 
@@ -39,30 +33,24 @@ void ExpectName(const std::string& value, const std::string& expected) {
 TEST(UrlValue, GivesTheNameWithoutQuotesAndBlanks) {
     ExpectName("url(a.gif)", "a.gif");
     ExpectName("URL(\"a.gif\")", "a.gif");
-    ExpectName("url('a.gif')", "a.gif");
     ExpectName("url ( \t\"a.gif\"  )", "a.gif");
     ExpectName("url( ' a b.gif ' )", "a b.gif");
     ExpectName("url(\"'a.gif'\")", "a.gif");
     ExpectName("url(a.gif) no-repeat (x)", "a.gif");
     ExpectName("url(it's.gif)", "it's.gif");
     ExpectName("url()", "");
-    ExpectName("url( '' )", "");
     ExpectName("url(' )", "");
 }
 
-TEST(UrlValue, HasNoNameWhenItsParenthesisStaysOpen) {
+TEST(UrlValue, HasNoNameWhenItIsCutShort) {
     std::string name;
     EXPECT_FALSE(FileNameOfUrl("url(a.gif", name));
     EXPECT_FALSE(FileNameOfUrl("url('", name));
-}
-
-TEST(UrlValue, IsAnErrorWhenNothingFollows) {
-    std::string name;
     for (const char* value : {"url", "url \t", "url(", "url(  "})
         EXPECT_THROW(FileNameOfUrl(value, name), RunTimeError) << value;
 }
 
-TEST(UrlValue, NamesWithinTheFolderStayInside) {
+TEST(UrlValue, MustNotLeadOutOfTheFolder) {
     for (const char* name : {"a.gif", "sub\\a.gif", "sub/a.gif", "a..gif", "..a.gif", ""})
         EXPECT_TRUE(StaysInsideFolder(name)) << name;
     for (const char* name : {"..\\a.gif", "../a.gif", "sub\\..\\..\\a.gif", "sub/..", "\\a.gif",
@@ -71,5 +59,4 @@ TEST(UrlValue, NamesWithinTheFolderStayInside) {
 }
 
 }  // namespace
-
 }  // namespace morpho::test
