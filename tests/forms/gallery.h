@@ -117,7 +117,8 @@ class Gallery : public Form {
     Handler On(const std::string& event) {
         return [this, event] {
             events.push_back(event);
-            if (answer) answer();
+            const auto now = answer;  // which may set another one
+            if (now) now();
         };
     }
 };

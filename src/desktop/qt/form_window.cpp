@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 #include <algorithm>
 
 #include "desktop/qt/button_peers.h"
@@ -73,6 +74,8 @@ void FormWindow::RunUntilHidden(const std::function<void()>& stands) {
     if (!form_.IsVisible()) return;
     PlaceFirst();
     setWindowState(ToQt(form_.State()));
+    create();
+    windowHandle()->installEventFilter(this);
     show();
     loop_.exec();
 }
@@ -147,17 +150,17 @@ void FormWindow::PlaceFirst() {
     move(wanted.topLeft());
 }
 
-bool FormWindow::event(QEvent* event) {
-    const bool firstPaint = event->type() == QEvent::Paint && !painted_;
-    const bool handled = QDialog::event(event);
-    if (firstPaint) QTimer::singleShot(0, this, [this] { FirstPainted(); });
-    return handled;
+// Not the paint event: the window itself is never painted when a control covers it all.
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == windowHandle() && event->type() == QEvent::Expose && !painted_)
+        QTimer::singleShot(0, this, [this] { FirstPainted(); });
+    return QDialog::eventFilter(watched, event);
 }
 
 // Only now does the window system's frame stand, and a dialog opened by Form_Paint appears over
 // this window.
 void FormWindow::FirstPainted() {
-    if (painted_ || !form_.IsVisible()) return;
+    if (painted_ || !form_.IsVisible() || !windowHandle()->isExposed()) return;
     painted_ = true;
     if (outerAsked_.isValid() && StateOf(*this) == WindowState::kNormal)
         resize(outerAsked_ - (frameGeometry().size() - size()));

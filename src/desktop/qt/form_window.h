@@ -35,7 +35,7 @@ class FormWindow : public QDialog, public Peer {
 
   protected:
     void Write(Aspects changed) override;
-    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void moveEvent(QMoveEvent* event) override;

@@ -20,6 +20,10 @@ class StillPage : public QWebEnginePage {
         const bool asked = type == NavigationTypeTyped || type == NavigationTypeReload;
         return PageServer::IsOfScheme(url) && (asked || !isMainFrame);
     }
+
+    void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel /*level*/,
+                                  const QString& /*message*/, int /*line*/,
+                                  const QString& /*source*/) override {}
 };
 
 void ShowOnly(QWebEngineSettings* settings) {

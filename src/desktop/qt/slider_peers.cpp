@@ -31,9 +31,10 @@ SliderPeer::~SliderPeer() {
 }
 
 void SliderPeer::Moved(int value) {
-    slider_.UserScroll(value);
+    const bool moved = slider_.UserScroll(value);
     Show(aspect::kValue);
-    if (!widget_->isSliderDown()) Context().settling.Hold(this, [this] { return Settle(); });
+    if (moved && !widget_->isSliderDown())
+        Context().settling.Hold(this, [this] { return Settle(); });
 }
 
 bool SliderPeer::Settle() {
