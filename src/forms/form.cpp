@@ -43,9 +43,9 @@ void Form::Load() {
     RunHandler("Form_Load", [this] { Form_Load(); });
 }
 
-void Form::ShowModal() {
+void Form::ShowModalOn(Toolkit& toolkit) {
     visible_ = true;
-    toolkit_.RunModal(*this);
+    toolkit.RunModal(*this);
     visible_ = false;
 }
 

@@ -46,7 +46,9 @@ class Form : public Container {
     // Runs Form_Load, once.
     void Load();
     // Loads the form if need be and returns when it has been hidden or unloaded.
-    void ShowModal();
+    void ShowModal() { ShowModalOn(toolkit_); }
+    // The same on another toolkit than its own: a batch's form drawn as its window would be.
+    void ShowModalOn(Toolkit& toolkit);
     // Makes ShowModal return and keeps the form loaded.
     void Hide();
     // Asks Form_QueryUnload; unless that refuses, ShowModal returns and the form is no longer

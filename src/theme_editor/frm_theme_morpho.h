@@ -19,63 +19,63 @@ class frmThemeMorpho : public LoggedForm {
 
     static constexpr Size kMinimumSize{11820, 6000};
 
-    Label lblTheme{*this, {"lblTheme", {60, 75, 2820, 195}, "Theme:", {}, 'T'}};
+    Label lblTheme{*this, {"lblTheme", {45, 75, 2880, 195}, "Theme:", {}, 'T'}};
     ComboBox cmbThemeLabel{
         *this,
-        {"cmbThemeLabel", {60, 285, 2820, 315}, {}, "Select a web theme", 0, "Theme"},
+        {"cmbThemeLabel", {30, 285, 2910, 315}, {}, "Select a web theme", 0, "Theme"},
         [this] { cmbThemeLabel_Click(); }};
     // The names behind the labels, at the same index; never shown.
     ComboBox cmbThemeName{
-        *this, {"cmbThemeName", {60, 285, 2820, 315}}, [this] { cmbThemeName_Click(); }};
+        *this, {"cmbThemeName", {30, 285, 2910, 315}}, [this] { cmbThemeName_Click(); }};
 
-    Frame frameImageList{*this, {"frameImageList", {60, 660, 2820, 4000}, "Images"}};
+    Frame frameImageList{*this, {"frameImageList", {30, 660, 2910, 4000}, "Images"}};
     CheckListBox lstImageNames{frameImageList,
                                {"lstImageNames",
-                                {90, 300, 2640, 3565},
+                                {30, 300, 2850, 3565},
                                 {},
                                 "Images available for the selected theme",
                                 0,
                                 "Images"},
                                [this](int index) { lstImageNames_ItemCheck(index); }};
-    ListBox lstGifNames{frameImageList, {"lstGifNames", {90, 300, 2640, 3565}}};
+    ListBox lstGifNames{frameImageList, {"lstGifNames", {30, 300, 2850, 3565}}};
 
-    Frame frameImageListControl{*this, {"frameImageListControl", {60, 7000, 2820, 960}}};
+    Frame frameImageListControl{*this, {"frameImageListControl", {30, 7000, 2910, 960}}};
     CommandButton cmdSelectAll{frameImageListControl,
                                {"cmdSelectAll",
-                                {0, 60, 1380, 375},
+                                {0, 60, 1425, 375},
                                 "Select All",
                                 "Select all the images of the theme",
                                 'l'},
                                [this] { cmdSelectAll_Click(); }};
     CommandButton cmdSelectNone{frameImageListControl,
                                 {"cmdSelectNone",
-                                 {1440, 60, 1380, 375},
+                                 {1485, 60, 1425, 375},
                                  "Select None",
                                  "Deselect all the images of the theme",
                                  'n'},
                                 [this] { cmdSelectNone_Click(); }};
     CommandButton cmdSelectActive{frameImageListControl,
                                   {"cmdSelectActive",
-                                   {0, 495, 1380, 375},
+                                   {0, 495, 1425, 375},
                                    "Select Active",
                                    "Select the active images of the theme",
                                    'i'},
                                   [this] { cmdSelectActive_Click(); }};
     CommandButton cmdSelectNormal{frameImageListControl,
                                   {"cmdSelectNormal",
-                                   {1440, 495, 1380, 375},
+                                   {1485, 495, 1425, 375},
                                    "Select Normal",
                                    "Select the normal images of the theme",
                                    'm'},
                                   [this] { cmdSelectNormal_Click(); }};
 
     Frame framePreview{*this,
-                       {"framePreview", {2940, 60, 11415, 5000}, "Preview:", "Theme preview"}};
+                       {"framePreview", {2955, 60, 11415, 5000}, "Preview:", "Theme preview"}};
     PictureBox picPreview{framePreview, {"picPreview", {30, 330, 11355, 4580}}};
     WebBrowser wbbImagePreview{framePreview,
                                {"wbbImagePreview", {30, 330, 11355, 4580}, {}, {}, 0, "Preview"}};
 
-    Frame frameProcess{*this, {"frameProcess", {2940, 7000, 8580, 1890}}};
+    Frame frameProcess{*this, {"frameProcess", {2955, 7000, 8580, 1890}}};
     Label lblBrightness{frameProcess,
                         {"lblBrightness", {60, 150, 1020, 225}, "Brightness:", {}, 'g'}};
     Slider sldBrightness{frameProcess,
@@ -141,8 +141,8 @@ class frmThemeMorpho : public LoggedForm {
                             'e'},
                            [this] { cmdReset_Click(); }};
 
-    Label lblStatus{*this, {"lblStatus", {90, 9000, 2790, 225}}};
-    Frame frameMenu{*this, {"frameMenu", {2940, 9000, 8580, 495}}};
+    Label lblStatus{*this, {"lblStatus", {45, 9000, 2880, 225}}};
+    Frame frameMenu{*this, {"frameMenu", {2955, 9000, 8580, 495}}};
     CommandButton cmdSave{frameMenu,
                           {"cmdSave", {0, 60, 1275, 375}, "Save", "Save the theme", 'S'},
                           {},

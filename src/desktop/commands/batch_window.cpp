@@ -6,7 +6,8 @@
 
 namespace morpho {
 
-BatchWindow::BatchWindow(const Program& program, HeadlessToolkit& toolkit) : toolkit_(toolkit), window_(program) {
+BatchWindow::BatchWindow(const Program& program, HeadlessToolkit& toolkit)
+    : toolkit_(toolkit), window_(program) {
     toolkit_.WillPlay("frmJPEGQF", [this](Form& form) {
         auto& prompt = static_cast<frmJPEGQF&>(form);
         prompt.vsQF.UserSet(quality_);
@@ -27,9 +28,11 @@ BatchWindow::~BatchWindow() {
 void BatchWindow::OpenTheme(const std::string& name) {
     const int index = window_.cmbThemeName.FindExact(name);
     Require(index != kNoEntry, "This web has no theme named \"" + name + "\" that can be opened.");
-    Require(window_.cmbThemeLabel.UserSelect(index), "The theme \"" + name + "\" cannot be opened.");
+    Require(window_.cmbThemeLabel.UserSelect(index),
+            "The theme \"" + name + "\" cannot be opened.");
     RefuseMessages();
-    Require(window_.LoadFailure().empty(), "The theme \"" + name + "\" cannot be loaded: " + window_.LoadFailure() + ".");
+    Require(window_.LoadFailure().empty(),
+            "The theme \"" + name + "\" cannot be loaded: " + window_.LoadFailure() + ".");
 }
 
 void BatchWindow::Take(const Step& step) {
@@ -38,10 +41,12 @@ void BatchWindow::Take(const Step& step) {
             Select(step.words);
             break;
         case Step::Kind::kBrightness:
-            Require(window_.sldBrightness.UserSettle(step.number), "The brightness cannot be changed here.");
+            Require(window_.sldBrightness.UserSettle(step.number),
+                    "The brightness cannot be changed here.");
             break;
         case Step::Kind::kSaturation:
-            Require(window_.sldSaturation.UserSettle(step.number), "The saturation cannot be changed here.");
+            Require(window_.sldSaturation.UserSettle(step.number),
+                    "The saturation cannot be changed here.");
             break;
         case Step::Kind::kHue:
             Require(window_.sldHue.UserSettle(step.number), "The hue cannot be changed here.");
@@ -96,7 +101,8 @@ void BatchWindow::Require(bool done, const std::string& refusal) {
 }
 
 void BatchWindow::RefuseMessages() {
-    Require(toolkit_.Unscripted().empty(), toolkit_.Unscripted().empty() ? "" : toolkit_.Unscripted().front());
+    Require(toolkit_.Unscripted().empty(),
+            toolkit_.Unscripted().empty() ? "" : toolkit_.Unscripted().front());
     if (messagesSeen_ == toolkit_.Messages().size()) return;
     messagesSeen_ = toolkit_.Messages().size();
     throw CommandError(CommandError::Status::kRefused, toolkit_.Messages().back().text);

@@ -8,8 +8,8 @@
 
 namespace morpho {
 
-// A Theme Morpho window that a batch works in place of a person, through the same controls. What a person could not do,
-// and what the window answers with a message, is refused with CommandError.
+// A Theme Morpho window that a batch works in place of a person, through the same controls. What a
+// person could not do, and what the window answers with a message, is refused with CommandError.
 class BatchWindow {
   public:
     // `toolkit` is the program's own.

@@ -14,8 +14,10 @@ namespace morpho {
 namespace {
 
 constexpr const char* kSteps =
-    "Steps run in the order given, on the same window that a person uses. A theme opens with all its elements\n"
-    "selected, so a batch that means some of them begins with --select none. Elements that share a picture are\n"
+    "Steps run in the order given, on the same window that a person uses. A theme opens with all "
+    "its elements\n"
+    "selected, so a batch that means some of them begins with --select none. Elements that share a "
+    "picture are\n"
     "selected together.";
 
 bool IsSelectionWord(const std::string& word) {
@@ -32,7 +34,8 @@ Step SelectStep(const std::string& argument) {
     for (std::string word; std::getline(words, word, ',');) {
         if (!IsSelectionWord(word)) {
             throw CommandError(CommandError::Status::kWrongUsage,
-                               "--select: \"" + word + "\" is neither all, none, active, normal nor an element key.");
+                               "--select: \"" + word +
+                                   "\" is neither all, none, active, normal nor an element key.");
         }
         step.words.push_back(Lowered(word));
     }
@@ -48,12 +51,19 @@ class StepOptions {
     explicit StepOptions(CLI::App& command) : command_(command) {
         const auto& factor = AdjustmentSliders::kFactorRange;
         const auto& hue = AdjustmentSliders::kHueRange;
-        options_[command.add_option("--select", select_, "Elements to add to the selection, separated by commas: all, active, normal or element keys; none clears it")
+        options_[command
+                     .add_option("--select", select_,
+                                 "Elements to add to the selection, separated by commas: all, "
+                                 "active, normal or element keys; none clears it")
                      ->group("Steps")] = Step::Kind::kSelect;
-        Number("--brightness", Step::Kind::kBrightness, factor.minimum, factor.maximum, "Brightness in percent; 100 is neutral");
-        Number("--saturation", Step::Kind::kSaturation, factor.minimum, factor.maximum, "Saturation in percent; 100 is neutral");
-        Number("--hue", Step::Kind::kHue, hue.minimum, hue.maximum, "Hue shift in degrees; 0 is neutral, 120 carries red towards green");
-        Number("--quality", Step::Kind::kQuality, 1, 100, "JPEG quality from here on; 75 if never given");
+        Number("--brightness", Step::Kind::kBrightness, factor.minimum, factor.maximum,
+               "Brightness in percent; 100 is neutral");
+        Number("--saturation", Step::Kind::kSaturation, factor.minimum, factor.maximum,
+               "Saturation in percent; 100 is neutral");
+        Number("--hue", Step::Kind::kHue, hue.minimum, hue.maximum,
+               "Hue shift in degrees; 0 is neutral, 120 carries red towards green");
+        Number("--quality", Step::Kind::kQuality, 1, 100,
+               "JPEG quality from here on; 75 if never given");
         Plain("--apply", Step::Kind::kApply, "Apply the sliders to the selected elements");
         Plain("--undo", Step::Kind::kUndo, "Undo the last step");
         Plain("--redo", Step::Kind::kRedo, "Redo the step undone last");
@@ -74,19 +84,23 @@ class StepOptions {
     }
 
   private:
-    void Number(const char* name, Step::Kind kind, int least, int most, const char* help) {
-        CLI::Option* option = command_.add_option(name, numbers_[kind], help)->check(CLI::Range(least, most))->group("Steps");
+    void Number(const std::string& name, Step::Kind kind, int least, int most,
+                const std::string& help) {
+        CLI::Option* option = command_.add_option(name, numbers_[kind], help)
+                                  ->check(CLI::Range(least, most))
+                                  ->group("Steps");
         options_[option] = kind;
     }
 
-    void Plain(const char* name, Step::Kind kind, const char* help) {
+    void Plain(const std::string& name, Step::Kind kind, const std::string& help) {
         options_[command_.add_flag(name, help)->group("Steps")] = kind;
     }
 
     static Step StepOf(Step::Kind kind, const CLI::Option& option, std::size_t occurrence) {
         if (kind == Step::Kind::kSelect) return SelectStep(option.results().at(occurrence));
         Step step{kind};
-        if (option.get_items_expected_max() > 0) step.number = std::stoi(option.results().at(occurrence));
+        if (option.get_items_expected_max() > 0)
+            step.number = std::stoi(option.results().at(occurrence));
         return step;
     }
 
@@ -104,14 +118,16 @@ Request ParseCommandLine(int argc, const char* const* argv, const std::string& v
     app.require_subcommand(1);
 
     ThemeRequest theme;
-    CLI::App* themeCommand = app.add_subcommand("theme", "Open a web's theme in the Theme Morpho window");
+    CLI::App* themeCommand =
+        app.add_subcommand("theme", "Open a web's theme in the Theme Morpho window");
     themeCommand->add_option("WEB", theme.web, "Folder of the web")->required();
     themeCommand->add_option("--theme", theme.theme, "Theme to open; the web's first if not given");
 
     ListRequest list;
     CLI::App* listCommand = app.add_subcommand("list", "List a web's themes and their elements");
     listCommand->add_option("WEB", list.web, "Folder of the web")->required();
-    listCommand->add_option("--theme", list.theme, "List this theme's elements: key, file, image group");
+    listCommand->add_option("--theme", list.theme,
+                            "List this theme's elements: key, file, image group");
     listCommand->add_flag("--json", list.json, "Print all as JSON");
 
     RecolorRequest recolor;
@@ -119,8 +135,12 @@ Request ParseCommandLine(int argc, const char* const* argv, const std::string& v
     recolorCommand->footer(kSteps);
     recolorCommand->add_option("WEB", recolor.web, "Folder of the web")->required();
     recolorCommand->add_option("--theme", recolor.theme, "Theme to recolour")->required();
-    recolorCommand->add_option("--export", recolor.exportFolder, "New or empty folder that gets the recoloured theme")->required();
-    recolorCommand->add_option("--picture", recolor.picture, "PNG file that gets a picture of the window after the steps");
+    recolorCommand
+        ->add_option("--export", recolor.exportFolder,
+                     "New or empty folder that gets the recoloured theme")
+        ->required();
+    recolorCommand->add_option("--picture", recolor.picture,
+                               "PNG file that gets a picture of the window after the steps");
     recolorCommand->add_flag("--json", recolor.json, "Print the elements and the history as JSON");
     const StepOptions steps(*recolorCommand);
 
@@ -131,7 +151,8 @@ Request ParseCommandLine(int argc, const char* const* argv, const std::string& v
     } catch (const CLI::CallForHelp&) {
         return TextRequest{app.help()};
     } catch (const CLI::ParseError& error) {
-        throw CommandError(CommandError::Status::kWrongUsage, std::string(error.what()) + ". See morpho --help.");
+        throw CommandError(CommandError::Status::kWrongUsage,
+                           std::string(error.what()) + ". See morpho --help.");
     }
     if (*themeCommand) return theme;
     if (*listCommand) return list;

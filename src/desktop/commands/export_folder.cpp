@@ -38,7 +38,8 @@ void ExportFolder::Fill(const fs::path& source) const {
     // The files gather beside the folder and take its place when all are there.
     const fs::path gathering = folder_.string() + ".part" + std::to_string(::getpid());
     std::error_code error;
-    if (!fs::create_directory(gathering, error) && !error) error = std::make_error_code(std::errc::file_exists);
+    if (!fs::create_directory(gathering, error) && !error)
+        error = std::make_error_code(std::errc::file_exists);
     if (!error) fs::copy(source, gathering, fs::copy_options::recursive, error);
     if (!error) fs::rename(gathering, folder_, error);
     if (error) {

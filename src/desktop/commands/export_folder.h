@@ -10,7 +10,8 @@ class ExportFolder {
     // Throws CommandError unless `folder` is empty, or missing in a folder that exists.
     explicit ExportFolder(const std::filesystem::path& folder);
 
-    // Copies the files of `source` there, as a whole. Throws CommandError, and leaves nothing behind, when that fails.
+    // Copies the files of `source` there, as a whole. Throws CommandError, and leaves nothing
+    // behind, when that fails.
     void Fill(const std::filesystem::path& source) const;
 
   private:

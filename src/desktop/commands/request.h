@@ -13,10 +13,21 @@ namespace morpho {
 
 // One step of a batch, as a person would take it in the window.
 struct Step {
-    enum class Kind { kSelect, kBrightness, kSaturation, kHue, kQuality, kApply, kUndo, kRedo, kReset };
+    enum class Kind {
+        kSelect,
+        kBrightness,
+        kSaturation,
+        kHue,
+        kQuality,
+        kApply,
+        kUndo,
+        kRedo,
+        kReset
+    };
     Kind kind = Kind::kApply;
-    std::vector<std::string> words = {};  // kSelect: "all", "none", "active", "normal" or element keys
-    int number = 0;                       // a slider's value, or the JPEG quality
+    std::vector<std::string> words =
+        {};          // kSelect: "all", "none", "active", "normal" or element keys
+    int number = 0;  // a slider's value, or the JPEG quality
 };
 
 struct ThemeRequest {
@@ -46,12 +57,13 @@ struct TextRequest {
 
 using Request = std::variant<TextRequest, ThemeRequest, ListRequest, RecolorRequest>;
 
-// A command line that cannot be understood (status 2), or a world that refuses what it asks for (status 1); one
-// sentence, UTF-8.
+// A command line that cannot be understood (status 2), or a world that refuses what it asks for
+// (status 1); one sentence, UTF-8.
 class CommandError : public std::runtime_error {
   public:
     enum class Status { kRefused = 1, kWrongUsage = 2 };
-    CommandError(Status status, const std::string& sentence) : std::runtime_error(sentence), status_(status) {}
+    CommandError(Status status, const std::string& sentence)
+        : std::runtime_error(sentence), status_(status) {}
     int ExitStatus() const { return static_cast<int>(status_); }
 
   private:

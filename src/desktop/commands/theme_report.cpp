@@ -6,7 +6,9 @@ nlohmann::ordered_json ElementsReport(const frmThemeMorpho& window) {
     nlohmann::ordered_json report = nlohmann::ordered_json::array();
     const ElementList& elements = window.Elements();
     for (int row = 0; row < elements.Count(); ++row) {
-        report.push_back({{"key", elements.Key(row)}, {"file", elements.File(row)}, {"group", elements.Group(row)}});
+        report.push_back({{"key", elements.Key(row)},
+                          {"file", elements.File(row)},
+                          {"group", elements.Group(row)}});
     }
     return report;
 }

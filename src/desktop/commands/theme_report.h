@@ -10,7 +10,8 @@ namespace morpho {
 // The elements of the loaded theme as JSON: key, file and image group.
 nlohmann::ordered_json ElementsReport(const frmThemeMorpho& window);
 
-// What `morpho recolor --json` prints: the elements with what became of them, and the depth of the history.
+// What `morpho recolor --json` prints: the elements with what became of them, and the depth of the
+// history.
 nlohmann::ordered_json RecolorReport(const frmThemeMorpho& window);
 
 // JSON as text; bytes that are not UTF-8 become replacement characters.

@@ -1,0 +1,29 @@
+#include "desktop/commands/batch.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "platform/ignoring_case.h"
+
+namespace morpho {
+
+Batch::Batch(const std::filesystem::path& web, const std::string& onlyTheme)
+    : desktop_(DesktopUse::kBatch, FindUserFolders(EnvironmentVariable), toolkit_, resources_) {
+    const auto theme = onlyTheme.empty() ? std::nullopt : std::optional(onlyTheme);
+    desktop_.FrontPage().Open(std::filesystem::absolute(web).lexically_normal().string(), theme);
+    component_.application = &desktop_.FrontPage();
+}
+
+BatchWindow& Batch::OpenTheme(const std::string& name) {
+    const bool known = std::any_of(Themes().begin(), Themes().end(), [&](const Theme& theme) {
+        return EqualIgnoringCase(theme.name, name);
+    });
+    if (!known)
+        throw CommandError(CommandError::Status::kRefused,
+                           "This web has no theme named \"" + name + "\".");
+    if (!window_) window_ = std::make_unique<BatchWindow>(program_, toolkit_);
+    window_->OpenTheme(name);
+    return *window_;
+}
+
+}  // namespace morpho

@@ -1,0 +1,40 @@
+#include "desktop/commands/recolor_command.h"
+
+#include <set>
+
+#include "desktop/commands/batch.h"
+#include "desktop/commands/export_folder.h"
+#include "desktop/commands/theme_report.h"
+#include "desktop/commands/window_command.h"
+#include "desktop/disk/disk_path.h"
+
+namespace morpho {
+
+namespace {
+
+std::string Warnings(const frmThemeMorpho& window) {
+    // Elements that share a picture share its failure.
+    std::set<std::string> told;
+    std::string warnings;
+    for (const auto& [row, reason] : window.Renderer().Failures()) {
+        const std::string sentence = window.Elements().File(row) + " is left as it was: " + reason;
+        if (told.insert(sentence).second) warnings += sentence + "\n";
+    }
+    return warnings;
+}
+
+}  // namespace
+
+std::string Recolor(const RecolorRequest& request, std::string& warnings) {
+    const ExportFolder exportFolder(request.exportFolder);
+    Batch batch(request.web, request.theme);
+    BatchWindow& window = batch.OpenTheme(request.theme);
+    for (const Step& step : request.steps)
+        window.Take(step);
+    exportFolder.Fill(ToDiskPath(window.Window().WorkFolder()).value());
+    warnings = Warnings(window.Window());
+    if (!request.picture.empty()) DrawWindow(window.Window(), request.picture);
+    return request.json ? JsonText(RecolorReport(window.Window())) + "\n" : std::string();
+}
+
+}  // namespace morpho

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+#include "desktop/commands/request.h"
+
+namespace morpho {
+
+// `morpho recolor`: the text for standard output. Pictures that could not be recoloured are told in
+// `warnings`, one sentence a line. Throws CommandError, and has written nothing then.
+std::string Recolor(const RecolorRequest& request, std::string& warnings);
+
+}  // namespace morpho

@@ -1,0 +1,72 @@
+#include "desktop/commands/window_command.h"
+
+#include <QApplication>
+
+#include "desktop/host/desktop_platform.h"
+#include "desktop/qt/qt_toolkit.h"
+#include "forms/form.h"
+#include "resources/embedded_resources.h"
+#include "resources/resource_ids.h"
+#include "theme_editor/frm_theme_morpho.h"
+
+namespace morpho {
+
+namespace {
+
+// A QApplication wants arguments that outlive it, and none of ours are its.
+struct QtArguments {
+    char name[7] = "morpho";
+    char* values[2] = {name, nullptr};
+    int count = 1;
+};
+
+// Before the window is shown, as if the person had picked it first of all.
+void SelectTheme(frmThemeMorpho& window, const std::string& name) {
+    window.Load();
+    const int index = window.cmbThemeName.FindExact(name);
+    if (index == kNoEntry) {
+        throw CommandError(CommandError::Status::kRefused,
+                           "This web has no theme named \"" + name + "\" that can be opened.");
+    }
+    window.cmbThemeLabel.UserSelect(index);
+}
+
+}  // namespace
+
+void ShowThemeWindow(const ThemeRequest& request) {
+    QtToolkit::Prepare();
+    QtArguments arguments;
+    const QApplication application(arguments.count, arguments.values);
+    const DiskFileSystem pages;
+    const EmbeddedResources resources;
+    QtToolkit toolkit(pages, resources.Bytes(kIconResource, kApplicationIcon128));
+    DesktopPlatform desktop(DesktopUse::kWindows, FindUserFolders(EnvironmentVariable), toolkit,
+                            resources);
+    desktop.FrontPage().Open(std::filesystem::absolute(request.web).lexically_normal().string());
+    Component component;
+    component.application = &desktop.FrontPage();
+    frmThemeMorpho window({desktop.Parts(), component});
+    if (!request.theme.empty()) SelectTheme(window, request.theme);
+    window.ShowModal();
+}
+
+void DrawWindow(Form& form, const std::filesystem::path& picture) {
+    if (qgetenv("QT_QPA_PLATFORM").isEmpty()) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QtToolkit::Prepare();
+    QtArguments arguments;
+    const QApplication application(arguments.count, arguments.values);
+    const DiskFileSystem pages;
+    QtToolkit toolkit(pages, {});
+    bool drawn = false;
+    toolkit.WhenFormStands([&](Form& standing) {
+        drawn = toolkit.SavePicture(standing, picture.string());
+        standing.Hide();
+    });
+    form.ShowModalOn(toolkit);
+    if (!drawn) {
+        throw CommandError(CommandError::Status::kRefused,
+                           "The picture " + picture.string() + " cannot be written.");
+    }
+}
+
+}  // namespace morpho
