@@ -34,22 +34,23 @@ std::vector<unsigned char> Decode(const char* path) {
     return pixels;
 }
 
-struct Pass {
-    double brightness, saturation, cosine, sine;
-
-    void Apply(double* rgb) const {
-        double y = 0.299 * rgb[0] + 0.587 * rgb[1] + 0.114 * rgb[2];
-        const double strength = brightness * saturation;
-        const double oldCb = (rgb[2] - y) / 1.772 * strength,
-                     oldCr = (rgb[0] - y) / 1.402 * strength;
-        const double cb = std::clamp(cosine * oldCb - sine * oldCr, -128.0, 127.0);
-        const double cr = std::clamp(sine * oldCb + cosine * oldCr, -128.0, 127.0);
-        y = std::clamp(brightness * y, 0.0, 255.0);
-        rgb[0] = std::clamp(y + 1.402 * cr, 0.0, 255.0);
-        rgb[1] = std::clamp(y - (0.202008 * cb + 0.419198 * cr) / 0.587, 0.0, 255.0);
-        rgb[2] = std::clamp(y + 1.772 * cb, 0.0, 255.0);
+/// The exact colour after some passes, clamped as the formula says in each, to RGB at the end.
+void Recolor(double* rgb, int passes, const double* adjustment) {
+    const double strength = adjustment[0] * adjustment[1],
+                 angle = adjustment[2] * std::numbers::pi / 180;
+    const double cosine = strength * std::cos(angle), sine = strength * std::sin(angle);
+    double y = 0.299 * rgb[0] + 0.587 * rgb[1] + 0.114 * rgb[2];
+    double cb = (rgb[2] - y) / 1.772, cr = (rgb[0] - y) / 1.402;
+    for (int pass = 0; pass < passes; ++pass) {
+        const double oldCb = cb;
+        cb = std::clamp(cosine * oldCb - sine * cr, -128.0, 127.0);
+        cr = std::clamp(sine * oldCb + cosine * cr, -128.0, 127.0);
+        y = std::clamp(adjustment[0] * y, 0.0, 255.0);
     }
-};
+    rgb[0] = std::clamp(y + 1.402 * cr, 0.0, 255.0);
+    rgb[1] = std::clamp(y - (0.202008 * cb + 0.419198 * cr) / 0.587, 0.0, 255.0);
+    rgb[2] = std::clamp(y + 1.772 * cb, 0.0, 255.0);
+}
 
 }  // namespace
 
@@ -61,15 +62,13 @@ int main(int argumentCount, char** arguments) {
     const auto source = Decode(arguments[1]), result = Decode(arguments[2]);
     if (source.empty() || source.size() != result.size())
         return std::fputs("unlike pictures\n", stderr), 1;
-    const double angle = std::atof(arguments[6]) * std::numbers::pi / 180;
-    const Pass pass{std::atof(arguments[4]), std::atof(arguments[5]), std::cos(angle),
-                    std::sin(angle)};
     const int passes = std::atoi(arguments[3]);
+    const double adjustment[] = {std::atof(arguments[4]), std::atof(arguments[5]),
+                                 std::atof(arguments[6])};
     double squares = 0;
     for (std::size_t at = 0; at < source.size(); at += 3) {
         double exact[3] = {double(source[at]), double(source[at + 1]), double(source[at + 2])};
-        for (int count = 0; count < passes; ++count)
-            pass.Apply(exact);
+        Recolor(exact, passes, adjustment);
         for (int c = 0; c < 3; ++c)
             squares += (exact[c] - result[at + c]) * (exact[c] - result[at + c]);
     }

@@ -105,7 +105,7 @@ void LumaPath::RecolorSamples(Block& block) const {
 
 ChromaPath::ChromaPath(const ColourMap& map, const QuantTable (&source)[2],
                        const QuantTable (&target)[2])
-    : scale_{BlockScale(source[0], target[0]), BlockScale(source[1], target[1])} {
+    : smallPairs_(map), scale_{BlockScale(source[0], target[0]), BlockScale(source[1], target[1])} {
     for (int to = 0; to < 2; ++to) {
         for (int from = 0; from < 2; ++from) {
             matrix_[to][from] = static_cast<float>(map.chroma[to][from]);
@@ -119,14 +119,16 @@ ChromaPath::ChromaPath(const ColourMap& map, const QuantTable (&source)[2],
     const bool keepsSteps =
         source[0] == source[1] && source[0] == target[0] && source[1] == target[1];
     isExact_ = keepsSteps && map.ChromaIsQuarterTurn();
+    drawsLots_ = keepsSteps && !isExact_;
 }
 
 void ChromaPath::Recolor(Block* cb, Block* cr, std::size_t count) const {
+    SmallPairs::Lots lots(smallPairs_);
     for (std::size_t index = 0; index < count; ++index)
-        RecolorPair(cb[index], cr[index]);
+        RecolorPair(cb[index], cr[index], lots);
 }
 
-void ChromaPath::RecolorPair(Block& cb, Block& cr) const {
+void ChromaPath::RecolorPair(Block& cb, Block& cr, SmallPairs::Lots& lots) const {
     const int rows = std::max(RowsInUse(cb), RowsInUse(cr));
     const float spreadB = Spread(cb, rows, weight_[0]), spreadR = Spread(cr, rows, weight_[1]);
     const float meanB = static_cast<float>(cb[0]) * scale_[0].from[0] / 8;
@@ -138,12 +140,12 @@ void ChromaPath::RecolorPair(Block& cb, Block& cr) const {
     const bool isUnclamped = mostB <= kHighestSample && mostR <= kHighestSample &&
                              isInside(matrix_[0]) && isInside(matrix_[1]);
     if (isUnclamped || (isExact_ && HasPlainMean(cb) && HasPlainMean(cr))) {
-        RecolorCoefficients(cb, cr, rows);
+        RecolorCoefficients(cb, cr, rows, lots);
     } else if (spreadB == 0 && spreadR == 0) {
         FromFlat(Clamped(Recolored(0, meanB, meanR)), scale_[0], cb);
         FromFlat(Clamped(Recolored(1, meanB, meanR)), scale_[1], cr);
     } else {
-        RecolorSamples(cb, cr);
+        RecolorSamples(cb, cr, lots);
     }
 }
 
@@ -151,7 +153,7 @@ float ChromaPath::Recolored(int component, float cb, float cr) const {
     return matrix_[component][0] * Clamped(cb) + matrix_[component][1] * Clamped(cr);
 }
 
-void ChromaPath::RecolorCoefficients(Block& cb, Block& cr, int rows) const {
+void ChromaPath::RecolorCoefficients(Block& cb, Block& cr, int rows, SmallPairs::Lots& lots) const {
     for (int y = 0; y < 8 * rows; y += 8) {
         std::int16_t newCb[8], newCr[8];
         for (int x = 0; x < 8; ++x) {
@@ -159,12 +161,15 @@ void ChromaPath::RecolorCoefficients(Block& cb, Block& cr, int rows) const {
             newCb[x] = NearestInt16(gain_[0][0][y + x] * oldCb + gain_[0][1][y + x] * oldCr);
             newCr[x] = NearestInt16(gain_[1][0][y + x] * oldCb + gain_[1][1][y + x] * oldCr);
         }
+        for (int x = 0; x < 8 && drawsLots_; ++x) {
+            if ((cb[y + x] | cr[y + x]) != 0) lots.Draw(cb[y + x], cr[y + x], newCb[x], newCr[x]);
+        }
         std::copy_n(newCb, 8, cb + y);
         std::copy_n(newCr, 8, cr + y);
     }
 }
 
-void ChromaPath::RecolorSamples(Block& cb, Block& cr) const {
+void ChromaPath::RecolorSamples(Block& cb, Block& cr, SmallPairs::Lots& lots) const {
     float oldCb[64], oldCr[64], newCb[64], newCr[64];
     ToSamples(cb, scale_[0], oldCb);
     ToSamples(cr, scale_[1], oldCr);
@@ -176,7 +181,7 @@ void ChromaPath::RecolorSamples(Block& cb, Block& cr) const {
         return Extent::Of(samples).IsInside(kLowestSample, kHighestSample);
     };
     if (isInside(oldCb) && isInside(oldCr) && isInside(newCb) && isInside(newCr)) {
-        return RecolorCoefficients(cb, cr, 8);
+        return RecolorCoefficients(cb, cr, 8, lots);
     }
     for (int k = 0; k < 64; ++k) {
         newCb[k] = Clamped(newCb[k]);

@@ -4,6 +4,7 @@
 
 #include "colorizer/block_samples.h"
 #include "colorizer/colour_map.h"
+#include "colorizer/small_pairs.h"
 
 namespace colorizer {
 
@@ -48,16 +49,18 @@ class ChromaPath {
     void Recolor(Block* cb, Block* cr, std::size_t count) const;
 
   private:
-    void RecolorPair(Block& cb, Block& cr) const;
+    void RecolorPair(Block& cb, Block& cr, SmallPairs::Lots& lots) const;
     float Recolored(int component, float cb, float cr) const;  ///< not yet clamped
-    void RecolorCoefficients(Block& cb, Block& cr, int rows) const;
-    void RecolorSamples(Block& cb, Block& cr) const;
+    void RecolorCoefficients(Block& cb, Block& cr, int rows, SmallPairs::Lots& lots) const;
+    void RecolorSamples(Block& cb, Block& cr, SmallPairs::Lots& lots) const;
 
+    SmallPairs smallPairs_;
     BlockScale scale_[2];
     float matrix_[2][2];
     float gain_[2][2][64];  ///< the matrix for each coefficient, with the change of steps
     float weight_[2][64];
     bool isExact_;  ///< whole blocks are swapped or negated: nothing to round, and nothing to clamp
+    bool drawsLots_;  ///< both have the same steps, before and after
 };
 
 }  // namespace colorizer
