@@ -51,17 +51,15 @@ struct JpegPicture {
 /// True when the bytes begin as a JPEG file does.
 bool IsJpeg(std::span<const std::uint8_t> file);
 
-/// Takes a file apart. Throws Error for kinds that are refused and for damage, std::bad_alloc.
-JpegPicture ReadJpeg(std::span<const std::uint8_t> file);
-
-/// Does to a picture's blocks what is to be done while they are at hand.
+/// Does what is to be done before rows of blocks are used.
 class RowPreparation {
   public:
     virtual ~RowPreparation() = default;
-    /// The component's first `rows` rows of blocks are about to be used. Rows come in order, but
-    /// are asked for again when a file is written in several scans. May name rows below the
-    /// picture. Throws nothing.
-    virtual void Prepare(std::size_t component, std::size_t rows) = 0;
+    /// The component's first `rows` rows of blocks are about to be written to a file, or the last
+    /// of them to be filled from one. Rows come in order, but are asked for again when there are
+    /// several scans, and may lie below the picture. False stops the work with an error. Throws
+    /// nothing.
+    virtual bool Prepare(const JpegComponent& component, std::size_t rows) = 0;
 };
 
 /// Puts a file together from the picture as `preparation` leaves it. `sizeHint` is about how many

@@ -23,10 +23,9 @@ JBLOCKARRAY JpegPlanes::Access(j_common_ptr info, jvirt_barray_ptr array, JDIMEN
                                JDIMENSION rowCount, boolean) {
     auto* const self = static_cast<JpegPlanes*>(info->client_data);
     auto* const component = reinterpret_cast<JpegComponent*>(array);
-    if (self->preparation_) {
-        const auto index = static_cast<std::size_t>(component - self->picture_.components.data());
-        self->preparation_->Prepare(index, startRow + rowCount);
-    }
+    const bool isPrepared =
+        !self->preparation_ || self->preparation_->Prepare(*component, startRow + rowCount);
+    if (!isPrepared) info->err->error_exit(info);
     return component->plane.Rows() + startRow;
 }
 

@@ -76,8 +76,7 @@ Tables TargetTables(JpegPicture& picture, std::optional<int> quality) {
 }  // namespace
 
 JpegRecoloring::JpegRecoloring(JpegPicture& picture, const ColourMap& map,
-                               std::optional<int> quality)
-    : picture_(picture) {
+                               std::optional<int> quality) {
     const Tables targets = TargetTables(picture, quality);
     Components all;
     for (JpegComponent& component : picture.components)
@@ -108,10 +107,9 @@ void JpegRecoloring::AddGroup(const Components& components, Step recolor) {
     groups_.push_back(std::move(group));
 }
 
-void JpegRecoloring::Prepare(std::size_t component, std::size_t rows) {
-    const JpegComponent* const asked = &picture_.components[component];
+bool JpegRecoloring::Prepare(const JpegComponent& component, std::size_t rows) {
     for (Group& group : groups_) {
-        const auto found = std::find(group.components.begin(), group.components.end(), asked);
+        const auto found = std::find(group.components.begin(), group.components.end(), &component);
         if (found == group.components.end()) continue;
         const std::size_t rowsInStep =
             group.rowsInStep[std::size_t(found - group.components.begin())];
@@ -119,6 +117,7 @@ void JpegRecoloring::Prepare(std::size_t component, std::size_t rows) {
         while (group.stepsDone < steps)
             group.recolor(group.stepsDone++);
     }
+    return true;
 }
 
 }  // namespace colorizer

@@ -17,7 +17,7 @@ class JpegRecoloring : public RowPreparation {
     /// The picture has its new tables from here on. It must outlive this.
     JpegRecoloring(JpegPicture& picture, const ColourMap& map, std::optional<int> quality);
 
-    void Prepare(std::size_t component, std::size_t rows) override;
+    bool Prepare(const JpegComponent& component, std::size_t rows) override;
 
   private:
     /// Components that are recoloured together, from the top down, some rows of blocks at a time.
@@ -32,7 +32,6 @@ class JpegRecoloring : public RowPreparation {
     void AddGroup(const std::vector<JpegComponent*>& components,
                   std::function<void(std::size_t step)> recolor);
 
-    JpegPicture& picture_;
     std::vector<Group> groups_;
 };
 

@@ -4,8 +4,7 @@
 #include "colorizer/colorizer.h"
 #include "colorizer/file_io.h"
 #include "colorizer/gif.h"
-#include "colorizer/jpeg_picture.h"
-#include "colorizer/recolor_jpeg.h"
+#include "colorizer/jpeg_pass.h"
 
 namespace colorizer {
 
@@ -25,19 +24,26 @@ void CheckFormat(std::span<const std::uint8_t> file) {
     if (!IsGif(file) && !IsJpeg(file)) throw Error("The file is neither a GIF nor a JPEG picture.");
 }
 
-Picture TakeApart(Bytes file) {
-    if (IsJpeg(file)) return ReadJpeg(file);
-    return file;
+/// Recolours a file that was read. `picture` becomes what the new file holds. Returns that file's
+/// bytes, which may be the picture's own or `encoded`.
+std::span<const std::uint8_t> RecolorFile(Bytes file, const ColourMap& map,
+                                          std::optional<int> quality, Picture& picture,
+                                          Bytes& encoded) {
+    if (IsJpeg(file)) {
+        encoded = RecolorJpeg(file, map, quality, picture.emplace<JpegPicture>());
+        return encoded;
+    }
+    Bytes& gif = picture.emplace<Bytes>(std::move(file));
+    RecolorGif(gif, map);
+    return gif;
 }
 
-/// Recolours the picture in place. Returns the bytes of its new file: the picture's own, or
-/// `encoded`.
-std::span<const std::uint8_t> RecolorPicture(Picture& picture, const ColourMap& map,
-                                             std::optional<int> quality, std::size_t sizeHint,
-                                             Bytes& encoded) {
+/// The same for a picture that is remembered, whose file has `size` bytes.
+std::span<const std::uint8_t> RecolorAgain(Picture& picture, const ColourMap& map,
+                                           std::optional<int> quality, std::uintmax_t size,
+                                           Bytes& encoded) {
     if (auto* jpeg = std::get_if<JpegPicture>(&picture)) {
-        JpegRecoloring recoloring(*jpeg, map, quality);
-        encoded = WriteJpeg(*jpeg, recoloring, sizeHint);
+        encoded = RecolorJpeg(*jpeg, map, quality, size);
         return encoded;
     }
     Bytes& gif = std::get<Bytes>(picture);
@@ -91,11 +97,17 @@ void Recolorer::Recolor(const std::filesystem::path& source,
             ReplaceFile(destination, isRemembered ? ReadFile(source) : file);
         return;
     }
-    const std::size_t sizeHint = isRemembered ? memory_->stamp.size : file.size();
-    Picture picture = isRemembered ? std::move(memory_->picture) : TakeApart(std::move(file));
-    Forget();
+    Picture picture;
     Bytes encoded;
-    ReplaceFile(destination, RecolorPicture(picture, map, quality, sizeHint, encoded));
+    if (isRemembered) {
+        picture = std::move(memory_->picture);
+        const std::uintmax_t size = memory_->stamp.size;
+        Forget();
+        ReplaceFile(destination, RecolorAgain(picture, map, quality, size, encoded));
+    } else {
+        Forget();
+        ReplaceFile(destination, RecolorFile(std::move(file), map, quality, picture, encoded));
+    }
     memory_ = std::make_unique<Memory>(
         Memory{destination, FileStamp::Of(destination), std::move(picture)});
 } catch (const std::bad_alloc&) {
@@ -109,9 +121,9 @@ std::vector<std::uint8_t> Recolored(std::span<const std::uint8_t> file,
     CheckFormat(file);
     Bytes bytes(file.begin(), file.end());
     if (IsCopy(adjustment, quality, IsJpeg(file))) return bytes;
-    Picture picture = TakeApart(std::move(bytes));
+    Picture picture;
     Bytes encoded;
-    RecolorPicture(picture, map, quality, file.size(), encoded);
+    RecolorFile(std::move(bytes), map, quality, picture, encoded);
     return encoded.empty() ? std::get<Bytes>(std::move(picture)) : encoded;
 } catch (const std::bad_alloc&) {
     throw Error("There is not enough memory for the picture.");

@@ -207,5 +207,13 @@ TEST(Jpeg, CutAnywhereIsRefused) {
     }
 }
 
+TEST(Jpeg, CutWhileItIsReadAndWrittenAtOnceIsRefused) {
+    const Bytes jpeg = MakeJpeg({.width = 700, .height = 600, .grain = 30});
+    for (std::size_t length = 1500; length < jpeg.size() - 20; length += jpeg.size() / 7) {
+        const Bytes cut = Bytes(jpeg.data(), jpeg.data() + length) + Bytes{0xFF, 0xD9};
+        ExpectRefused(cut, "");
+    }
+}
+
 }  // namespace
 }  // namespace colorizer

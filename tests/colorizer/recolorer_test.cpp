@@ -34,8 +34,11 @@ class RecolorerTest : public testing::Test {
 };
 
 TEST_F(RecolorerTest, ChainGivesTheSameFilesAsSinglePasses) {
-    const JpegKind kinds[] = {
-        {}, {.isProgressive = true}, {.hasOwnHuffmanTables = true}, {.colour = 'r'}};
+    const JpegKind kinds[] = {{},
+                              {.isProgressive = true},
+                              {.hasOwnHuffmanTables = true},
+                              {.colour = 'r'},
+                              {.width = 700, .height = 600, .grain = 30}};
     std::vector<Bytes> originals{MakeGif()};
     for (const JpegKind& kind : kinds)
         originals.push_back(MakeJpeg(kind));
