@@ -19,7 +19,7 @@ TEST_F(WindowLayoutTest, StretchesTheListAndThePreviewAndMovesTheRestDown) {
     EXPECT_EQ(window_->frameMenu.Place().top, 9475);
     EXPECT_EQ(window_->lblStatus.Place().top, 9565);
     EXPECT_EQ(window_->frameProcess.Place().top, 7555);
-    EXPECT_EQ(window_->framePreview.Place(), (Rectangle{2940, 60, 11015, 7405}));
+    EXPECT_EQ(window_->framePreview.Place(), (Rectangle{2955, 60, 11015, 7405}));
     EXPECT_EQ(window_->picPreview.Place(), (Rectangle{30, 330, 10955, 6985}));
     EXPECT_EQ(window_->wbbImagePreview.Place(), window_->picPreview.Place());
 }
