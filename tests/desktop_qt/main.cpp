@@ -13,6 +13,8 @@ extern "C" const char* __asan_default_options() {
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
+    // Also when the tests are only listed, and where there is no screen.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     morpho::QtToolkit::Prepare();
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();
