@@ -83,15 +83,16 @@ void JpegReader::ReadCoefficients(RowPreparation* rows) {
 void JpegReader::FinishTables() {
     for (int index = 0; index < info_.num_components; ++index) {
         const jpeg_component_info& info = info_.comp_info[index];
-        const JQUANT_TBL* const table =
-            hasOneScan_ ? info_.quant_tbl_ptrs[info.quant_tbl_no] : info.quant_table;
+        const int slot = info.quant_tbl_no;
+        if (slot < 0 || slot >= NUM_QUANT_TBLS) throw Error("The JPEG file is damaged.");
+        const JQUANT_TBL* const table = hasOneScan_ ? info_.quant_tbl_ptrs[slot] : info.quant_table;
         if (!table) throw Error("The JPEG file is truncated.");  // no scan has this component
         JpegComponent& component = picture_.components[index];
         std::copy_n(table->quantval, 64, component.table.begin());
         if (std::count(component.table.begin(), component.table.end(), 0)) {
             throw Error("The JPEG file is damaged.");
         }
-        component.tableSlot = FreeSlot(index, info.quant_tbl_no);
+        component.tableSlot = FreeSlot(index, slot);
     }
     picture_.hasOwnHuffmanTables = HasOwnHuffmanTables();
 }

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
+#include <random>
 
 #include "colorizer/colorizer.h"
 #include "colorizer/pictures.h"
@@ -212,6 +213,44 @@ TEST(Jpeg, CutWhileItIsReadAndWrittenAtOnceIsRefused) {
     for (std::size_t length = 1500; length < jpeg.size() - 20; length += jpeg.size() / 7) {
         const Bytes cut = Bytes(jpeg.data(), jpeg.data() + length) + Bytes{0xFF, 0xD9};
         ExpectRefused(cut, "");
+    }
+}
+
+Bytes AfterPasses(Bytes jpeg, int passes, const Adjustment& adjustment) {
+    for (int pass = 0; pass < passes; ++pass)
+        jpeg = Recolored(jpeg, adjustment);
+    return jpeg;
+}
+
+TEST(Jpeg, ComesBackAfterWholeTurns) {
+    for (const bool isProgressive : {false, true}) {
+        const Bytes jpeg = MakeJpeg({.width = 200,
+                                     .height = 150,
+                                     .quality = 80,
+                                     .isProgressive = isProgressive,
+                                     .grain = 60});
+        EXPECT_EQ(Coefficients(AfterPasses(jpeg, 4, {1, 1, 90})), Coefficients(jpeg));
+        EXPECT_EQ(Coefficients(AfterPasses(jpeg, 2, {1, 1, 180})), Coefficients(jpeg));
+        EXPECT_EQ(Coefficients(AfterPasses(jpeg, 2, {1, 1, -540})), Coefficients(jpeg));
+        EXPECT_LT(MeanError(jpeg, AfterPasses(jpeg, 10, {1, 1, 36}), {}, 'y'), 2.5);
+    }
+}
+
+TEST(Jpeg, DamagedAnywhereIsRefusedOrStaysReadable) {
+    std::mt19937 random(3);
+    for (const auto& [name, kind] : Kinds()) {
+        const Bytes jpeg = MakeJpeg(kind);
+        for (int count = 0; count < 100; ++count) {
+            Bytes damaged = jpeg;
+            for (unsigned flips = 1 + count % 3; flips > 0; --flips) {
+                damaged[random() % jpeg.size()] = static_cast<std::uint8_t>(random());
+            }
+            try {
+                const Bytes after = Recolored(damaged, {1.5, 2, 50});
+                EXPECT_NO_THROW(Recolored(after, {1, 1, 50})) << name << " " << count;
+            } catch (const Error&) {
+            }
+        }
     }
 }
 
