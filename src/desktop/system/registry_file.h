@@ -11,8 +11,8 @@ namespace morpho {
 // file as a whole. Where the file cannot be written, changes return an error code and are not made.
 class RegistryFile : public MemoryRegistry {
   public:
-    // `diskPath` need not exist, nor its folder; where it is a link, what it leads to counts. A file that cannot be read has no values, and is
-    // not written either.
+    // `diskPath` need not exist, nor its folder; where it is a link, what it leads to counts. A
+    // file that cannot be read has no values, and is not written either.
     RegistryFile(std::string diskPath, RegistryData machine);
 
   protected:
