@@ -73,27 +73,27 @@ std::string ToWindowsPath(std::string_view diskPath) {
 std::optional<std::string> ToDiskPath(std::string_view windowsPath) {
     const auto names = NamesOf(windowsPath);
     if (!names) return {};
-    std::string path;
+    std::string path = "/";
     for (const std::string& name : *names)
-        path += '/' + name;
-    return path.empty() ? "/" : path;
+        path = JoinDiskPath(path, name);
+    return path;
 }
 
 std::optional<std::string> FindOnDisk(std::string_view windowsPath) {
     const auto names = NamesOf(windowsPath);
     if (!names) return {};
-    std::string path;
+    std::string path = "/";
     bool exists = true;
     for (const std::string& name : *names) {
-        std::string next = path + '/' + name;
+        std::string next = JoinDiskPath(path, name);
         if (exists && !Exists(next)) {
-            const auto actual = EntryIgnoringCase(path.empty() ? "/" : path, name);
-            if (actual) next = path + '/' + *actual;
+            const auto actual = EntryIgnoringCase(path, name);
+            if (actual) next = JoinDiskPath(path, *actual);
             exists = actual.has_value();
         }
         path = std::move(next);
     }
-    return path.empty() ? "/" : path;
+    return path;
 }
 
 std::string NameFromDisk(std::string_view diskName) {

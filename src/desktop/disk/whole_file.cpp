@@ -15,7 +15,7 @@ namespace morpho {
 
 namespace {
 
-constexpr std::size_t kChunk = 256 * 1024;
+constexpr std::size_t kChunk = 256UL * 1024;
 constexpr std::string_view kCannotWrite = "could not be written";
 
 // Reads at most `size` bytes; throws when that fails.

@@ -82,6 +82,7 @@ bool StartDetached(const std::vector<std::string>& command) {
     const Descriptor reading(ends[0]);
     Descriptor writing(ends[1]);
     std::vector<char*> arguments;
+    arguments.reserve(command.size() + 1);
     for (const std::string& word : command)
         arguments.push_back(const_cast<char*>(word.c_str()));
     arguments.push_back(nullptr);

@@ -21,7 +21,7 @@ Theme DiskWeb::ThemeAt(int index) const {
 std::string DiskWeb::ThemeProperties(int which) const {
     if (which != kThemeNameProperty)
         throw RunTimeError(ErrorNumber::kAutomation, "Only the theme's name can be asked for.");
-    const std::string name = ThemeOfWeb(DiskFolder::Open(web_->folder, true));
+    std::string name = ThemeOfWeb(DiskFolder::Open(web_->folder, true));
     for (const Theme& theme : web_->themes) {
         if (EqualIgnoringCase(theme.name, name)) return theme.name;
     }

@@ -21,7 +21,7 @@ namespace morpho {
 namespace {
 
 // Far more than a theme's picture takes; a longer file is there to fill the disk.
-constexpr off_t kMaxFileBytes = 64 * 1024 * 1024;
+constexpr off_t kMaxFileBytes = 64L * 1024 * 1024;
 
 std::string ReadThemeFile(const DiskFolder& folder, const std::string& name) {
     const Descriptor file = folder.OpenFile(name);
