@@ -45,7 +45,7 @@ void ListControl::SetListIndex(int index) {
 }
 
 bool ListControl::UserSelect(int index) {
-    if (!IsOperable() || index < kNoEntry || index >= ListCount()) return false;
+    if (!IsOperable() || index < 0 || index >= ListCount()) return false;
     SetListIndex(index);
     return true;
 }

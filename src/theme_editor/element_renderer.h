@@ -32,7 +32,6 @@ class ElementRenderer {
 
     // What ended the last rebuilding of an element, by row; empty when all is well.
     const std::map<int, std::string>& Failures() const { return failures_; }
-    void ForgetFailures() { failures_.clear(); }
 
   private:
     static constexpr std::int16_t kAsk = -1;

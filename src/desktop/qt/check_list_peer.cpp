@@ -54,6 +54,10 @@ class CheckList : public QListWidget {
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setEditTriggers(NoEditTriggers);
         setUniformItemSizes(true);
+        // Entries are long names in a narrow column.
+        QFont narrow = font();
+        narrow.setStretch(QFont::SemiCondensed);
+        setFont(narrow);
     }
 
   protected:
