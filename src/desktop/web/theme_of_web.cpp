@@ -16,7 +16,7 @@ namespace morpho {
 namespace {
 
 // The head of every page that was ever made in the host fits in here.
-constexpr std::size_t kHeadBytes = 64 * 1024;
+constexpr std::size_t kHeadBytes = 64UL * 1024;
 
 constexpr std::array<std::string_view, 4> kHomePages = {"index.htm", "index.html", "default.htm",
                                                         "default.html"};
