@@ -11,7 +11,7 @@ export LC_ALL=C
 cmake --preset release >/dev/null
 cmake --build build/release --target bench_make_inputs bench_recolor_files bench_loss bench_agreement >/dev/null
 bin=$PWD/build/release/bin
-work=$(mktemp -d)
+if [ -w /dev/shm ]; then work=$(mktemp -d -p /dev/shm); else work=$(mktemp -d); fi  # in memory: no disk has a say
 trap 'rm -rf "$work"' EXIT
 mkdir "$work/out"
 "$bin/bench_make_inputs" "$work"
@@ -33,12 +33,15 @@ jpegtran=$(program jpegtran) || jpegtran=
 median() { sort -n | awk '{ value[NR] = $1 } END { print value[int((NR + 1) / 2)] }'; }
 
 # measure TASK PROGRAM...: runs the functions PROGRAM_TASK in turn; leaves the medians, in milliseconds, in result[].
+# Each writes into a folder of its own, $to: file systems are slow where files have just been deleted.
 declare -A result
 measure() {
     local task=$1 round name start
     shift
     for ((round = 0; round < rounds; round++)); do
         for name in "$@"; do
+            to=$(mktemp -d out.XXXX)
+            if declare -F "before_${name}_$task" >/dev/null; then "before_${name}_$task"; fi
             start=$EPOCHREALTIME
             "${name}_$task" </dev/null >/dev/null
             echo $(((${EPOCHREALTIME/./} - ${start/./}))) >>"times.$task.$name"
@@ -51,26 +54,27 @@ measure() {
 
 # One JPEG. The adjustment is a hue shift of 36 degrees, or brightness, saturation and hue at once.
 picture=
-hue_of() { "$bin/bench_recolor_files" out "$1" 1 1 36 "$picture"; }
+hue_of() { "$bin/bench_recolor_files" "$to" "$1" 1 1 36 "$picture"; }
 this_hue() { hue_of 1; }
-this_all() { "$bin/bench_recolor_files" out 1 1.1 0.8 36 "$picture"; }
+this_all() { "$bin/bench_recolor_files" "$to" 1 1.1 0.8 36 "$picture"; }
 floor_all() { floor_hue; }
-copy_hue() { cp "$picture" out/copy.jpg; }
-floor_hue() { "$jpegtran" -copy all $progressive -outfile out/floor.jpg "$picture"; }
-im_hue() { "$im" "$picture" -modulate 100,100,120 out/im.jpg; }
-gm_hue() { "$gm" convert "$picture" -modulate 100,100,120 out/gm.jpg; }
-ffmpeg_hue() { "$ffmpeg" -nostdin -v error -y -i "$picture" -vf hue=h=36 -q:v 3 out/ffmpeg.jpg; }
+copy_hue() { cp "$picture" "$to"; }
+floor_hue() { "$jpegtran" -copy all $progressive -outfile "$to/out.jpg" "$picture"; }
+im_hue() { "$im" "$picture" -modulate 100,100,120 "$to/out.jpg"; }
+gm_hue() { "$gm" convert "$picture" -modulate 100,100,120 "$to/out.jpg"; }
+ffmpeg_hue() { "$ffmpeg" -nostdin -v error -y -i "$picture" -vf hue=h=36 -q:v 3 "$to/out.jpg"; }
 
 # Many files.
-this_theme() { "$bin/bench_recolor_files" out 1 1 1 36 theme/*; }
-copy_theme() { cp theme/* out; }
-im_theme() { "$mogrify" -path out -modulate 100,100,120 theme/*; }
-gm_theme() { "$gm" mogrify -create-directories -output-directory out -modulate 100,100,120 theme/*; }
-this_gifs() { "$bin/bench_recolor_files" out 1 1 1 36 gifs/*; }
-copy_gifs() { cp gifs/* out; }
-im_gifs() { "$mogrify" -path out -modulate 100,100,120 gifs/*; }
-gm_gifs() { "$gm" mogrify -create-directories -output-directory out -modulate 100,100,120 gifs/*; }
-gifsicle_gifs() { "$gifsicle" --batch --change-color 1,2,3 4,5,6 out/[0-9]*.gif; }
+this_theme() { "$bin/bench_recolor_files" "$to" 1 1 1 36 theme/*; }
+copy_theme() { cp theme/* "$to"; }
+im_theme() { "$mogrify" -path "$to" -modulate 100,100,120 theme/*; }
+gm_theme() { "$gm" mogrify -create-directories -output-directory "$to" -modulate 100,100,120 theme/*; }
+this_gifs() { "$bin/bench_recolor_files" "$to" 1 1 1 36 gifs/*; }
+copy_gifs() { cp gifs/* "$to"; }
+im_gifs() { "$mogrify" -path "$to" -modulate 100,100,120 gifs/*; }
+gm_gifs() { "$gm" mogrify -create-directories -output-directory "$to" -modulate 100,100,120 gifs/*; }
+before_gifsicle_gifs() { cp gifs/* "$to"; }
+gifsicle_gifs() { "$gifsicle" --batch --change-color 1,2,3 4,5,6 "$to"/*; }
 
 row() { # TASK TITLE: a line of ratios to this component
     local task=$1 name
@@ -143,6 +147,7 @@ loss_table() {
     echo '| passes | this component | ImageMagick | GraphicsMagick | ffmpeg |'
     echo '| --- | --- | --- | --- | --- |'
     picture=$sample
+    to=out
     for passes in 1 2 5 10 20; do
         printf '| %s | %s dB, %s ms |' "$passes" \
             "$(hue_of "$passes" && "$bin/bench_loss" "$sample" out/small-q80.jpg "$passes" 1 1 36)" "$(timed hue_of "$passes")"

@@ -1,8 +1,10 @@
 #include "colorizer/file_io.h"
 
+#include <chrono>
 #include <fstream>
-#include <random>
+#include <functional>
 #include <string>
+#include <thread>
 
 #include "colorizer/colorizer.h"
 
@@ -24,15 +26,21 @@ bool Open(std::filebuf& file, const fs::path& path, std::ios::openmode mode) {
     return file.open(path, mode | std::ios::binary) != nullptr;
 }
 
+/// A name that no other pass uses at the same time: made from the time in ticks, the thread and
+/// where its stack lies. (std::random_device would cost more than all the rest of a small picture's
+/// pass.)
 fs::path NewNameBeside(const fs::path& path) {
     static constexpr char kDigits[] = "0123456789abcdef";
-    std::random_device random;
-    std::string name = "colorizer-";
-    for (int word = 0; word < 2; ++word) {
-        unsigned bits = random();
-        for (int digit = 0; digit < 8; ++digit, bits >>= 4)
-            name += kDigits[bits & 15];
+    std::uint64_t bits =
+        static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count());
+    for (const std::uint64_t more :
+         {std::uint64_t{std::hash<std::thread::id>()(std::this_thread::get_id())},
+          std::uint64_t{reinterpret_cast<std::uintptr_t>(&bits)}}) {
+        bits = (bits ^ more) * 0x9E3779B97F4A7C15u;
     }
+    std::string name = "colorizer-";
+    for (int shift = 60; shift >= 0; shift -= 4)
+        name += kDigits[bits >> shift & 15];
     return path.parent_path() / (name + ".tmp");
 }
 
@@ -78,18 +86,15 @@ class NewFile {
 
 std::vector<std::uint8_t> ReadFile(const fs::path& path) {
     std::error_code error;
-    if (!fs::is_regular_file(path, error))
-        throw Error("The file " + Name(path) + " does not exist.");
+    const std::uintmax_t size = fs::file_size(path, error);  // an error for what is not a file
+    if (error) throw Error("The file " + Name(path) + " does not exist.");
+    if (size > kMaxFileBytes) throw Error("The file " + Name(path) + " is too long.");
     std::filebuf file;
     if (!Open(file, path, std::ios::in))
         throw Error("The file " + Name(path) + " cannot be opened.");
-    const std::streamoff size = file.pubseekoff(0, std::ios::end);
-    if (size < 0 || file.pubseekpos(0) != 0)
-        throw Error("The file " + Name(path) + " cannot be read.");
-    if (static_cast<std::uintmax_t>(size) > kMaxFileBytes)
-        throw Error("The file " + Name(path) + " is too long.");
-    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(size));
-    if (file.sgetn(reinterpret_cast<char*>(bytes.data()), size) != size) {
+    std::vector<std::uint8_t> bytes(size);
+    const auto count = static_cast<std::streamsize>(size);
+    if (file.sgetn(reinterpret_cast<char*>(bytes.data()), count) != count) {
         throw Error("The file " + Name(path) + " cannot be read.");
     }
     return bytes;
