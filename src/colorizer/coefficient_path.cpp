@@ -32,7 +32,7 @@ int RowsInUse(const Block& block) {
     int rows = 8;
     for (; rows > 1; --rows) {
         std::uint64_t row[2];
-        std::memcpy(row, block + 8 * (rows - 1), sizeof row);
+        std::memcpy(row, &block[8 * (rows - 1)], sizeof row);
         if ((row[0] | row[1]) != 0) break;
     }
     return rows;

@@ -34,7 +34,8 @@ SmallPairs::Other SmallPairs::FindOther(double cb, double cr) {
     Other best;
     double leastDistance = 4;
     for (int place = 0; place < 9; ++place) {
-        const double b = nearestCb + place / 3 - 1, r = nearestCr + place % 3 - 1;
+        const int down = place / 3 - 1, across = place % 3 - 1;
+        const double b = nearestCb + down, r = nearestCr + across;
         const double distance = (b - cb) * (b - cb) + (r - cr) * (r - cr);
         if (aside(b, r) * error >= 0 || distance >= leastDistance) continue;
         leastDistance = distance;
