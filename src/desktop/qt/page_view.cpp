@@ -36,11 +36,20 @@ void ShowOnly(QWebEngineSettings* settings) {
     }
 }
 
+// The faces that old pages were made for, or those of the same widths.
+void UseClassicFonts(QWebEngineSettings* settings) {
+    for (const auto family : {QWebEngineSettings::StandardFont, QWebEngineSettings::SerifFont})
+        settings->setFontFamily(family, "Liberation Serif");
+    settings->setFontFamily(QWebEngineSettings::SansSerifFont, "Liberation Sans");
+    settings->setFontFamily(QWebEngineSettings::FixedFont, "Liberation Mono");
+}
+
 }  // namespace
 
 PageView::PageView(QWebEngineProfile* profile, QWidget* parent) : QWebEngineView(parent) {
     auto* const page = new StillPage(profile, this);
     ShowOnly(page->settings());
+    UseClassicFonts(page->settings());
     setPage(page);
     setContextMenuPolicy(Qt::PreventContextMenu);
     setAcceptDrops(false);
