@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <string>
+#include <vector>
 
 #include "desktop/commands/request.h"
 
@@ -16,6 +17,14 @@ namespace {
     throw CommandError(CommandError::Status::kRefused, sentence);
 }
 
+[[noreturn]] void Fail(std::errc reason) {
+    throw fs::filesystem_error("", std::make_error_code(reason));
+}
+
+std::vector<fs::path> EntriesOf(const fs::path& folder) {
+    return {fs::directory_iterator(folder), fs::directory_iterator()};
+}
+
 }  // namespace
 
 ExportFolder::ExportFolder(const fs::path& folder)
@@ -27,6 +36,7 @@ ExportFolder::ExportFolder(const fs::path& folder)
         const bool empty = fs::is_empty(folder_, error);
         if (error) Refuse(folder_.string() + " cannot be looked into: " + error.message() + ".");
         if (!empty) Refuse(folder_.string() + " is not empty.");
+        exists_ = true;
     } else if (fs::exists(fs::symlink_status(folder_, error))) {
         Refuse(folder_.string() + " is not a folder.");
     } else if (!fs::is_directory(folder_.parent_path(), error)) {
@@ -35,17 +45,26 @@ ExportFolder::ExportFolder(const fs::path& folder)
 }
 
 void ExportFolder::Fill(const fs::path& source) const {
-    // The files gather beside the folder and take its place when all are there.
-    const fs::path gathering = folder_.string() + ".part" + std::to_string(::getpid());
-    std::error_code error;
-    if (!fs::create_directory(gathering, error) && !error)
-        error = std::make_error_code(std::errc::file_exists);
-    if (!error) fs::copy(source, gathering, fs::copy_options::recursive, error);
-    if (!error) fs::rename(gathering, folder_, error);
-    if (error) {
+    // The files gather in a folder beside, or inside one that exists, and move when all are there.
+    const std::string suffix = ".part" + std::to_string(::getpid());
+    const fs::path gathering = exists_ ? folder_ / suffix : fs::path(folder_.string() + suffix);
+    std::vector<fs::path> made;
+    try {
+        if (!fs::create_directory(gathering)) Fail(std::errc::file_exists);
+        made.push_back(gathering);
+        fs::copy(source, gathering, fs::copy_options::recursive);
+        if (!exists_) return fs::rename(gathering, folder_);
+        if (EntriesOf(folder_).size() > 1) Fail(std::errc::directory_not_empty);
+        for (const fs::path& entry : EntriesOf(gathering)) {
+            made.push_back(folder_ / entry.filename());
+            fs::rename(entry, made.back());
+        }
+        fs::remove(gathering);
+    } catch (const fs::filesystem_error& error) {
         std::error_code ignored;
-        fs::remove_all(gathering, ignored);
-        Refuse(folder_.string() + " cannot be written: " + error.message() + ".");
+        for (const fs::path& path : made)
+            fs::remove_all(path, ignored);
+        Refuse(folder_.string() + " cannot be written: " + error.code().message() + ".");
     }
 }
 

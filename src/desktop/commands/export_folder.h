@@ -10,12 +10,13 @@ class ExportFolder {
     // Throws CommandError unless `folder` is empty, or missing in a folder that exists.
     explicit ExportFolder(const std::filesystem::path& folder);
 
-    // Copies the files of `source` there, as a whole. Throws CommandError, and leaves nothing
-    // behind, when that fails.
+    // Copies the files of `source` there, as a whole. A folder that exists stays the same one, with
+    // its owner and mode. Throws CommandError, and leaves nothing behind, when that fails.
     void Fill(const std::filesystem::path& source) const;
 
   private:
     std::filesystem::path folder_;
+    bool exists_ = false;
 };
 
 }  // namespace morpho
