@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <future>
@@ -107,6 +108,10 @@ TEST(RecolorCommand, RefusesWithOneSentenceAndWritesNothing) {
         {"recolor WEB --theme orrery --quality 0 --export OUT", 2, "quality"},
         {"recolor WEB --theme orrery --select active/nonsense --export OUT", 2, "active/nonsense"},
         {"recolor WEB --theme orrery --select '' --export OUT", 2, "select"},
+        {"recolor WEB --theme orrery --hue 0x10 --export OUT", 2, "0x10"},
+        {"recolor WEB --theme orrery --apply=0 --export OUT", 2, "apply"},
+        {"recolor WEB --theme orrery --export ''", 2, "export"},
+        {"recolor '' --theme orrery --export OUT", 2, "WEB"},
         {"recolor WEB --theme orrery", 2, "export"},
         {"recolor WEB --export OUT", 2, "theme"},
         {"nonsense WEB", 2, "subcommand"},
@@ -134,6 +139,20 @@ TEST(RecolorCommand, RefusesWithOneSentenceAndWritesNothing) {
         EXPECT_FALSE(fs::exists(home.Path("out"))) << refused.arguments;
     }
     EXPECT_EQ(ReadTree(home.Web()), before);
+}
+
+TEST(RecolorCommand, FillsTheEmptyFolderThatItIsGiven) {
+    const Home home;
+    fs::create_directory(home.Path("out"));
+    fs::permissions(home.Path("out"), fs::perms::owner_all);
+    struct stat before = {};
+    ASSERT_EQ(::stat(home.Path("out").c_str(), &before), 0);
+    ASSERT_EQ(home.Run("recolor WEB --theme orrery --export OUT").status, 0);
+    struct stat after = {};
+    ASSERT_EQ(::stat(home.Path("out").c_str(), &after), 0);
+    EXPECT_EQ(after.st_ino, before.st_ino);
+    EXPECT_EQ(after.st_mode, before.st_mode);
+    EXPECT_EQ(ReadTree(home.Path("out")), ReadFiles(home.Theme("orrery")));
 }
 
 TEST(RecolorCommand, LeavesTheUsersSettingsAlone) {

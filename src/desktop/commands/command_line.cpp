@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <charconv>
 #include <map>
 #include <sstream>
 
@@ -45,6 +46,30 @@ Step SelectStep(const std::string& argument) {
     return step;
 }
 
+// The whole number that the text is, in decimal digits; nothing for another text.
+std::optional<int> WholeNumber(const std::string& text) {
+    int number = 0;
+    const char* const end = text.data() + text.size();
+    const auto read = std::from_chars(text.data(), end, number);
+    if (read.ec != std::errc() || read.ptr != end) return {};
+    return number;
+}
+
+CLI::Validator NumberFrom(int least, int most) {
+    const std::string range = std::to_string(least) + " to " + std::to_string(most);
+    const auto refusal = [=](const std::string& text) {
+        const auto number = WholeNumber(text);
+        if (number && *number >= least && *number <= most) return std::string();
+        return "\"" + text + "\" is not a whole number from " + range;
+    };
+    return {refusal, range};
+}
+
+// An empty path is most often a variable of a script that was never set.
+CLI::Validator NotEmpty() {
+    return {[](const std::string& text) { return text.empty() ? "nothing is named" : ""; }, ""};
+}
+
 // The options that are steps, with what each may be given.
 class StepOptions {
   public:
@@ -55,6 +80,7 @@ class StepOptions {
                      .add_option("--select", select_,
                                  "Elements to add to the selection, separated by commas: all, "
                                  "active, normal or element keys; none clears it")
+                     ->type_name("WHAT")
                      ->group("Steps")] = Step::Kind::kSelect;
         Number("--brightness", Step::Kind::kBrightness, factor.minimum, factor.maximum,
                "Brightness in percent; 100 is neutral");
@@ -87,20 +113,21 @@ class StepOptions {
     void Number(const std::string& name, Step::Kind kind, int least, int most,
                 const std::string& help) {
         CLI::Option* option = command_.add_option(name, numbers_[kind], help)
-                                  ->check(CLI::Range(least, most))
+                                  ->type_name("N")
+                                  ->check(NumberFrom(least, most))
                                   ->group("Steps");
         options_[option] = kind;
     }
 
     void Plain(const std::string& name, Step::Kind kind, const std::string& help) {
-        options_[command_.add_flag(name, help)->group("Steps")] = kind;
+        options_[command_.add_flag(name, help)->disable_flag_override()->group("Steps")] = kind;
     }
 
     static Step StepOf(Step::Kind kind, const CLI::Option& option, std::size_t occurrence) {
         if (kind == Step::Kind::kSelect) return SelectStep(option.results().at(occurrence));
         Step step{kind};
         if (option.get_items_expected_max() > 0)
-            step.number = std::stoi(option.results().at(occurrence));
+            step.number = WholeNumber(option.results().at(occurrence)).value();
         return step;
     }
 
@@ -120,28 +147,50 @@ Request ParseCommandLine(int argc, const char* const* argv, const std::string& v
     ThemeRequest theme;
     CLI::App* themeCommand =
         app.add_subcommand("theme", "Open a web's theme in the Theme Morpho window");
-    themeCommand->add_option("WEB", theme.web, "Folder of the web")->required();
-    themeCommand->add_option("--theme", theme.theme, "Theme to open; the web's first if not given");
+    themeCommand->add_option("WEB", theme.web, "Folder of the web")
+        ->type_name("")
+        ->check(NotEmpty())
+        ->required();
+    themeCommand->add_option("--theme", theme.theme, "Theme to open; the web's first if not given")
+        ->type_name("NAME")
+        ->check(NotEmpty());
 
     ListRequest list;
     CLI::App* listCommand = app.add_subcommand("list", "List a web's themes and their elements");
-    listCommand->add_option("WEB", list.web, "Folder of the web")->required();
-    listCommand->add_option("--theme", list.theme,
-                            "List this theme's elements: key, file, image group");
-    listCommand->add_flag("--json", list.json, "Print all as JSON");
+    listCommand->add_option("WEB", list.web, "Folder of the web")
+        ->type_name("")
+        ->check(NotEmpty())
+        ->required();
+    listCommand
+        ->add_option("--theme", list.theme, "List this theme's elements: key, file, image group")
+        ->type_name("NAME")
+        ->check(NotEmpty());
+    listCommand->add_flag("--json", list.json, "Print all as JSON")->disable_flag_override();
 
     RecolorRequest recolor;
     CLI::App* recolorCommand = app.add_subcommand("recolor", "Recolour a theme in a batch");
     recolorCommand->footer(kSteps);
-    recolorCommand->add_option("WEB", recolor.web, "Folder of the web")->required();
-    recolorCommand->add_option("--theme", recolor.theme, "Theme to recolour")->required();
+    recolorCommand->add_option("WEB", recolor.web, "Folder of the web")
+        ->type_name("")
+        ->check(NotEmpty())
+        ->required();
+    recolorCommand->add_option("--theme", recolor.theme, "Theme to recolour")
+        ->type_name("NAME")
+        ->check(NotEmpty())
+        ->required();
     recolorCommand
         ->add_option("--export", recolor.exportFolder,
                      "New or empty folder that gets the recoloured theme")
+        ->type_name("DIR")
+        ->check(NotEmpty())
         ->required();
-    recolorCommand->add_option("--picture", recolor.picture,
-                               "PNG file that gets a picture of the window after the steps");
-    recolorCommand->add_flag("--json", recolor.json, "Print the elements and the history as JSON");
+    recolorCommand
+        ->add_option("--picture", recolor.picture,
+                     "PNG file that gets a picture of the window after the steps")
+        ->type_name("FILE")
+        ->check(NotEmpty());
+    recolorCommand->add_flag("--json", recolor.json, "Print the elements and the history as JSON")
+        ->disable_flag_override();
     const StepOptions steps(*recolorCommand);
 
     try {
