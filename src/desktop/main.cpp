@@ -16,7 +16,11 @@ using namespace morpho;
 struct Runner {
     void operator()(const TextRequest& request) const { std::cout << request.text; }
     void operator()(const ThemeRequest& request) const { ShowThemeWindow(request); }
-    void operator()(const ListRequest& request) const { std::cout << List(request); }
+    void operator()(const ListRequest& request) const {
+        std::string warnings;
+        std::cout << List(request, warnings);
+        std::cerr << warnings;
+    }
     void operator()(const RecolorRequest& request) const {
         std::string warnings;
         std::cout << Recolor(request, warnings);

@@ -14,6 +14,13 @@ Batch::Batch(const std::filesystem::path& web, const std::string& onlyTheme)
     component_.application = &desktop_.FrontPage();
 }
 
+std::string Batch::Warnings() {
+    std::string warnings;
+    for (const std::string& sentence : desktop_.FrontPage().Opened()->skipped)
+        warnings += sentence + "\n";
+    return warnings;
+}
+
 BatchWindow& Batch::OpenTheme(const std::string& name) {
     const bool known = std::any_of(Themes().begin(), Themes().end(), [&](const Theme& theme) {
         return EqualIgnoringCase(theme.name, name);

@@ -22,6 +22,8 @@ class Batch {
 
     // All themes of the web.
     const std::vector<Theme>& Themes() { return desktop_.FrontPage().Opened()->themes; }
+    // What could not be taken from them, a sentence a line.
+    std::string Warnings();
     // The window with the theme of this name (without regard to case). Throws CommandError.
     BatchWindow& OpenTheme(const std::string& name);
 

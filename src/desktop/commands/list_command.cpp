@@ -41,8 +41,9 @@ std::string ElementsText(const ElementList& elements) {
 
 }  // namespace
 
-std::string List(const ListRequest& request) {
+std::string List(const ListRequest& request, std::string& warnings) {
     Batch batch(request.web, request.theme);
+    warnings = batch.Warnings();
     std::vector<Theme> themes = batch.Themes();
     if (!request.theme.empty()) {
         std::erase_if(themes, [&](const Theme& theme) {
@@ -54,10 +55,18 @@ std::string List(const ListRequest& request) {
     nlohmann::ordered_json report = nlohmann::ordered_json::array();
     std::string text;
     for (const Theme& theme : themes) {
-        const frmThemeMorpho& window = batch.OpenTheme(theme.name).Window();
-        text += ElementsText(window.Elements());
+        nlohmann::ordered_json elements = nlohmann::ordered_json::array();
+        try {
+            const frmThemeMorpho& window = batch.OpenTheme(theme.name).Window();
+            text += ElementsText(window.Elements());
+            elements = ElementsReport(window);
+        } catch (const CommandError& error) {
+            if (!request.theme.empty()) throw;
+            // One theme among many: the others go on.
+            warnings += std::string(error.what()) + "\n";
+        }
         report.push_back(
-            {{"name", theme.name}, {"label", theme.label}, {"elements", ElementsReport(window)}});
+            {{"name", theme.name}, {"label", theme.label}, {"elements", std::move(elements)}});
     }
     return request.json ? JsonText(report) + "\n" : text;
 }

@@ -6,7 +6,8 @@
 
 namespace morpho {
 
-// `morpho list`: the text for standard output. Throws CommandError.
-std::string List(const ListRequest& request);
+// `morpho list`: the text for standard output. What could not be read is told in `warnings`, one
+// sentence a line. Throws CommandError.
+std::string List(const ListRequest& request, std::string& warnings);
 
 }  // namespace morpho

@@ -17,7 +17,11 @@ std::string Warnings(const frmThemeMorpho& window) {
     std::set<std::string> told;
     std::string warnings;
     for (const auto& [row, reason] : window.Renderer().Failures()) {
-        const std::string sentence = window.Elements().File(row) + " is left as it was: " + reason;
+        // "url()" names no file, yet makes an element.
+        const std::string& file = window.Elements().File(row);
+        const std::string sentence = file.empty()
+                                         ? window.Elements().Key(row) + " names no picture."
+                                         : file + " is left as it was: " + reason;
         if (told.insert(sentence).second) warnings += sentence + "\n";
     }
     return warnings;
@@ -31,9 +35,9 @@ std::string Recolor(const RecolorRequest& request, std::string& warnings) {
     BatchWindow& window = batch.OpenTheme(request.theme);
     for (const Step& step : request.steps)
         window.Take(step);
-    exportFolder.Fill(ToDiskPath(window.Window().WorkFolder()).value());
-    warnings = Warnings(window.Window());
+    warnings = batch.Warnings() + Warnings(window.Window());
     if (!request.picture.empty()) DrawWindow(window.Window(), request.picture);
+    exportFolder.Fill(ToDiskPath(window.Window().WorkFolder()).value());
     return request.json ? JsonText(RecolorReport(window.Window())) + "\n" : std::string();
 }
 

@@ -1,10 +1,12 @@
 #include "desktop/commands/window_command.h"
 
 #include <QApplication>
+#include <algorithm>
 
 #include "desktop/host/desktop_platform.h"
 #include "desktop/qt/qt_toolkit.h"
 #include "forms/form.h"
+#include "platform/ignoring_case.h"
 #include "resources/embedded_resources.h"
 #include "resources/resource_ids.h"
 #include "theme_editor/frm_theme_morpho.h"
@@ -19,6 +21,15 @@ struct QtArguments {
     char* values[2] = {name, nullptr};
     int count = 1;
 };
+
+void RequireTheme(const OpenedWeb& web, const std::string& name) {
+    const bool known = std::any_of(web.themes.begin(), web.themes.end(), [&](const Theme& theme) {
+        return EqualIgnoringCase(theme.name, name);
+    });
+    if (!known)
+        throw CommandError(CommandError::Status::kRefused,
+                           "This web has no theme named \"" + name + "\".");
+}
 
 // Before the window is shown, as if the person had picked it first of all.
 void SelectTheme(frmThemeMorpho& window, const std::string& name) {
@@ -43,6 +54,7 @@ void ShowThemeWindow(const ThemeRequest& request) {
     DesktopPlatform desktop(DesktopUse::kWindows, FindUserFolders(EnvironmentVariable), toolkit,
                             resources);
     desktop.FrontPage().Open(std::filesystem::absolute(request.web).lexically_normal().string());
+    if (!request.theme.empty()) RequireTheme(*desktop.FrontPage().Opened(), request.theme);
     Component component;
     component.application = &desktop.FrontPage();
     frmThemeMorpho window({desktop.Parts(), component});
