@@ -11,7 +11,7 @@ namespace colorizer {
 bool IsGif(std::span<const std::uint8_t> file);
 
 /// Recolours every entry of every colour table where it stands; no other byte changes. The blocks
-/// are walked (GIF89a specification), the image data is never decompressed. Throws Error where a
+/// are walked (GIF89a), the image data is never decompressed. Throws Error where a
 /// block runs past the end of the file; a file that merely lacks its trailer after the last image
 /// is taken, as browsers take it.
 void RecolorGif(std::span<std::uint8_t> file, const ColourMap& map);

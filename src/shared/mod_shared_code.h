@@ -50,9 +50,8 @@ std::string WithSeparator(std::string_view folder);
 
 bool FolderExists(const FileSystem& files, std::string_view path);
 // A directory listing's answer for normal files, neither folders nor hidden or system entries.
-// A path that ends in "\" asks for any file of the folder; the last name may hold the wild cards *
-// and
-// ?. False for what cannot be read.
+// A path that ends in "\" asks for any file of the folder; the last name may hold the
+// wild cards * and ?. False for what cannot be read.
 bool AnyFileMatches(const FileSystem& files, std::string_view path);
 
 }  // namespace morpho

@@ -29,8 +29,9 @@ void RefuseForeign(const Descriptor& root, const std::string& path) {
 }
 
 Descriptor OpenRoot(const std::string& path) {
-    std::error_code ignored;
-    std::filesystem::create_directories(ParentFolder(path), ignored);
+    std::error_code error;
+    std::filesystem::create_directories(ParentFolder(path), error);
+    if (error) throw FileError(error.value(), ParentFolder(path), "could not be created");
     if (::mkdir(path.c_str(), 0700) != 0 && errno != EEXIST)
         throw FileError(errno, path, "could not be created");
     Descriptor root(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));

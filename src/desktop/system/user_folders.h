@@ -5,8 +5,8 @@
 
 namespace morpho {
 
-// The program's folders in the user's home, as paths of the disk, after the XDG Base Directory
-// Specification. They need not exist yet.
+// The program's folders in the user's home, as paths of the disk, in the XDG base directories.
+// They need not exist yet.
 struct UserFolders {
     std::string home;
     std::string cache;  // $XDG_CACHE_HOME/morpho
