@@ -3,6 +3,7 @@
 #include <iostream>
 #include <variant>
 
+#include "desktop/commands/apply_command.h"
 #include "desktop/commands/command_line.h"
 #include "desktop/commands/list_command.h"
 #include "desktop/commands/recolor_command.h"
@@ -21,6 +22,7 @@ struct Runner {
         std::cout << List(request, warnings);
         std::cerr << warnings;
     }
+    void operator()(const ApplyRequest& request) const { std::cerr << Apply(request); }
     void operator()(const RecolorRequest& request) const {
         std::string warnings;
         std::cout << Recolor(request, warnings);

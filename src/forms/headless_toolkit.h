@@ -25,6 +25,8 @@ class HeadlessToolkit : public Toolkit {
 
     // Answers the next question (a box with more than an OK button) that has no answer yet.
     void WillAnswer(Answer answer) { answers_.push_back(answer); }
+    // Drops the answers that no question has taken.
+    void ForgetAnswers() { answers_.clear(); }
     // Plays every modal form of this name from now on.
     void WillPlay(const std::string& formName, Person person) {
         people_[formName] = std::move(person);

@@ -39,10 +39,19 @@ class PageDocument {
     virtual std::unique_ptr<StyleSheet> StyleSheetAt(int index) const = 0;
 };
 
+// Asks ThemeProperties for the theme's name.
+inline constexpr int kThemeNameProperty = 0x2000000;
+
 class PageWindow {
   public:
     virtual ~PageWindow() = default;
     virtual std::unique_ptr<PageDocument> Document() = 0;
+    // The address of the page.
+    virtual std::string Location() const = 0;
+    // With kThemeNameProperty: the folder name of the page's theme; empty when it has none.
+    virtual std::string ThemeProperties(int which) const = 0;
+    // Gives the page this theme; `themeName` is a folder name, not a label.
+    virtual void ApplyTheme(std::string_view themeName) = 0;
     // Closes the page; with `forceSave` its changes are saved first, without it they are dropped.
     virtual void Close(bool forceSave) = 0;
 };
@@ -53,6 +62,9 @@ class WebWindow {
     virtual ~WebWindow() = default;
     // Opens a new blank page.
     virtual std::unique_ptr<PageWindow> AddPageWindow() = 0;
+    // The pages that are open.
+    virtual int PageWindowCount() const = 0;
+    virtual std::unique_ptr<PageWindow> PageWindowAt(int index) = 0;
 };
 
 struct Theme {
@@ -60,8 +72,22 @@ struct Theme {
     std::string label;  // its display title
 };
 
-// Asks Web::ThemeProperties for the theme's name.
-inline constexpr int kThemeNameProperty = 0x2000000;
+// A folder of the open web.
+class WebFolder {
+  public:
+    virtual ~WebFolder() = default;
+    virtual std::string Name() const = 0;
+    virtual std::string Url() const = 0;  // absolute
+    // The folder of this name directly in this one; null when there is none.
+    virtual std::unique_ptr<WebFolder> FindFolder(std::string_view name) = 0;
+    // Creates a folder in this one and returns it; a name that is taken is refused.
+    virtual std::unique_ptr<WebFolder> AddFolder(std::string_view name) = 0;
+    // Imports a file of the disk under its own name. With `overwrite` a file of that name is
+    // replaced as a whole, without it the call is refused.
+    virtual void AddFile(std::string_view localPath, bool overwrite) = 0;
+    // Deletes the folder with all contents; of this object nothing may be asked afterwards.
+    virtual void Delete() = 0;
+};
 
 class Web {
   public:
@@ -72,6 +98,21 @@ class Web {
     // when it has none.
     virtual std::string ThemeProperties(int which) const = 0;
     virtual std::unique_ptr<WebWindow> ActiveWebWindow() = 0;
+    // The web's absolute address.
+    virtual std::string Url() const = 0;
+    virtual std::unique_ptr<WebFolder> RootFolder() = 0;
+    // The folder at an address relative to the web, such as "_themes/blends"; null when the web
+    // has, or shows, no such folder.
+    virtual std::unique_ptr<WebFolder> LocateFolder(std::string_view url) = 0;
+    // A meta-property of the web, such as "vti_showhiddenpages", as text; keys are in lower case.
+    // Nothing when it is not set.
+    virtual std::optional<std::string> Property(std::string_view key) const = 0;
+    // Gives the web, with all pages that take its theme, this theme; `themeName` is a folder name,
+    // not a label.
+    virtual void ApplyTheme(std::string_view themeName) = 0;
+    // Reads the web's folders and files again.
+    virtual void Refresh() = 0;
+    virtual void RecalcHyperlinks() = 0;
 };
 
 // Numbers of LanguageSettings::LanguageId.

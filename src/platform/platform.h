@@ -2,6 +2,7 @@
 
 namespace morpho {
 
+class AutomationFactory;
 class Clock;
 class CodePage;
 class ColorizerFactory;
@@ -26,6 +27,7 @@ struct Platform {
     const Resources& resources;
     ColorizerFactory& colorizers;
     Toolkit& toolkit;
+    AutomationFactory& automation;
 };
 
 }  // namespace morpho

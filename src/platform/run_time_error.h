@@ -20,9 +20,10 @@ enum class ErrorNumber : int {
     kPathFileAccess = 75,
     kPathNotFound = 76,
     kObjectNotSet = 91,
-    kInvalidPicture = 481,
+    kInvalidFileFormat = 321,
     kCannotCreateComponent = 429,
     kAutomation = 440,
+    kInvalidPicture = 481,
 };
 
 // What every operation of the platform throws when it fails. The text is one sentence for a person,

@@ -1,6 +1,7 @@
 #include "theme_editor/frm_theme_morpho.h"
 
 #include "about/frm_about.h"
+#include "frontpage/mod_fpole.h"
 #include "platform/environment.h"
 #include "platform/file_system.h"
 #include "platform/platform.h"
@@ -35,12 +36,10 @@ frmThemeMorpho::frmThemeMorpho(const Program& program)
           program, elements_, [this] { return ShowDuplicateNotice(); },
           [this] { colorization_.SelectionTouched(); }),
       colorization_(program, {*this, busySwitch_, elements_, selection_, history_, renderer_,
-                              sliders_, band_, preview_, cmdUndo, cmdRedo}) {
+                              sliders_, band_, preview_, cmdUndo, cmdRedo}),
+      saver_(program, *this, busySwitch_, lblStatus) {
     cmbThemeName.SetVisible(false);
     lstGifNames.SetVisible(false);
-    // Saving is still to come.
-    cmdSave.SetEnabled(false);
-    cmdSaveAs.SetEnabled(false);
 }
 
 void frmThemeMorpho::Form_Paint() {
@@ -101,14 +100,34 @@ bool frmThemeMorpho::MayLeaveTheme(bool closing) {
     const Answer answer = MsgBox(prompt, kYesNoCancel | kQuestionIcon, kThemeProduct);
     if (answer != Answer::kYes) return answer == Answer::kNo;
     if (!closing) WriteLog("Saving modified theme...");
-    return SaveTheme(name, label, closing, false);
+    return SaveLoadedTheme(closing);
 }
 
-bool frmThemeMorpho::SaveTheme(const std::string& /*name*/, const std::string& /*title*/,
-                               bool /*applyFlag*/, bool /*asNew*/) {
-    // Saving is still to come; until then no save succeeds, and the person keeps the window and the
-    // changes.
-    return false;
+bool frmThemeMorpho::SaveLoadedTheme(bool applyFlag) {
+    const LoadedTheme theme = Loaded();
+    return Saved(saver_.SaveTheme(theme, {theme.name, theme.label, applyFlag, false}));
+}
+
+LoadedTheme frmThemeMorpho::Loaded() const {
+    const std::string& name = cmbThemeName.List(currentThemeIndex_);
+    return {name, cmbThemeLabel.List(currentThemeIndex_), WorkRoot() + "\\" + name + "\\",
+            fpThemeTempPath_, loadFailure_};
+}
+
+bool frmThemeMorpho::Saved(SaveOutcome outcome) {
+    if (outcome == SaveOutcome::kNotSaved) return false;
+    // Steps that are part of the originals now must not be replayed on them.
+    if (outcome == SaveOutcome::kSavedOverOriginals) colorization_.Begin();
+    colorization_.SetModified(false);
+    return true;
+}
+
+void frmThemeMorpho::cmdSave_Click() {
+    SaveLoadedTheme(true);
+}
+
+void frmThemeMorpho::cmdSaveAs_Click() {
+    Saved(saver_.SaveThemeAs(Loaded(), false));
 }
 
 void frmThemeMorpho::lstImageNames_ItemCheck(int index) {
@@ -157,6 +176,7 @@ void frmThemeMorpho::cmdReset_Click() {
 
 void frmThemeMorpho::cmdCancel_Click() {
     Unload();
+    FPBringToTop(TheProgram());
 }
 
 void frmThemeMorpho::btnAbout_Click() {

@@ -8,6 +8,7 @@
 #include "theme_editor/colorization.h"
 #include "theme_editor/product.h"
 #include "theme_editor/theme_loader.h"
+#include "theme_editor/theme_saver.h"
 
 namespace morpho {
 
@@ -145,13 +146,13 @@ class frmThemeMorpho : public LoggedForm {
     Frame frameMenu{*this, {"frameMenu", {2955, 9000, 8580, 495}}};
     CommandButton cmdSave{frameMenu,
                           {"cmdSave", {0, 60, 1275, 375}, "Save", "Save the theme", 'S'},
-                          {},
+                          [this] { cmdSave_Click(); },
                           ButtonRole::kNone,
                           "Ctrl+S"};
     CommandButton cmdSaveAs{
         frameMenu,
         {"cmdSaveAs", {1335, 60, 1275, 375}, "Save As...", "Save the theme as another theme", 'v'},
-        {}};
+        [this] { cmdSaveAs_Click(); }};
     CommandButton cmdCancel{
         frameMenu,
         {"cmdCancel", {4635, 60, 1275, 375}, "Close", "Close Theme Morpho", 'C'},
@@ -197,6 +198,8 @@ class frmThemeMorpho : public LoggedForm {
     void cmdUndo_Click();
     void cmdRedo_Click();
     void cmdReset_Click();
+    void cmdSave_Click();
+    void cmdSaveAs_Click();
     void cmdCancel_Click();
     void btnAbout_Click();
     void btnHelp_Click();
@@ -215,7 +218,11 @@ class frmThemeMorpho : public LoggedForm {
     void LoadCurrentTheme();
     // Asks what to do with unsaved changes; false when the person, or a failed save, wants to stay.
     bool MayLeaveTheme(bool closing);
-    bool SaveTheme(const std::string& name, const std::string& title, bool applyFlag, bool asNew);
+    // Saves the loaded theme under its own name and label.
+    bool SaveLoadedTheme(bool applyFlag);
+    LoadedTheme Loaded() const;
+    // Takes note of how a save ended; says whether the theme was saved.
+    bool Saved(SaveOutcome outcome);
     void SavePlacement();
     void DeleteWorkFolder();
     void LayOut();
@@ -247,6 +254,7 @@ class frmThemeMorpho : public LoggedForm {
     ThemeLoader loader_;
     ElementSelection selection_;
     Colorization colorization_;
+    ThemeSaver saver_;
 };
 
 }  // namespace morpho

@@ -2,6 +2,7 @@
 
 #include "about/frm_quick_reference.h"
 #include "frontpage/environment.h"
+#include "frontpage/mod_fpole.h"
 #include "platform/platform.h"
 #include "shared/log.h"
 #include "shared/settings.h"
@@ -62,8 +63,7 @@ void frmThemeMorpho::ConnectToHost() {
     if (application == nullptr)
         throw RunTimeError(ErrorNumber::kObjectNotSet, "FrontPage is not there");
     version_ = application->Version();
-    TheComponent().explorerProgId = ExplorerProgId(version_);
-    TheComponent().editorProgId = EditorProgId(version_);
+    SetFrontPageProgIDs(TheComponent(), version_);
     BringToTop();
 }
 

@@ -38,7 +38,7 @@ Home::~Home() {
     fs::remove_all(folder_);
 }
 
-Outcome Home::Run(const std::string& arguments) const {
+Outcome Home::RunUnder(const std::string& command, const std::string& arguments) const {
     std::string words = arguments;
     ReplaceWord(words, "WEB", Web().string());
     ReplaceWord(words, "OUT", Path("out").string());
@@ -47,10 +47,11 @@ Outcome Home::Run(const std::string& arguments) const {
     const std::string number = std::to_string(++runs);
     const fs::path out = Path("stdout" + number);
     const fs::path err = Path("stderr" + number);
-    const std::string command = "XDG_DATA_HOME=" + Path("data").string() +
-                                " XDG_CACHE_HOME=" + Path("cache").string() + " " + MORPHO_PROGRAM +
-                                " " + words + " >" + out.string() + " 2>" + err.string();
-    const int status = std::system(command.c_str());
+    const std::string line = "XDG_DATA_HOME=" + Path("data").string() +
+                             " XDG_CACHE_HOME=" + Path("cache").string() + " " + command + " " +
+                             MORPHO_PROGRAM + " " + words + " >" + out.string() + " 2>" +
+                             err.string();
+    const int status = std::system(line.c_str());
     Outcome outcome{WIFEXITED(status) ? WEXITSTATUS(status) : -1, ReadAll(out), ReadAll(err)};
     fs::remove(out);
     fs::remove(err);

@@ -29,7 +29,9 @@ class Home {
     std::filesystem::path Theme(const std::string& name) const { return Web() / "_themes" / name; }
     // `arguments` as a shell would take them; "WEB" stands for the copy of the sample web, "OUT"
     // for a folder that is not there yet.
-    Outcome Run(const std::string& arguments) const;
+    Outcome Run(const std::string& arguments) const { return RunUnder("", arguments); }
+    // The same as an argument of another command, such as one that kills it.
+    Outcome RunUnder(const std::string& command, const std::string& arguments) const;
 
   private:
     std::filesystem::path folder_;

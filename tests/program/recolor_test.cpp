@@ -114,7 +114,7 @@ TEST(RecolorCommand, RefusesWithOneSentenceAndWritesNothing) {
         {"recolor '' --theme orrery --export OUT", 2, "WEB"},
         {"recolor WEB --theme orrery", 2, "export"},
         {"recolor WEB --export OUT", 2, "theme"},
-        {"nonsense WEB", 2, "subcommand"},
+        {"nonsense WEB", 2, "nonsense"},
         {"recolor WEB --theme nonsense --export OUT", 1, "nonsense"},
         {"recolor WEB/nowhere --theme orrery --export OUT", 1, "nowhere"},
         {"recolor WEB/index.htm --theme orrery --export OUT", 1, "index.htm"},

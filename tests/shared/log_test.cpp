@@ -77,8 +77,8 @@ TEST_F(LogTest, FindsItsFolderWithOneSeparatorAndOpensTheFileWithTwo) {
         void AppendFile(std::string_view path, std::string_view) override { last = path; }
     } files;
     Platform& p = world_.platform;
-    Platform platform{p.registry, files,         p.profileFiles, p.codePage,   p.shell,
-                      p.clock,    p.environment, p.resources,    p.colorizers, p.toolkit};
+    Platform platform{p.registry,    files,       p.profileFiles, p.codePage, p.shell,     p.clock,
+                      p.environment, p.resources, p.colorizers,   p.toolkit,  p.automation};
     world_.component.logMode = 1;
     world_.component.logFolder = kFolder;
     WriteLog({platform, world_.component}, "x");

@@ -1,5 +1,7 @@
 #include "support/fake_application.h"
 
+#include <algorithm>
+
 #include "platform/ignoring_case.h"
 #include "platform/run_time_error.h"
 #include "shared/mod_shared_code.h"
@@ -110,9 +112,18 @@ class FakeDocument : public PageDocument {
 
 class FakePage : public PageWindow {
   public:
-    explicit FakePage(FakeApplication& host) : host_(host) {}
+    explicit FakePage(FakeApplication& host, FakeApplication::OpenPage* page = nullptr)
+        : host_(host), page_(page) {}
     std::unique_ptr<PageDocument> Document() override {
         return std::make_unique<FakeDocument>(host_, html_);
+    }
+    std::string Location() const override { return page_ != nullptr ? page_->location : ""; }
+    std::string ThemeProperties(int which) const override {
+        return page_ != nullptr && which == kThemeNameProperty ? page_->theme : std::string();
+    }
+    void ApplyTheme(std::string_view themeName) override {
+        if (page_ != nullptr) page_->theme = themeName;
+        host_.webCalls.push_back("ApplyTheme " + std::string(themeName) + " to " + Location());
     }
     void Close(bool forceSave) override {
         host_.pageCalls.emplace_back(forceSave ? "Close saved" : "Close");
@@ -121,6 +132,7 @@ class FakePage : public PageWindow {
 
   private:
     FakeApplication& host_;
+    FakeApplication::OpenPage* page_;
     std::shared_ptr<std::string> html_ = std::make_shared<std::string>();
 };
 
@@ -133,9 +145,56 @@ class FakeWebWindow : public WebWindow {
         ++host_.openPages;
         return std::make_unique<FakePage>(host_);
     }
+    int PageWindowCount() const override { return static_cast<int>(host_.web->pages.size()); }
+    std::unique_ptr<PageWindow> PageWindowAt(int index) override {
+        if (index < 0 || index >= PageWindowCount()) Refuse("No such page");
+        return std::make_unique<FakePage>(host_,
+                                          &host_.web->pages[static_cast<std::size_t>(index)]);
+    }
 
   private:
     FakeApplication& host_;
+};
+
+std::string PathOfUrl(std::string_view url) {
+    std::string path = std::string(FakeApplication::kWebFolder) + '\\' + std::string(url);
+    std::replace(path.begin(), path.end(), '/', '\\');
+    return path;
+}
+
+// `url` is relative to the web; empty for its root.
+class FakeWebFolder : public WebFolder {
+  public:
+    FakeWebFolder(FakeApplication& host, std::string url) : host_(host), url_(std::move(url)) {}
+    std::string Name() const override { return FileNameOf(url_); }
+    std::string Url() const override { return "file:///C:/Web/" + url_; }
+    std::unique_ptr<WebFolder> FindFolder(std::string_view name) override {
+        if (!host_.webFiles.HasFolder(PathOfUrl(Below(name)))) return nullptr;
+        return std::make_unique<FakeWebFolder>(host_, Below(name));
+    }
+    std::unique_ptr<WebFolder> AddFolder(std::string_view name) override {
+        host_.webFiles.CreateFolder(PathOfUrl(Below(name)));
+        host_.webCalls.push_back("AddFolder " + Below(name));
+        return std::make_unique<FakeWebFolder>(host_, Below(name));
+    }
+    void AddFile(std::string_view localPath, bool overwrite) override {
+        const std::string url = Below(FileNameOf(localPath));
+        if (!overwrite && host_.webFiles.HasFile(PathOfUrl(url))) Refuse("The file exists");
+        host_.webFiles.CopyFile(localPath, PathOfUrl(url));
+        host_.webCalls.push_back("AddFile " + url);
+    }
+    void Delete() override {
+        host_.webFiles.DeleteFolder(PathOfUrl(url_));
+        host_.webCalls.push_back("Delete " + url_);
+    }
+
+  private:
+    std::string Below(std::string_view name) const {
+        return url_.empty() ? std::string(name) : url_ + '/' + std::string(name);
+    }
+
+    FakeApplication& host_;
+    std::string url_;
 };
 
 class FakeWeb : public Web {
@@ -152,8 +211,36 @@ class FakeWeb : public Web {
     std::unique_ptr<WebWindow> ActiveWebWindow() override {
         return std::make_unique<FakeWebWindow>(host_);
     }
+    std::string Url() const override { return "file:///C:/Web"; }
+    std::unique_ptr<WebFolder> RootFolder() override {
+        return std::make_unique<FakeWebFolder>(host_, std::string());
+    }
+    std::unique_ptr<WebFolder> LocateFolder(std::string_view url) override {
+        if (!host_.webFiles.HasFolder(PathOfUrl(url))) return nullptr;
+        return std::make_unique<FakeWebFolder>(host_, std::string(url));
+    }
+    std::optional<std::string> Property(std::string_view key) const override {
+        const auto property = host_.web->properties.find(std::string(key));
+        if (property == host_.web->properties.end()) return std::nullopt;
+        return property->second;
+    }
+    // The page index.htm, if there is one, then names the theme.
+    void ApplyTheme(std::string_view themeName) override {
+        const std::string page = PathOfUrl("index.htm");
+        if (host_.webFiles.HasFile(page))
+            host_.webFiles.WriteFile(page, "theme=" + std::string(themeName));
+        host_.web->themeOfWeb = themeName;
+        host_.webCalls.push_back("ApplyTheme " + std::string(themeName));
+    }
+    void Refresh() override { Touch("Refresh"); }
+    void RecalcHyperlinks() override { Touch("RecalcHyperlinks"); }
 
   private:
+    void Touch(const std::string& call) {
+        host_.webFiles.List(FakeApplication::kWebFolder);
+        host_.webCalls.push_back(call);
+    }
+
     FakeApplication& host_;
 };
 

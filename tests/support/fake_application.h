@@ -6,16 +6,27 @@
 #include <vector>
 
 #include "platform/front_page.h"
+#include "support/fake_file_system.h"
 
 namespace morpho::test {
 
-// A host in memory. Tests set the public data; the views that it hands out read and write them.
+// A host in memory, with its web in a folder of the file system. Tests set the public data; the
+// views that it hands out read and write them.
 class FakeApplication : public Application {
   public:
+    struct OpenPage {
+        std::string location;
+        std::string theme;
+    };
     struct WebData {
         std::vector<Theme> themes;
         std::string themeOfWeb;
+        std::map<std::string, std::string> properties;
+        std::vector<OpenPage> pages;
     };
+    static constexpr std::string_view kWebFolder = "C:\\Web";
+
+    explicit FakeApplication(FakeFileSystem& files) : webFiles(files) {}
 
     std::string version = "6.0";
     std::optional<WebData> web = WebData{};  // the open web, if any
@@ -28,6 +39,11 @@ class FakeApplication : public Application {
     // saved".
     std::vector<std::string> pageCalls;
     int openPages = 0;
+    // What was done with the web, in order: "AddFolder _themes/a", "AddFile _themes/a/b.gif",
+    // "Delete _themes/a", "ApplyTheme a", "ApplyTheme a to index.htm", "Refresh",
+    // "RecalcHyperlinks".
+    std::vector<std::string> webCalls;
+    FakeFileSystem& webFiles;
 
     std::string Version() const override { return version; }
     std::unique_ptr<Web> ActiveWeb() override;

@@ -92,17 +92,33 @@ void FakeFileSystem::FailOn(std::string_view path, ErrorNumber number) {
 }
 
 void FakeFileSystem::FailAt(int nth, ErrorNumber number) {
+    FailNoMore();
     untilFailure_ = nth;
     failure_ = number;
+}
+
+void FakeFileSystem::FailFrom(int nth, ErrorNumber number) {
+    FailAt(nth, number);
+    staysBroken_ = true;
 }
 
 void FakeFileSystem::FailNoMore() {
     failingPaths_.clear();
     untilFailure_ = 0;
+    failed_ = false;
+    staysBroken_ = false;
+}
+
+void FakeFileSystem::CountDown(std::string_view path) const {
+    if (untilFailure_ > 0 && --untilFailure_ == 0) {
+        if (staysBroken_) untilFailure_ = 1;
+        failed_ = true;
+        Throw(failure_, path);
+    }
 }
 
 void FakeFileSystem::Count(std::string_view path) const {
-    if (untilFailure_ > 0 && --untilFailure_ == 0) Throw(failure_, path);
+    CountDown(path);
     const auto failing = failingPaths_.find(Key(path));
     if (failing != failingPaths_.end()) Throw(failing->second, path);
 }
@@ -225,6 +241,7 @@ void FakeFileSystem::CopyFolder(std::string_view source, std::string_view destin
         const std::string target =
             Normal(destination) + ParentOf(key).substr(from.size()) + '\\' + node.name;
         if (!node.IsFolder()) {
+            CountDown(target);
             Store(target, node.bytes);
         } else if (!HasFolder(target)) {
             PutFolder(target);
@@ -236,8 +253,11 @@ void FakeFileSystem::CopyFolder(std::string_view source, std::string_view destin
 void FakeFileSystem::DeleteFolder(std::string_view path) {
     Count(path);
     RequireFolder(path);
-    for (const auto& [key, node] : Below(Key(path)))
-        nodes_.erase(key);
+    const Nodes below = Below(Key(path));
+    for (auto node = below.rbegin(); node != below.rend(); ++node) {
+        CountDown(node->first);
+        nodes_.erase(node->first);
+    }
     nodes_.erase(Key(path));
     Remember("DeleteFolder", path);
 }

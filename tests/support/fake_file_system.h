@@ -30,9 +30,15 @@ class FakeFileSystem : public FileSystem {
 
     // Every operation but Find that names this path (as source or destination) fails from now on.
     void FailOn(std::string_view path, ErrorNumber number = ErrorNumber::kPathFileAccess);
-    // The nth operation but Find from now on fails, once; 1 is the next.
+    // The nth operation but Find from now on fails, once; 1 is the next. Each file that is copied
+    // or deleted with its folder counts.
     void FailAt(int nth, ErrorNumber number = ErrorNumber::kPathFileAccess);
+    // The nth operation but Find from now on and all after it fail, as if the program had died
+    // there.
+    void FailFrom(int nth, ErrorNumber number = ErrorNumber::kPathFileAccess);
     void FailNoMore();
+    // Whether the failure that FailAt or FailFrom announced has come.
+    bool HasFailed() const { return failed_; }
 
     // Every change that succeeded, in order, such as "WriteFile C:\a.txt" and "CopyFile C:\a >
     // C:\b".
@@ -60,6 +66,7 @@ class FakeFileSystem : public FileSystem {
     // By path in lower case without doubled or trailing "\".
     using Nodes = std::map<std::string, Node>;
 
+    void CountDown(std::string_view path) const;
     void Count(std::string_view path) const;
     const Node& File(std::string_view path) const;
     void RequireFolder(std::string_view path) const;
@@ -72,6 +79,8 @@ class FakeFileSystem : public FileSystem {
     std::vector<std::string> changes_;
     std::map<std::string, ErrorNumber> failingPaths_;
     mutable int untilFailure_ = 0;
+    mutable bool failed_ = false;
+    bool staysBroken_ = false;
     ErrorNumber failure_ = ErrorNumber::kPathFileAccess;
 };
 

@@ -5,6 +5,7 @@
 #include "platform/platform.h"
 #include "shared/component.h"
 #include "support/fake_application.h"
+#include "support/fake_automation.h"
 #include "support/fake_colorizer.h"
 #include "support/fake_file_system.h"
 #include "support/fake_profile_files.h"
@@ -26,10 +27,11 @@ struct FakePlatform {
     FakeResources resources;
     FakeColorizerFactory colorizers{files};
     HeadlessToolkit toolkit;
-    FakeApplication application;
+    FakeApplication application{files};
+    FakeAutomation automation;
 
-    Platform platform{registry, files,       profileFiles, codePage,   shell,
-                      clock,    environment, resources,    colorizers, toolkit};
+    Platform platform{registry,    files,     profileFiles, codePage, shell,     clock,
+                      environment, resources, colorizers,   toolkit,  automation};
     Component component;
     Program program{platform, component};
 

@@ -8,6 +8,7 @@
 #include "image_editor/frm_jpeg_qf.h"
 #include "platform/ignoring_case.h"
 #include "theme_editor/frm_prompt_duplicate.h"
+#include "theme_editor/frm_save_as.h"
 #include "theme_editor/theme_window.h"
 
 namespace morpho::test {
@@ -105,17 +106,19 @@ TEST_F(EveryFormTest, TheThemeWindowIsGoodAtAnySize) {
 }
 
 TEST_F(EveryFormTest, TheDialogsAreGood) {
-    for (const char* name : {"frmPromptDuplicate", "frmJPEGQF", "frmAbout", "frmQuickReference"})
+    for (const char* name :
+         {"frmPromptDuplicate", "frmJPEGQF", "frmSaveAs", "frmAbout", "frmQuickReference"})
         ExpectGoodWhenShown(name);
     for (const int icon : {kCriticalIcon, kQuestionIcon, kInformationIcon})
         frmPromptDuplicate(world_.program).ShowDuplicateNoticeDialog("Notice", "Title", icon);
     frmJPEGQF(world_.program).ShowModal();
+    frmSaveAs(world_.program).ShowModal();
     frmQuickReference(world_.program).ShowModal();
     int logMode = 0;
     frmAbout(world_.program).ShowAbout(Editor::kTheme, logMode);
     world_.component.webSite = "https://example.org";
     frmAbout(world_.program).ShowAbout(Editor::kImage, logMode);
-    EXPECT_EQ(seen_, 7);
+    EXPECT_EQ(seen_, 8);
 }
 
 }  // namespace

@@ -127,8 +127,13 @@ void ThemeWindow::ExpectPicture(const std::string& file, const std::string& byte
 }
 
 void ThemeWindow::ExpectMessage(std::size_t count, const std::string& text, int flags) const {
-    ASSERT_EQ(world_.toolkit.Messages().size(), count);
-    const HeadlessToolkit::Message& message = world_.toolkit.Messages().back();
+    EXPECT_EQ(world_.toolkit.Messages().size(), count);
+    ExpectNthMessage(count, text, flags);
+}
+
+void ThemeWindow::ExpectNthMessage(std::size_t nth, const std::string& text, int flags) const {
+    ASSERT_GE(world_.toolkit.Messages().size(), nth);
+    const HeadlessToolkit::Message& message = world_.toolkit.Messages()[nth - 1];
     EXPECT_EQ(message.text, text);
     EXPECT_EQ(message.flags, flags);
     EXPECT_EQ(message.title, "Theme Morpho");

@@ -60,6 +60,8 @@ class ThemeWindow : public testing::Test {
     void ExpectPicture(const std::string& file, const std::string& bytes) const;
     // That so many messages were shown, and the last one.
     void ExpectMessage(std::size_t count, const std::string& text, int flags) const;
+    // The first is number 1.
+    void ExpectNthMessage(std::size_t nth, const std::string& text, int flags) const;
 
     FakePlatform world_;
     RecordingBrowser browser_;

@@ -34,13 +34,14 @@ TEST_F(WindowClosingTest, AsksAboutUnsavedChangesAndNeedsANoToDropThem) {
     Tick({kButton});
     window_->sldHue.UserSettle(40);
     Forget();
-    std::size_t asked = 0;
     for (const Answer answer : {Answer::kCancel, Answer::kYes, Answer::kNo}) {
-        const bool closes = answer == Answer::kNo;  // no save succeeds
+        Forget();
+        const bool closes = answer == Answer::kNo;  // this user has no folders to save to
+        const std::size_t told = world_.toolkit.Messages().size();
         world_.toolkit.WillAnswer(answer);
         EXPECT_EQ(window_->UserClose(), closes);
-        ExpectMessage(++asked, "Theme \"Blends\" modified.\r\nDo you wish to save the changes ?",
-                      35);
+        ExpectNthMessage(told + 1,
+                         "Theme \"Blends\" modified.\r\nDo you wish to save the changes ?", 35);
         EXPECT_EQ(Setting("State"), closes ? "0" : "(none)");
         EXPECT_EQ(world_.files.HasFolder("C:\\Temp\\Morpho"), !closes);
     }

@@ -7,10 +7,24 @@
 
 namespace morpho {
 
+namespace {
+
+std::string Absolute(const std::filesystem::path& web) {
+    return std::filesystem::absolute(web).lexically_normal().string();
+}
+
+}  // namespace
+
 Batch::Batch(const std::filesystem::path& web, const std::string& onlyTheme)
     : desktop_(DesktopUse::kBatch, FindUserFolders(EnvironmentVariable), toolkit_, resources_) {
     const auto theme = onlyTheme.empty() ? std::nullopt : std::optional(onlyTheme);
-    desktop_.FrontPage().Open(std::filesystem::absolute(web).lexically_normal().string(), theme);
+    desktop_.FrontPage().Open(Absolute(web), theme);
+    component_.application = &desktop_.FrontPage();
+}
+
+Batch::Batch(const std::filesystem::path& web, const UserFolders& folders)
+    : desktop_(DesktopUse::kBatch, folders, toolkit_, resources_) {
+    desktop_.OpenForSaving(Absolute(web));
     component_.application = &desktop_.FrontPage();
 }
 

@@ -16,14 +16,23 @@ namespace morpho {
 // One run of the program without a screen, on one web.
 class Batch {
   public:
-    // With a theme's name only that theme is made ready. Throws CommandError when the web cannot be
-    // opened.
+    // Only one theme is made ready: quick, for a batch that does not save.
     Batch(const std::filesystem::path& web, const std::string& onlyTheme);
+    // All themes are made ready, and saving is possible. Both throw RunTimeError when the web
+    // cannot be opened.
+    Batch(const std::filesystem::path& web, const UserFolders& folders);
 
-    // All themes of the web.
+    // All themes of the web, and the one that the web as a whole uses (empty: none).
     const std::vector<Theme>& Themes() { return desktop_.FrontPage().Opened()->themes; }
     // What could not be taken from them, a sentence a line.
     std::string Warnings();
+    std::string ThemeOfWeb() {
+        return desktop_.FrontPage().ActiveWeb()->ThemeProperties(kThemeNameProperty);
+    }
+    // Gives the web a theme that it has, or one of the user's own. Throws RunTimeError.
+    void ApplyTheme(const std::string& name) { desktop_.FrontPage().ActiveWeb()->ApplyTheme(name); }
+    // What the host could not do with single pages or files, one sentence each.
+    std::vector<std::string> Reports() { return desktop_.FrontPage().Reports(); }
     // The window with the theme of this name (without regard to case). Throws CommandError.
     BatchWindow& OpenTheme(const std::string& name);
 

@@ -3,8 +3,20 @@
 #include "image_editor/frm_jpeg_qf.h"
 #include "platform/ignoring_case.h"
 #include "theme_editor/frm_prompt_duplicate.h"
+#include "theme_editor/frm_save_as.h"
 
 namespace morpho {
+
+namespace {
+
+constexpr int kButtonsMask = 15;
+
+// Questions have answers of their own; what only wants an OK is a refusal.
+bool IsQuestion(int flags) {
+    return (flags & kButtonsMask) != kOkOnly;
+}
+
+}  // namespace
 
 BatchWindow::BatchWindow(const Program& program, HeadlessToolkit& toolkit)
     : toolkit_(toolkit), window_(program) {
@@ -20,6 +32,7 @@ BatchWindow::BatchWindow(const Program& program, HeadlessToolkit& toolkit)
 }
 
 BatchWindow::~BatchWindow() {
+    toolkit_.ForgetAnswers();
     // A batch has said what it keeps; the window itself keeps nothing.
     toolkit_.WillAnswer(Answer::kNo);
     window_.Unload();
@@ -70,6 +83,38 @@ void BatchWindow::Take(const Step& step) {
     RefuseMessages();
 }
 
+SavedTheme BatchWindow::Save() {
+    const int index = window_.cmbThemeName.ListIndex();
+    const SavedTheme theme{window_.cmbThemeName.Text(), window_.cmbThemeLabel.List(index)};
+    bool readOnly = false;
+    toolkit_.WillPlay("frmSaveAs", [&](Form& form) {
+        readOnly = true;
+        static_cast<frmSaveAs&>(form).cmdCancel.UserClick();
+    });
+    toolkit_.WillAnswer(Answer::kYes);
+    Press(window_.cmdSave);
+    Require(!readOnly,
+            "The theme \"" + theme.name + "\" is read-only and can only be saved as another one.");
+    RefuseMessages();
+    return theme;
+}
+
+SavedTheme BatchWindow::SaveAs(const Outcome& outcome) {
+    SavedTheme saved;
+    toolkit_.WillPlay("frmSaveAs", [&](Form& form) {
+        auto& dialog = static_cast<frmSaveAs&>(form);
+        if (outcome.name != "auto") dialog.txtThemeName.UserEdit(outcome.name);
+        if (outcome.title) dialog.txtThemeTitle.UserEdit(*outcome.title);
+        dialog.chkApplyToWeb.UserSet(outcome.applyToWeb);
+        dialog.cmdSave.UserClick();
+        saved = {dialog.txtThemeName.Text(), dialog.txtThemeTitle.Text()};
+        if (dialog.IsVisible()) dialog.cmdCancel.UserClick();
+    });
+    Press(window_.cmdSaveAs);
+    RefuseMessages();
+    return saved;
+}
+
 void BatchWindow::Select(const std::vector<std::string>& words) {
     for (const std::string& word : words) {
         if (word == "all") {
@@ -103,9 +148,12 @@ void BatchWindow::Require(bool done, const std::string& refusal) {
 void BatchWindow::RefuseMessages() {
     Require(toolkit_.Unscripted().empty(),
             toolkit_.Unscripted().empty() ? "" : toolkit_.Unscripted().front());
-    if (messagesSeen_ == toolkit_.Messages().size()) return;
-    messagesSeen_ = toolkit_.Messages().size();
-    throw CommandError(CommandError::Status::kRefused, toolkit_.Messages().back().text);
+    const auto& messages = toolkit_.Messages();
+    for (; messagesSeen_ < messages.size(); ++messagesSeen_) {
+        const HeadlessToolkit::Message& message = messages[messagesSeen_];
+        if (IsQuestion(message.flags)) continue;
+        throw CommandError(CommandError::Status::kRefused, message.text);
+    }
 }
 
 }  // namespace morpho

@@ -8,6 +8,12 @@
 
 namespace morpho {
 
+// What a theme was saved as.
+struct SavedTheme {
+    std::string name;
+    std::string title;
+};
+
 // A Theme Morpho window that a batch works in place of a person, through the same controls. What a
 // person could not do, and what the window answers with a message, is refused with CommandError.
 class BatchWindow {
@@ -21,6 +27,10 @@ class BatchWindow {
     // Picks the theme of this name (without regard to case).
     void OpenTheme(const std::string& name);
     void Take(const Step& step);
+    // The Save button; the question whether to overwrite is answered yes.
+    SavedTheme Save();
+    // The Save As button and its dialog, filled in as `outcome` says.
+    SavedTheme SaveAs(const Outcome& outcome);
 
     frmThemeMorpho& Window() { return window_; }
 

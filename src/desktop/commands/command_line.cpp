@@ -137,6 +137,39 @@ class StepOptions {
     std::map<Step::Kind, std::vector<int>> numbers_;
 };
 
+// How the batch ends: one of three.
+void AddOutcomes(CLI::App& command, Outcome& outcome) {
+    CLI::Option_group* outcomes =
+        command.add_option_group("Outcome", "What becomes of the recoloured theme");
+    outcomes
+        ->add_option("--export", outcome.exportFolder,
+                     "New or empty folder that gets the recoloured theme")
+        ->type_name("DIR")
+        ->check(NotEmpty());
+    outcomes
+        ->add_flag_callback(
+            "--save", [&] { outcome.kind = Outcome::Kind::kSave; },
+            "Save it over the theme that it was, also where the web uses it")
+        ->disable_flag_override();
+    const auto saveAs = [&](const std::string& name) {
+        outcome.kind = Outcome::Kind::kSaveAs;
+        outcome.name = name;
+    };
+    CLI::Option* newTheme =
+        outcomes
+            ->add_option_function<std::string>(
+                "--save-as", saveAs,
+                "Save it as a new theme of this name; auto: a free name like the theme's own")
+            ->type_name("NAME");
+    outcomes->require_option(1);
+    command.add_option("--title", outcome.title, "Title of the new theme; a free one if not given")
+        ->type_name("TITLE")
+        ->needs(newTheme);
+    command.add_flag("--apply-to-web", outcome.applyToWeb, "Give the new theme to the web's pages")
+        ->disable_flag_override()
+        ->needs(newTheme);
+}
+
 }  // namespace
 
 Request ParseCommandLine(int argc, const char* const* argv, const std::string& version) {
@@ -179,19 +212,23 @@ Request ParseCommandLine(int argc, const char* const* argv, const std::string& v
         ->check(NotEmpty())
         ->required();
     recolorCommand
-        ->add_option("--export", recolor.exportFolder,
-                     "New or empty folder that gets the recoloured theme")
-        ->type_name("DIR")
-        ->check(NotEmpty())
-        ->required();
-    recolorCommand
         ->add_option("--picture", recolor.picture,
                      "PNG file that gets a picture of the window after the steps")
         ->type_name("FILE")
         ->check(NotEmpty());
     recolorCommand->add_flag("--json", recolor.json, "Print the elements and the history as JSON")
         ->disable_flag_override();
+    recolorCommand
+        ->add_flag("--dry-run", recolor.dryRun, "Tell what would be written, and write nothing")
+        ->disable_flag_override();
+    AddOutcomes(*recolorCommand, recolor.outcome);
     const StepOptions steps(*recolorCommand);
+
+    ApplyRequest apply;
+    CLI::App* applyCommand = app.add_subcommand("apply", "Give a web's pages another theme");
+    applyCommand->add_option("WEB", apply.web, "Folder of the web")->required();
+    applyCommand->add_option("--theme", apply.theme, "A theme of the web, or one of the user's own")
+        ->required();
 
     try {
         app.parse(argc, argv);
@@ -200,11 +237,16 @@ Request ParseCommandLine(int argc, const char* const* argv, const std::string& v
     } catch (const CLI::CallForHelp&) {
         return TextRequest{app.help()};
     } catch (const CLI::ParseError& error) {
+        if (argc > 1 && argv[1][0] != '-' && app.get_subcommands().empty())
+            throw CommandError(
+                CommandError::Status::kWrongUsage,
+                "\"" + std::string(argv[1]) + "\" is no command. See morpho --help.");
         throw CommandError(CommandError::Status::kWrongUsage,
                            std::string(error.what()) + ". See morpho --help.");
     }
     if (*themeCommand) return theme;
     if (*listCommand) return list;
+    if (*applyCommand) return apply;
     recolor.steps = steps.InOrder();
     return recolor;
 }

@@ -2,6 +2,8 @@
 
 #include <unistd.h>
 
+#include <numeric>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -66,6 +68,14 @@ void ExportFolder::Fill(const fs::path& source) const {
             fs::remove_all(path, ignored);
         Refuse(folder_.string() + " cannot be written: " + error.code().message() + ".");
     }
+}
+
+std::string ExportFolder::WouldFill(const fs::path& source) const {
+    std::set<std::string> lines;
+    for (const auto& entry : fs::directory_iterator(source)) {
+        lines.insert("would create " + (folder_ / entry.path().filename()).string() + "\n");
+    }
+    return std::accumulate(lines.begin(), lines.end(), std::string());
 }
 
 }  // namespace morpho

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 namespace morpho {
 
@@ -13,6 +14,8 @@ class ExportFolder {
     // Copies the files of `source` there, as a whole. A folder that exists stays the same one, with
     // its owner and mode. Throws CommandError, and leaves nothing behind, when that fails.
     void Fill(const std::filesystem::path& source) const;
+    // What Fill would write, one line for a file.
+    std::string WouldFill(const std::filesystem::path& source) const;
 
   private:
     std::filesystem::path folder_;

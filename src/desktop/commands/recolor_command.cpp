@@ -3,10 +3,12 @@
 #include <set>
 
 #include "desktop/commands/batch.h"
+#include "desktop/commands/dry_run.h"
 #include "desktop/commands/export_folder.h"
 #include "desktop/commands/theme_report.h"
 #include "desktop/commands/window_command.h"
 #include "desktop/disk/disk_path.h"
+#include "platform/ignoring_case.h"
 
 namespace morpho {
 
@@ -27,18 +29,63 @@ std::string Warnings(const frmThemeMorpho& window) {
     return warnings;
 }
 
-}  // namespace
-
-std::string Recolor(const RecolorRequest& request, std::string& warnings) {
-    const ExportFolder exportFolder(request.exportFolder);
-    Batch batch(request.web, request.theme);
+BatchWindow& TakeSteps(Batch& batch, const RecolorRequest& request) {
     BatchWindow& window = batch.OpenTheme(request.theme);
     for (const Step& step : request.steps)
         window.Take(step);
-    warnings = batch.Warnings() + Warnings(window.Window());
+    return window;
+}
+
+void DrawIfAsked(BatchWindow& window, const RecolorRequest& request) {
     if (!request.picture.empty()) DrawWindow(window.Window(), request.picture);
-    exportFolder.Fill(ToDiskPath(window.Window().WorkFolder()).value());
-    return request.json ? JsonText(RecolorReport(window.Window())) + "\n" : std::string();
+}
+
+std::string Printed(const nlohmann::ordered_json& report, const RecolorRequest& request) {
+    return request.json ? JsonText(report) + "\n" : std::string();
+}
+
+std::string Export(const RecolorRequest& request, std::string& warnings) {
+    const ExportFolder exportFolder(request.outcome.exportFolder);
+    Batch batch(request.web, request.theme);
+    BatchWindow& window = TakeSteps(batch, request);
+    const std::string source = ToDiskPath(window.Window().WorkFolder()).value();
+    warnings = batch.Warnings() + Warnings(window.Window());
+    if (request.dryRun) return exportFolder.WouldFill(source);
+    DrawIfAsked(window, request);
+    exportFolder.Fill(source);
+    return Printed(RecolorReport(window.Window()), request);
+}
+
+std::string Save(const RecolorRequest& request, const UserFolders& folders, std::string& warnings) {
+    Batch batch(request.web, folders);
+    BatchWindow& window = TakeSteps(batch, request);
+    warnings = batch.Warnings() + Warnings(window.Window());
+    DrawIfAsked(window, request);
+    nlohmann::ordered_json report = RecolorReport(window.Window());
+    const bool asNew = request.outcome.kind == Outcome::Kind::kSaveAs;
+    const SavedTheme saved = asNew ? window.SaveAs(request.outcome) : window.Save();
+    const bool applied = EqualIgnoringCase(batch.ThemeOfWeb(), saved.name);
+    report["saved"] = {{"name", saved.name},
+                       {"title", saved.title},
+                       {"web", !asNew || request.outcome.applyToWeb},
+                       {"applied", applied}};
+    for (const std::string& sentence : batch.Reports())
+        warnings += sentence + "\n";
+    return Printed(report, request);
+}
+
+}  // namespace
+
+std::string Recolor(const RecolorRequest& request, std::string& warnings) {
+    if (request.outcome.kind == Outcome::Kind::kExport) return Export(request, warnings);
+    const UserFolders folders = FindUserFolders(EnvironmentVariable);
+    if (!request.dryRun) return Save(request, folders, warnings);
+    DryRun rehearsal(request.web, folders);
+    RecolorRequest there = request;
+    there.web = rehearsal.Web();
+    there.picture.clear();
+    Save(there, rehearsal.Folders(), warnings);
+    return rehearsal.WouldWrite();
 }
 
 }  // namespace morpho

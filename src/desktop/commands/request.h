@@ -41,13 +41,29 @@ struct ListRequest {
     bool json = false;
 };
 
+// How a batch ends.
+struct Outcome {
+    enum class Kind { kExport, kSave, kSaveAs };
+    Kind kind = Kind::kExport;
+    std::filesystem::path exportFolder;  // kExport
+    std::string name;                    // kSaveAs; "auto": the one that the dialog suggests
+    std::optional<std::string> title;    // kSaveAs; nothing: the one that the dialog suggests
+    bool applyToWeb = false;             // kSaveAs
+};
+
 struct RecolorRequest {
     std::filesystem::path web;
     std::string theme;
     std::vector<Step> steps;
-    std::filesystem::path exportFolder;
+    Outcome outcome;
     std::filesystem::path picture;  // where to draw the window; empty: nowhere
     bool json = false;
+    bool dryRun = false;  // only tell what would be written
+};
+
+struct ApplyRequest {
+    std::filesystem::path web;
+    std::string theme;  // of the web, or the user's own
 };
 
 // The command line asks for help or the version: `text` is what it gets.
@@ -55,7 +71,7 @@ struct TextRequest {
     std::string text;
 };
 
-using Request = std::variant<TextRequest, ThemeRequest, ListRequest, RecolorRequest>;
+using Request = std::variant<TextRequest, ThemeRequest, ListRequest, RecolorRequest, ApplyRequest>;
 
 // A command line that cannot be understood (status 2), or a world that refuses what it asks for
 // (status 1); one sentence, UTF-8.

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <algorithm>
+#include <iostream>
 
 #include "desktop/host/desktop_platform.h"
 #include "desktop/qt/qt_toolkit.h"
@@ -9,6 +10,7 @@
 #include "platform/ignoring_case.h"
 #include "resources/embedded_resources.h"
 #include "resources/resource_ids.h"
+#include "shared/log.h"
 #include "theme_editor/frm_theme_morpho.h"
 
 namespace morpho {
@@ -21,6 +23,13 @@ struct QtArguments {
     char* values[2] = {name, nullptr};
     int count = 1;
 };
+
+// Qt's notes on the surroundings ("XDG_RUNTIME_DIR not set") mean nothing to who runs this program.
+void KeepQtQuiet() {
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
+        if (type == QtCriticalMsg || type == QtFatalMsg) std::cerr << text.toStdString() << "\n";
+    });
+}
 
 void RequireTheme(const OpenedWeb& web, const std::string& name) {
     const bool known = std::any_of(web.themes.begin(), web.themes.end(), [&](const Theme& theme) {
@@ -45,6 +54,7 @@ void SelectTheme(frmThemeMorpho& window, const std::string& name) {
 }  // namespace
 
 void ShowThemeWindow(const ThemeRequest& request) {
+    KeepQtQuiet();
     QtToolkit::Prepare();
     QtArguments arguments;
     const QApplication application(arguments.count, arguments.values);
@@ -53,17 +63,20 @@ void ShowThemeWindow(const ThemeRequest& request) {
     QtToolkit toolkit(pages, resources.Bytes(kIconResource, kApplicationIcon128));
     DesktopPlatform desktop(DesktopUse::kWindows, FindUserFolders(EnvironmentVariable), toolkit,
                             resources);
-    desktop.FrontPage().Open(std::filesystem::absolute(request.web).lexically_normal().string());
+    desktop.OpenForSaving(std::filesystem::absolute(request.web).lexically_normal().string());
     if (!request.theme.empty()) RequireTheme(*desktop.FrontPage().Opened(), request.theme);
     Component component;
     component.application = &desktop.FrontPage();
-    frmThemeMorpho window({desktop.Parts(), component});
+    const Program program{desktop.Parts(), component};
+    desktop.FrontPage().SetLog([&](std::string_view line) { WriteLog(program, line); });
+    frmThemeMorpho window(program);
     if (!request.theme.empty()) SelectTheme(window, request.theme);
     window.ShowModal();
 }
 
 void DrawWindow(Form& form, const std::filesystem::path& picture) {
     if (qgetenv("QT_QPA_PLATFORM").isEmpty()) qputenv("QT_QPA_PLATFORM", "offscreen");
+    KeepQtQuiet();
     QtToolkit::Prepare();
     QtArguments arguments;
     const QApplication application(arguments.count, arguments.values);

@@ -1,10 +1,12 @@
 #include "desktop/disk/whole_file.h"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <sys/stat.h>
 
 #include <atomic>
 #include <cerrno>
+#include <charconv>
 #include <cstdio>
 #include <memory>
 
@@ -28,10 +30,14 @@ std::size_t ReadSome(const Descriptor& file, char* into, std::size_t size,
     }
 }
 
+constexpr std::string_view kBesideStart = ".morpho-";
+constexpr std::string_view kBesideEnd = ".tmp";
+
 // A short name, so that it fits beside a file whose own name is as long as can be.
 std::string NameBeside() {
     static std::atomic<unsigned> serial = 0;
-    return ".morpho-" + std::to_string(::getpid()) + "-" + std::to_string(++serial) + ".tmp";
+    return std::string(kBesideStart) + std::to_string(::getpid()) + '-' + std::to_string(++serial) +
+           std::string(kBesideEnd);
 }
 
 }  // namespace
@@ -43,6 +49,20 @@ bool WriteAll(int number, std::string_view bytes) {
         if (count > 0) bytes.remove_prefix(static_cast<std::size_t>(count));
     }
     return true;
+}
+
+bool IsBesideName(std::string_view name) {
+    return name.size() > kBesideStart.size() + kBesideEnd.size() &&
+           name.starts_with(kBesideStart) && name.ends_with(kBesideEnd);
+}
+
+bool IsAbandonedBesideName(std::string_view name) {
+    if (!IsBesideName(name)) return false;
+    name.remove_prefix(kBesideStart.size());
+    pid_t program = 0;
+    const auto [stop, error] = std::from_chars(name.data(), name.data() + name.size(), program);
+    return error == std::errc() && *stop == '-' && program > 0 && ::kill(program, 0) != 0 &&
+           errno == ESRCH;
 }
 
 std::string ReadWhole(const Descriptor& file, const std::string& diskPath) {

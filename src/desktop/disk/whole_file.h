@@ -35,6 +35,11 @@ class WholeFile {
     Descriptor file_;
 };
 
+// Whether a file of this name is what a WholeFile is writing, or what one left whose program died.
+bool IsBesideName(std::string_view name);
+// The latter only.
+bool IsAbandonedBesideName(std::string_view name);
+
 // Everything in the open regular file, for reading small ones; `diskPath` is for the error.
 std::string ReadWhole(const Descriptor& file, const std::string& diskPath);
 

@@ -7,11 +7,13 @@
 #include "desktop/host/colorizer_adapter.h"
 #include "desktop/system/desktop_environment.h"
 #include "desktop/system/desktop_shell.h"
+#include "desktop/system/memory_registry.h"
 #include "desktop/system/private_folder.h"
 #include "desktop/system/system_clock.h"
 #include "desktop/system/user_folders.h"
 #include "desktop/text/windows_1252.h"
 #include "desktop/web/disk_application.h"
+#include "desktop/web/disk_explorer.h"
 #include "platform/platform.h"
 #include "platform/registry.h"
 
@@ -31,13 +33,20 @@ class DesktopPlatform {
                     const Resources& resources);
 
     Platform& Parts() { return platform_; }
+    // Opens a web (see DiskApplication::Open) whose themes can be saved: its themes are installed
+    // for all users, in a folder of the program's data that belongs to this web, and the user has
+    // a folder for own themes. What cannot be installed is among the web's skipped; the web is open
+    // nevertheless.
+    void OpenForSaving(const std::string& folder, const std::optional<std::string>& onlyTheme = {});
     // The host; it has no web open yet.
     DiskApplication& FrontPage() { return frontPage_; }
     PrivateFolder& WorkFolder() { return workFolder_; }
+    DiskAutomation& Automation() { return automation_; }
 
   private:
     PrivateFolder workFolder_;
-    std::unique_ptr<Registry> registry_;
+    UserFolders folders_;
+    std::unique_ptr<MemoryRegistry> registry_;
     DiskFileSystem files_;
     Windows1252 codePage_;
     DiskProfileFiles profileFiles_;
@@ -46,6 +55,7 @@ class DesktopPlatform {
     DesktopEnvironment environment_;
     ColorizerAdapterFactory colorizers_;
     DiskApplication frontPage_;
+    DiskAutomation automation_{frontPage_};
     Platform platform_;
 };
 

@@ -13,6 +13,9 @@ class MemoryRegistry : public Registry {
   public:
     explicit MemoryRegistry(RegistryData machine = {}, RegistryData user = {});
 
+    // What describes the machine from now on.
+    void DescribeMachine(RegistryData machine) { machine_ = std::move(machine); }
+
     std::int32_t OpenKey(RegHandle root, std::string_view path, RegHandle& key) override;
     std::int32_t CreateKey(RegHandle root, std::string_view path, RegHandle& key) override;
     std::int32_t CloseKey(RegHandle key) override;

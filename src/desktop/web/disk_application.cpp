@@ -2,6 +2,7 @@
 
 #include "desktop/disk/disk_path.h"
 #include "desktop/web/disk_web.h"
+#include "platform/run_time_error.h"
 
 namespace morpho {
 
@@ -14,13 +15,43 @@ class DiskLanguageSettings : public LanguageSettings {
     int LanguageId(LanguageUse) const override { return kEnglish; }
 };
 
+// Removes what programs that died while they saved left among the user's own themes.
+void CleanStore(const WebSession& web) {
+    try {
+        const DiskFolder store = DiskFolder::Open(web.stores.ofUser, true);
+        for (const DiskEntry& entry : store.Entries()) {
+            if (entry.kind == DiskKind::kFolder) RemoveAbandoned(web, store.Subfolder(entry.name));
+        }
+    } catch (const RunTimeError&) {
+        // There is no such folder yet, or it cannot be read; saving will tell.
+    }
+}
+
 }  // namespace
 
 DiskApplication::DiskApplication(const std::string& cacheFolder)
     : unpackFolder_(JoinDiskPath(cacheFolder, "FrontPageTempDir/mstheme")) {}
 
-void DiskApplication::Open(const std::string& folder, const std::optional<std::string>& onlyTheme) {
-    web_ = std::make_shared<const OpenedWeb>(OpenWebFolder(folder, unpackFolder_, onlyTheme));
+void DiskApplication::Open(const std::string& folder, const std::optional<std::string>& onlyTheme,
+                           const ThemeStores& stores) {
+    auto web = std::make_shared<WebSession>();
+    web->unpackFolder = unpackFolder_;
+    web->onlyTheme = onlyTheme;
+    web->stores = stores;
+    web->writer = writer_;
+    web->log = log_;
+    web->opened = OpenWebFolder(folder, {unpackFolder_, onlyTheme, stores.forWeb});
+    if (!stores.ofUser.empty()) CleanStore(*web);
+    web_ = std::move(web);
+}
+
+std::vector<std::string> DiskApplication::Reports() const {
+    return web_ ? web_->reports : std::vector<std::string>();
+}
+
+void DiskApplication::SetLog(std::function<void(std::string_view)> log) {
+    log_ = std::move(log);
+    if (web_) web_->log = log_;
 }
 
 std::unique_ptr<Web> DiskApplication::ActiveWeb() {

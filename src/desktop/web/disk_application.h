@@ -4,23 +4,33 @@
 #include <optional>
 #include <string>
 
-#include "desktop/web/opened_web.h"
+#include "desktop/web/web_session.h"
 
 namespace morpho {
 
-// A stand-in for release 6.0 of the host, whose web is a folder on disk. It never changes the web's
-// own files.
+// A stand-in for release 6.0 of the host, whose web is a folder on disk.
 class DiskApplication : public Application {
   public:
     // Themes are unpacked below `cacheFolder`, a path of the disk, into FrontPageTempDir/mstheme.
     explicit DiskApplication(const std::string& cacheFolder);
 
-    // Opens the web in `folder`, a path of the disk, in place of the one that was open; see
-    // OpenWebFolder for `onlyTheme`. Throws RunTimeError, and keeps what was open, when the folder
-    // cannot be read.
-    void Open(const std::string& folder, const std::optional<std::string>& onlyTheme = {});
+    // Opens the web in `folder`, a path of the disk, in place of the one that was open; with
+    // `onlyTheme` only that theme is made ready. With a store for the web its themes are installed
+    // there, which the saving of a theme asks for. Throws RunTimeError, and keeps what was open,
+    // when the folder cannot be read.
+    void Open(const std::string& folder, const std::optional<std::string>& onlyTheme = {},
+              const ThemeStores& stores = {});
     // Null when none is open.
-    const OpenedWeb* Opened() const { return web_.get(); }
+    const OpenedWeb* Opened() const { return web_ ? &web_->opened : nullptr; }
+    // The web that is open, for the host's other objects; null when none is.
+    const std::shared_ptr<WebSession>& Session() const { return web_; }
+    // What went wrong with single pages when a theme was last applied, a sentence each.
+    std::vector<std::string> Reports() const;
+
+    // Takes the host's own messages from now on: broken hyperlinks, pages that keep their theme.
+    void SetLog(std::function<void(std::string_view)> log);
+    // Makes the changes to webs opened from now on.
+    void SetWriter(std::shared_ptr<WebWriter> writer) { writer_ = std::move(writer); }
 
     std::string Version() const override { return "6.0"; }
     std::unique_ptr<Web> ActiveWeb() override;
@@ -28,7 +38,9 @@ class DiskApplication : public Application {
 
   private:
     std::string unpackFolder_;
-    std::shared_ptr<const OpenedWeb> web_;
+    std::shared_ptr<WebWriter> writer_ = std::make_shared<WebWriter>();
+    std::function<void(std::string_view)> log_;
+    std::shared_ptr<WebSession> web_;
 };
 
 }  // namespace morpho

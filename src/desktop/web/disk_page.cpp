@@ -75,10 +75,24 @@ std::unique_ptr<PageDocument> DiskPageWindow::Document() {
     return std::make_unique<DiskPageDocument>(page_);
 }
 
+std::string DiskPageWindow::ThemeProperties(int) const {
+    RequireOpen(*page_);
+    return {};
+}
+
+void DiskPageWindow::ApplyTheme(std::string_view) {
+    RequireOpen(*page_);
+    Refuse("A page without a name cannot take a theme.");
+}
+
 void DiskPageWindow::Close(bool forceSave) {
     RequireOpen(*page_);
     if (forceSave) Refuse("A page without a name cannot be saved.");
     page_->open = false;
+}
+
+std::unique_ptr<PageWindow> DiskWebWindow::PageWindowAt(int) {
+    Refuse("No such page is open.");
 }
 
 std::unique_ptr<PageWindow> DiskWebWindow::AddPageWindow() {

@@ -31,6 +31,10 @@ class DiskPageWindow : public PageWindow {
     explicit DiskPageWindow(std::shared_ptr<DiskPage> page) : page_(std::move(page)) {}
 
     std::unique_ptr<PageDocument> Document() override;
+    std::string Location() const override { return "new_page.htm"; }
+    // A blank page has no theme, and no file that could take one.
+    std::string ThemeProperties(int which) const override;
+    void ApplyTheme(std::string_view themeName) override;
     // A blank page has no file, so `forceSave` is refused.
     void Close(bool forceSave) override;
 
@@ -38,8 +42,12 @@ class DiskPageWindow : public PageWindow {
     std::shared_ptr<DiskPage> page_;
 };
 
+// This host shows no pages for editing: none is open but the blank ones that were asked for, and
+// these only their owners know.
 class DiskWebWindow : public WebWindow {
   public:
+    int PageWindowCount() const override { return 0; }
+    std::unique_ptr<PageWindow> PageWindowAt(int index) override;
     std::unique_ptr<PageWindow> AddPageWindow() override;
 };
 

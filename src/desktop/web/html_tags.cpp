@@ -29,11 +29,16 @@ bool IsLetter(char c) {
 
 }  // namespace
 
-std::optional<std::string> HtmlTag::Attribute(std::string_view wanted) const {
-    for (const auto& [attribute, value] : attributes) {
-        if (attribute == wanted) return value;
+const HtmlAttribute* HtmlTag::Find(std::string_view wanted) const {
+    for (const HtmlAttribute& attribute : attributes) {
+        if (attribute.name == wanted) return &attribute;
     }
-    return {};
+    return nullptr;
+}
+
+std::optional<std::string> HtmlTag::Attribute(std::string_view wanted) const {
+    const HtmlAttribute* found = Find(wanted);
+    return found ? std::optional(found->value) : std::nullopt;
 }
 
 std::optional<HtmlTag> HtmlTagReader::Next() {
@@ -85,24 +90,23 @@ void HtmlTagReader::ReadAttributes(HtmlTag& tag) {
         // A name may begin with "=", but not go on with it.
         const std::size_t start = position_++;
         PassTo(" \t\r\n\f/>=");
-        std::string name = Lowered(page_.substr(start, position_ - start));
+        HtmlAttribute attribute{Lowered(page_.substr(start, position_ - start)), {}};
         SkipBlanks();
-        std::string value;
         if (StartsWith("=")) {
             ++position_;
-            value = ReadValue();
+            ReadValue(attribute);
         }
-        tag.attributes.emplace_back(std::move(name), std::move(value));
+        tag.attributes.push_back(std::move(attribute));
     }
 }
 
-std::string HtmlTagReader::ReadValue() {
+void HtmlTagReader::ReadValue(HtmlAttribute& attribute) {
     SkipBlanks();
-    if (!StartsWith("\"") && !StartsWith("'")) return std::string(PassTo(" \t\r\n\f>"));
-    const char quote = page_[position_++];
-    std::string value(PassTo({&quote, 1}));
-    if (!AtEnd()) ++position_;
-    return value;
+    const bool quoted = StartsWith("\"") || StartsWith("'");
+    const std::string_view end = quoted ? page_.substr(position_++, 1) : " \t\r\n\f>";
+    attribute.valueBegin = position_;
+    attribute.value = PassTo(end);
+    if (quoted && !AtEnd()) ++position_;
 }
 
 // To the element's end tag, which is left to be read.

@@ -4,20 +4,27 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace morpho {
 
+struct HtmlAttribute {
+    std::string name;            // lower case
+    std::string value;           // as it stands in the page, without quotes
+    std::size_t valueBegin = 0;  // its place in the page; 0 for an attribute without value
+};
+
 // A tag of an HTML page with its place in it.
 struct HtmlTag {
     std::string name;  // lower case; an end tag's begins with "/"
-    std::vector<std::pair<std::string, std::string>> attributes;  // names in lower case
-    std::size_t begin = 0;                                        // of its "<"
-    std::size_t end = 0;                                          // behind its ">"
+    std::vector<HtmlAttribute> attributes;
+    std::size_t begin = 0;  // of its "<"
+    std::size_t end = 0;    // behind its ">"
     std::string_view text;  // content of a style, script or other element that holds only text
 
-    // The first value of this attribute; nothing when the tag does not have it.
+    // The first attribute of this name; null when the tag does not have it.
+    const HtmlAttribute* Find(std::string_view name) const;
+    // Its value.
     std::optional<std::string> Attribute(std::string_view name) const;
 };
 
@@ -36,7 +43,7 @@ class HtmlTagReader {
     void SkipComment();
     std::optional<HtmlTag> ReadTag();
     void ReadAttributes(HtmlTag& tag);
-    std::string ReadValue();
+    void ReadValue(HtmlAttribute& attribute);
     std::string_view ReadTextOf(const std::string& name);
 
     void SkipBlanks();

@@ -14,23 +14,13 @@
 #include "desktop/disk/profile_text.h"
 #include "desktop/disk/whole_file.h"
 #include "desktop/text/windows_1252.h"
+#include "desktop/web/installed_themes.h"
+#include "desktop/web/web_session.h"
 #include "platform/ignoring_case.h"
 
 namespace morpho {
 
 namespace {
-
-// Far more than a theme's picture takes; a longer file is there to fill the disk.
-constexpr off_t kMaxFileBytes = 64L * 1024 * 1024;
-
-std::string ReadThemeFile(const DiskFolder& folder, const std::string& name) {
-    const Descriptor file = folder.OpenFile(name);
-    struct stat status = {};
-    if (::fstat(file.Number(), &status) == 0 && status.st_size > kMaxFileBytes)
-        throw FileError(ErrorNumber::kPathFileAccess, folder.PathOf(name), "was left out",
-                        "it is too large for a theme's file");
-    return ReadWhole(file, folder.PathOf(name));
-}
 
 // The entry of this name among the folder's files.
 const DiskEntry* FindFile(const std::vector<DiskEntry>& entries, const std::string& name) {
@@ -43,7 +33,7 @@ const DiskEntry* FindFile(const std::vector<DiskEntry>& entries, const std::stri
 // The title that the theme's description gives it, or its name.
 std::string LabelOf(const DiskFolder& folder, const std::string& description,
                     const std::string& name) {
-    const auto title = ProfileText(ReadThemeFile(folder, description)).Value("info", "title");
+    const auto title = ProfileText(ReadWebFile(folder, description)).Value("info", "title");
     return title && !title->empty() ? TextOfUnknownCoding(*title) : name;
 }
 
@@ -57,21 +47,20 @@ void WriteUnpacked(const DiskFolder& folder, const std::string& name, const std:
 
 class WebOpener {
   public:
-    WebOpener(const std::string& folder, std::string unpackFolder,
-              const std::optional<std::string>& onlyTheme)
-        : web_(DiskFolder::Open(folder, true)),
-          unpackFolder_(std::move(unpackFolder)),
-          only_(onlyTheme) {
+    WebOpener(const std::string& folder, const UnpackOptions& options)
+        : web_(DiskFolder::Open(folder, true)), options_(options) {
         opened_.folder = folder;
+        if (!options.installFolder.empty()) installed_.emplace(options.installFolder);
     }
 
     OpenedWeb Open() {
         const std::vector<DiskEntry> entries = web_.Entries();
-        EmptyUnpackFolder();
+        if (!options_.keepUnpacked) EmptyUnpackFolder();
         for (const DiskEntry& entry : entries) {
             if (entry.kind == DiskKind::kFolder && EqualIgnoringCase(entry.name, "_themes"))
                 TakeThemes(entry.name);
         }
+        if (installed_ && !options_.onlyTheme) Readable([&] { return installed_->RemoveOthers(); });
         std::stable_sort(
             opened_.themes.begin(), opened_.themes.end(),
             [](const Theme& a, const Theme& b) { return Lowered(a.name) < Lowered(b.name); });
@@ -81,9 +70,9 @@ class WebOpener {
   private:
     void EmptyUnpackFolder() {
         std::error_code error;
-        std::filesystem::remove_all(unpackFolder_, error);
-        if (!error) std::filesystem::create_directories(unpackFolder_, error);
-        if (error) throw FileError(error.value(), unpackFolder_, "could not be emptied");
+        std::filesystem::remove_all(options_.unpackFolder, error);
+        if (!error) std::filesystem::create_directories(options_.unpackFolder, error);
+        if (error) throw FileError(error.value(), options_.unpackFolder, "could not be emptied");
     }
 
     // What `read` returns; nothing, with the reason kept, when it fails.
@@ -121,7 +110,7 @@ class WebOpener {
             const auto label =
                 Readable([&] { return LabelOf(*folder, description->name, theme.name); });
             if (label) theme.label = *label;
-            if (!only_ || EqualIgnoringCase(*only_, theme.name))
+            if (!options_.onlyTheme || EqualIgnoringCase(*options_.onlyTheme, theme.name))
                 Unpack(*folder, *entries, diskName);
         }
         opened_.themes.push_back(std::move(theme));
@@ -129,19 +118,28 @@ class WebOpener {
 
     void Unpack(const DiskFolder& theme, const std::vector<DiskEntry>& entries,
                 const std::string& diskName) {
-        const std::string path = JoinDiskPath(unpackFolder_, diskName);
-        if (::mkdir(path.c_str(), 0700) != 0) throw FileError(errno, path, "could not be created");
+        const std::string path = JoinDiskPath(options_.unpackFolder, diskName);
+        if (::mkdir(path.c_str(), 0700) != 0) {
+            if (errno == EEXIST && options_.keepUnpacked) return;
+            throw FileError(errno, path, "could not be created");
+        }
         const DiskFolder target = DiskFolder::Open(path, false);
+        std::vector<InstalledThemes::File> files;
         std::set<std::string> names;
         for (const DiskEntry& entry : entries) {
-            if (entry.kind != DiskKind::kFile) continue;
+            if (entry.kind != DiskKind::kFile || IsBesideName(entry.name)) continue;
             if (!names.insert(Lowered(entry.name)).second) {
                 Skip(theme.PathOf(entry.name), "another file has that name");
                 continue;
             }
-            const auto bytes = Readable([&] { return ReadThemeFile(theme, entry.name); });
-            if (bytes) WriteUnpacked(target, entry.name, *bytes);
+            auto bytes = Readable([&] { return ReadWebFile(theme, entry.name); });
+            if (!bytes) continue;
+            WriteUnpacked(target, entry.name, *bytes);
+            if (installed_) files.push_back({NameFromDisk(entry.name), std::move(*bytes)});
         }
+        // Where one cannot be installed, the others cannot either.
+        if (installed_ && !Readable([&] { return installed_->Install(diskName, files); }))
+            installed_.reset();
     }
 
     void Skip(const std::string& path, std::string_view reason) {
@@ -150,17 +148,16 @@ class WebOpener {
     }
 
     DiskFolder web_;
-    std::string unpackFolder_;
-    std::optional<std::string> only_;
+    UnpackOptions options_;
+    std::optional<InstalledThemes> installed_;
     std::set<std::string> names_;  // of the themes, in lower case
     OpenedWeb opened_;
 };
 
 }  // namespace
 
-OpenedWeb OpenWebFolder(const std::string& folder, const std::string& unpackFolder,
-                        const std::optional<std::string>& onlyTheme) {
-    return WebOpener(folder, unpackFolder, onlyTheme).Open();
+OpenedWeb OpenWebFolder(const std::string& folder, const UnpackOptions& options) {
+    return WebOpener(folder, options).Open();
 }
 
 }  // namespace morpho

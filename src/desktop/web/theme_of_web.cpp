@@ -8,6 +8,7 @@
 
 #include "desktop/text/windows_1252.h"
 #include "desktop/web/html_tags.h"
+#include "desktop/web/web_text.h"
 #include "platform/ignoring_case.h"
 #include "platform/run_time_error.h"
 
@@ -20,8 +21,8 @@ constexpr std::size_t kHeadBytes = 64UL * 1024;
 
 constexpr std::array<std::string_view, 4> kHomePages = {"index.htm", "index.html", "default.htm",
                                                         "default.html"};
-constexpr std::array<std::string_view, 5> kPageExtensions = {".htm", ".html", ".shtml", ".asp",
-                                                             ".php"};
+constexpr std::array<std::string_view, 6> kPageExtensions = {".htm", ".html", ".shtml",
+                                                             ".stm", ".asp",  ".php"};
 
 std::string_view Trimmed(std::string_view text) {
     constexpr std::string_view kBlanks = " \t\r\n";
@@ -30,19 +31,24 @@ std::string_view Trimmed(std::string_view text) {
     return text.substr(begin, text.find_last_not_of(kBlanks) - begin + 1);
 }
 
-PageTheme ParsedContent(std::string_view content) {
-    PageTheme theme;
+// The tag's content, which stands at `begin` in the page.
+ThemeMark ParsedContent(const std::string_view whole, std::size_t begin) {
+    ThemeMark mark;
+    std::string_view content = whole;
     const std::size_t comma = content.rfind(',');
     if (comma != content.npos && EqualIgnoringCase(Trimmed(content.substr(comma + 1)), "default")) {
-        theme.ofWeb = true;
+        mark.theme.ofWeb = true;
         content = content.substr(0, comma);
     }
     content = Trimmed(content);
     const std::size_t blank = content.rfind(' ');
     if (blank != content.npos && content.find_first_not_of("0123456789", blank + 1) == content.npos)
         content = Trimmed(content.substr(0, blank));
-    if (!EqualIgnoringCase(content, "none")) theme.name = TextOfUnknownCoding(content);
-    return theme;
+    mark.nameLength = content.size();
+    mark.nameBegin = content.empty() ? begin : begin + (content.data() - whole.data());
+    if (!EqualIgnoringCase(content, "none"))
+        mark.theme.name = DecodedReferences(TextOfUnknownCoding(content));
+    return mark;
 }
 
 // As much of the page as its head can be; what cannot be read has no theme.
@@ -60,27 +66,36 @@ std::string HeadOf(const DiskFolder& web, const std::string& name) {
 
 // The theme of the web, as far as this page takes it.
 std::optional<std::string> ThemeTaken(const DiskFolder& web, const std::string& name) {
-    const auto theme = ThemeOfPage(HeadOf(web, name));
+    const auto theme = ThemeOfPage(PageText(HeadOf(web, name)).Text());
     if (!theme || !theme->ofWeb) return {};
     return theme->name;
 }
 
 bool IsPage(const DiskEntry& entry) {
-    if (entry.kind != DiskKind::kFile) return false;
-    const std::string name = Lowered(entry.name);
-    return std::any_of(kPageExtensions.begin(), kPageExtensions.end(),
-                       [&](std::string_view extension) { return name.ends_with(extension); });
+    return entry.kind == DiskKind::kFile && IsPageName(entry.name);
 }
 
 }  // namespace
 
+bool IsPageName(std::string_view name) {
+    const std::string lower = Lowered(name);
+    return std::any_of(kPageExtensions.begin(), kPageExtensions.end(),
+                       [&](std::string_view extension) { return lower.ends_with(extension); });
+}
+
 std::optional<PageTheme> ThemeOfPage(std::string_view page) {
+    const auto mark = FindThemeMark(page);
+    return mark ? std::optional(mark->theme) : std::nullopt;
+}
+
+std::optional<ThemeMark> FindThemeMark(std::string_view page) {
     HtmlTagReader tags(page);
     while (const auto tag = tags.Next()) {
         if (tag->name == "body") return {};
         if (tag->name != "meta") continue;
         if (!EqualIgnoringCase(tag->Attribute("name").value_or(""), "Microsoft Theme")) continue;
-        return ParsedContent(tag->Attribute("content").value_or(""));
+        const HtmlAttribute* content = tag->Find("content");
+        return content ? ParsedContent(content->value, content->valueBegin) : ThemeMark();
     }
     return {};
 }

@@ -20,6 +20,17 @@ struct PageTheme {
 // Nothing when the page does not say. `page` may be its first part only.
 std::optional<PageTheme> ThemeOfPage(std::string_view page);
 
+// The same with the place of NAME in the page.
+struct ThemeMark {
+    PageTheme theme;
+    std::size_t nameBegin = 0;
+    std::size_t nameLength = 0;
+};
+std::optional<ThemeMark> FindThemeMark(std::string_view page);
+
+// Whether a file of this name is a page.
+bool IsPageName(std::string_view name);
+
 // The theme that the web as a whole uses, told from its pages: the home page's, else the one that
 // most of the pages in the web's root folder take. Empty when there is none.
 std::string ThemeOfWeb(const DiskFolder& web);

@@ -19,7 +19,7 @@ class OpenedWebTest : public testing::Test {
         folder_.Write("web/_themes/" + name + "/" + name + ".inf", description);
     }
     OpenedWeb Open(const std::optional<std::string>& only = {}) {
-        return OpenWebFolder(folder_ / "web", folder_ / "cache/mstheme", only);
+        return OpenWebFolder(folder_ / "web", {folder_ / "cache/mstheme", only});
     }
     void ExpectThemes(const OpenedWeb& web, const std::string& namesAndLabels) {
         std::string shown;
@@ -122,7 +122,7 @@ TEST_F(OpenedWebTest, AWebMustBeAFolderButNeedsNoThemes) {
     ExpectThemes(Open(), "");
     EXPECT_TRUE(folder_.Has("cache/mstheme"));
     for (const std::string name : {"none", "web/index.htm"}) {
-        EXPECT_THROW(OpenWebFolder(folder_ / name, folder_ / "cache/mstheme"), RunTimeError);
+        EXPECT_THROW(OpenWebFolder(folder_ / name, {folder_ / "cache/mstheme"}), RunTimeError);
     }
     EXPECT_TRUE(folder_.Has("cache/mstheme"));
 }

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+#include "desktop/web/web_session.h"
+
+namespace morpho {
+
+// Unpacks the theme of this name (see ApplyThemeToWeb) into the web's "_themes/<name>/" and returns
+// that folder's name (UTF-8). Each file is replaced as a whole, the theme's description comes last,
+// files that are no part of the package stay. Throws RunTimeError when that fails; then the folder
+// is as it was, as far as the disk allows.
+std::string PutThemeIntoWeb(const WebSession& web, const std::string& name);
+
+}  // namespace morpho

@@ -1,0 +1,160 @@
+#include "theme_editor/frm_save_as.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+
+#include "platform/file_system.h"
+#include "platform/platform.h"
+#include "platform/profile_files.h"
+#include "shared/mod_shared_code.h"
+#include "theme_editor/installed_theme.h"
+#include "theme_editor/product.h"
+
+namespace morpho {
+
+namespace {
+
+constexpr std::size_t kTitleChars = 1024;
+// More digits than these are not counted on; every number of so many fits the counter.
+constexpr std::size_t kMostDigits = 18;
+
+// The first text of the form <base without its digits><number> that the list does not hold. The
+// number counts on from the base's own, so that "Blends2" becomes "Blends3", and "Blends"
+// "Blends2".
+std::string UniqueSuggestion(std::string_view base, const ListBox& list) {
+    std::size_t digits = 0;
+    while (digits < std::min(base.size(), kMostDigits) && base[base.size() - 1 - digits] >= '0' &&
+           base[base.size() - 1 - digits] <= '9')
+        ++digits;
+    const std::string prefix(base.substr(0, base.size() - digits));
+    std::int64_t counter = 1;
+    std::from_chars(base.data() + prefix.size(), base.data() + base.size(), counter);
+    std::string candidate;
+    do {
+        candidate = prefix + std::to_string(++counter);
+    } while (list.FindExact(candidate) != kNoEntry);
+    return candidate;
+}
+
+}  // namespace
+
+frmSaveAs::frmSaveAs(const Program& program)
+    : LoggedForm(program, {"frmSaveAs", "Save Theme As...", {5700, 2595}}),
+      lblMessage(*this, {.name = "lblMessage", .place = {180, 150, 5340, 450}}),
+      lblFolder(*this,
+                {.name = "lblFolder", .place = {180, 757, 1200, 225}, .caption = "Theme &name:"}),
+      txtThemeName(*this, {.name = "txtThemeName", .place = {1440, 705, 4080, 315}}),
+      lbllongname(
+          *this,
+          {.name = "lbllongname", .place = {180, 1177, 1200, 225}, .caption = "Theme &title:"}),
+      txtThemeTitle(*this, {.name = "txtThemeTitle", .place = {1440, 1125, 4080, 315}}),
+      chkApplyToWeb(*this, {.name = "chkApplyToWeb",
+                            .place = {1440, 1545, 4080, 285},
+                            .caption = "&Apply to entire web"}),
+      cmdSave(
+          *this, {.name = "cmdSave", .place = {3135, 2055, 1140, 375}, .caption = "Save"},
+          [this] { cmdSave_Click(); }, ButtonRole::kDefault),
+      cmdCancel(
+          *this, {.name = "cmdCancel", .place = {4380, 2055, 1140, 375}, .caption = "Cancel"},
+          [this] { cmdCancel_Click(); }, ButtonRole::kCancel),
+      lstAppThemeName(*this, {.name = "lstAppThemeName", .place = {180, 1545, 540, 315}}),
+      lstAppThemeTitle(*this, {.name = "lstAppThemeTitle", .place = {780, 1545, 540, 315}}) {
+    lstAppThemeName.SetVisible(false);
+    lstAppThemeTitle.SetVisible(false);
+}
+
+bool frmSaveAs::RunModal(std::string_view prompt, std::string& name, std::string& title,
+                         bool& applyToWeb) {
+    prompt_ = prompt;
+    name_ = name;
+    title_ = title;
+    applyToWeb_ = applyToWeb;
+    saved_ = false;
+    ShowModal();
+    if (!saved_) return false;
+    name = name_;
+    title = title_;
+    applyToWeb = applyToWeb_;
+    return true;
+}
+
+void frmSaveAs::Form_Load() {
+    lblMessage.SetCaption(prompt_);
+    lstAppThemeName.Clear();
+    lstAppThemeTitle.Clear();
+    for (const bool shared : {true, false})
+        ListThemesOf(GetThemesFolder(TheProgram(), shared));
+    txtThemeTitle.SetText(UniqueSuggestion(title_, lstAppThemeTitle));
+    txtThemeName.SetText(UniqueSuggestion(name_, lstAppThemeName));
+    chkApplyToWeb.SetValue(applyToWeb_);
+}
+
+void frmSaveAs::TellError(std::string_view handler, const RunTimeError& error) {
+    if (handler != "Form_Load") return;
+    // Nothing would keep the person from taking the name of an installed theme.
+    cmdSave.SetEnabled(false);
+    MsgBox("The installed themes cannot be listed.\r\n" + std::string(error.what()),
+           kOkOnly | kCriticalIcon, kThemeProduct);
+}
+
+void frmSaveAs::ListThemesOf(const std::string& themesFolder) {
+    const FileSystem& files = ThePlatform().files;
+    // Until the first theme is saved, the user may have no folder of themes.
+    if (themesFolder.empty() || !FolderExists(files, themesFolder)) return;
+    const std::string folder = WithSeparator(themesFolder);
+    for (const FileEntry& entry : files.List(folder)) {
+        // A folder that has any other attribute is deliberately not listed.
+        if (entry.attributes != kFolderAttribute) continue;
+        if (IsHalfInstalled(files, folder, entry.name)) continue;
+        const std::string inf = folder + entry.name + "\\" + entry.name + ".inf";
+        std::string title =
+            ThePlatform().profileFiles.ReadString(inf, "info", "title", {}, kTitleChars);
+        TrimAtNul(title, false);
+        lstAppThemeName.AddItem(entry.name);
+        lstAppThemeTitle.AddItem(title);
+    }
+}
+
+void frmSaveAs::cmdSave_Click() {
+    if (!AcceptEntries()) return;
+    name_ = txtThemeName.Text();
+    title_ = txtThemeTitle.Text();
+    applyToWeb_ = chkApplyToWeb.Value();
+    saved_ = true;
+    Unload();
+}
+
+bool frmSaveAs::AcceptEntries() {
+    txtThemeName.SetText(Trim(txtThemeName.Text()));
+    const std::string& name = txtThemeName.Text();
+    if (name.empty()) return Refuse("You must specify a theme name.", txtThemeName);
+    // The system drops a full stop at a folder's end: the folder would be another theme's.
+    if (!IsValidFileName(name) || name.ends_with('.'))
+        return Refuse("Theme name must be a valid file name.", txtThemeName);
+    txtThemeTitle.SetText(Trim(txtThemeTitle.Text()));
+    const std::string& title = txtThemeTitle.Text();
+    if (title.empty()) return Refuse("You must specify a theme title.", txtThemeTitle);
+    if (lstAppThemeName.FindExact(name) != kNoEntry)
+        return Refuse(
+            "This theme name is being used by another theme. Please specify another name.",
+            txtThemeName);
+    if (lstAppThemeTitle.FindExact(title) != kNoEntry)
+        return Refuse(
+            "This theme title is being used by another theme. Please specify another title.",
+            txtThemeTitle);
+    return true;
+}
+
+bool frmSaveAs::Refuse(std::string_view reason, TextBox& box) {
+    MsgBox(reason, kOkOnly | kCriticalIcon, kThemeProduct);
+    box.SetFocus();
+    return false;
+}
+
+void frmSaveAs::cmdCancel_Click() {
+    saved_ = false;
+    Unload();
+}
+
+}  // namespace morpho
