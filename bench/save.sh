@@ -1,0 +1,34 @@
+#!/usr/bin/env bash
+# usage: bench/save.sh [ROUNDS]     (default 9)
+# What saving costs: a batch that recolours the sample web's theme of 38 elements and saves it as a new theme into the
+# web, beside one that recolours it and copies its files to a folder. Whole processes, in turn; prints medians and their ratio.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+rounds=${1:-9}
+cmake --preset release >/dev/null
+cmake --build build/release --target morpho >/dev/null
+morpho=$PWD/build/release/bin/morpho
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+export XDG_DATA_HOME=$work/data XDG_CACHE_HOME=$work/cache
+
+batch() { "$morpho" recolor "$work/web" --theme orrery --hue 60 --apply "$@"; }
+fresh() { rm -rf "$work/web" "$work/out"; cp -r samples/larkfell "$work/web"; }
+timed() { # NAME ARGUMENT...
+    local name=$1 start
+    shift
+    fresh
+    start=$EPOCHREALTIME
+    batch "$@"
+    echo $((${EPOCHREALTIME/./} - ${start/./})) >>"$work/$name"
+}
+median() { sort -n "$work/$1" | awk '{ value[NR] = $1 } END { printf "%.1f", value[int((NR + 1) / 2)] / 1000 }'; }
+
+fresh
+batch --save-as first >/dev/null # the first save of all also installs the web's themes for saving
+for ((round = 0; round < rounds; round++)); do
+    timed export --export "$work/out"
+    timed save --save-as "night$round" --title "Night $round" --apply-to-web
+done
+echo "recolour and copy: $(median export) ms; recolour and save as a new theme: $(median save) ms;" \
+    "ratio $(awk -v a="$(median save)" -v b="$(median export)" 'BEGIN { printf "%.2f", a / b }')"
