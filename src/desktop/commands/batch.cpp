@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <optional>
 
+#include "desktop/disk/disk_path.h"
 #include "platform/ignoring_case.h"
+#include "shared/mod_shared_code.h"
 
 namespace morpho {
 
@@ -42,6 +44,14 @@ BatchWindow& Batch::OpenTheme(const std::string& name) {
     if (!known)
         throw CommandError(CommandError::Status::kRefused,
                            "This web has no theme named \"" + name + "\".");
+    const std::string unpacked =
+        ToWindowsPath(desktop_.WorkFolder().Cache()) + "\\FrontPageTempDir\\mstheme\\" + name;
+    if (!FolderExists(desktop_.Parts().files, unpacked)) {
+        const std::vector<std::string>& reasons = desktop_.FrontPage().Opened()->skipped;
+        throw CommandError(
+            CommandError::Status::kRefused,
+            reasons.empty() ? "The theme \"" + name + "\" cannot be read." : reasons.front());
+    }
     if (!window_) window_ = std::make_unique<BatchWindow>(program_, toolkit_);
     window_->OpenTheme(name);
     return *window_;

@@ -10,17 +10,32 @@ namespace morpho {
 
 namespace {
 
+// Names come from files of others: what could move a terminal's cursor is left out.
+std::string Printable(const std::string& text) {
+    std::string printable = text;
+    std::replace_if(
+        printable.begin(), printable.end(), [](unsigned char c) { return c < ' ' || c == 0x7F; },
+        '?');
+    return printable;
+}
+
+// Characters of a UTF-8 text.
+std::size_t Length(const std::string& text) {
+    return static_cast<std::size_t>(std::count_if(
+        text.begin(), text.end(), [](unsigned char c) { return (c & 0xC0) != 0x80; }));
+}
+
 std::string Padded(const std::string& text, std::size_t width) {
-    return text + std::string(width > text.size() ? width - text.size() : 0, ' ');
+    return Printable(text) + std::string(width > Length(text) ? width - Length(text) : 0, ' ');
 }
 
 std::string ThemesText(const std::vector<Theme>& themes) {
     std::size_t width = 0;
     for (const Theme& theme : themes)
-        width = std::max(width, theme.name.size());
+        width = std::max(width, Length(theme.name));
     std::string text;
     for (const Theme& theme : themes)
-        text += Padded(theme.name, width) + "  " + theme.label + "\n";
+        text += Padded(theme.name, width) + "  " + Printable(theme.label) + "\n";
     return text;
 }
 
@@ -28,8 +43,8 @@ std::string ElementsText(const ElementList& elements) {
     std::size_t keyWidth = 0;
     std::size_t fileWidth = 0;
     for (int row = 0; row < elements.Count(); ++row) {
-        keyWidth = std::max(keyWidth, elements.Key(row).size());
-        fileWidth = std::max(fileWidth, elements.File(row).size());
+        keyWidth = std::max(keyWidth, Length(elements.Key(row)));
+        fileWidth = std::max(fileWidth, Length(elements.File(row)));
     }
     std::string text;
     for (int row = 0; row < elements.Count(); ++row) {
@@ -45,6 +60,7 @@ std::string List(const ListRequest& request, std::string& warnings) {
     Batch batch(request.web, request.theme);
     warnings = batch.Warnings();
     std::vector<Theme> themes = batch.Themes();
+    if (themes.empty()) warnings += "This web has no themes.\n";
     if (!request.theme.empty()) {
         std::erase_if(themes, [&](const Theme& theme) {
             return !EqualIgnoringCase(theme.name, request.theme);
