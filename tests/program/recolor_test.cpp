@@ -190,7 +190,8 @@ TEST(RecolorCommand, ABrokenPictureIsToldAndTheOthersGoOn) {
         home.Run("recolor WEB --theme orrery --hue 20 --apply --json --export OUT");
     EXPECT_EQ(outcome.status, 0) << outcome.err;
     EXPECT_NE(outcome.err.find(banner), std::string::npos) << outcome.err;
-    for (const json& element : json::parse(outcome.out)["elements"]) {
+    const json report = json::parse(outcome.out);
+    for (const json& element : report["elements"]) {
         EXPECT_EQ(element["recoloured"], element["file"] != banner) << element["key"];
     }
     EXPECT_EQ(ReadAll(home.Path("out") / banner), ReadAll(home.Theme("orrery") / banner));
