@@ -160,8 +160,9 @@ TEST(SaveAs, KilledInTheMiddleLeavesWholeFilesAndCanBeRepeated) {
         EXPECT_TRUE(again.status == 0 ||
                     again.err.find("being used by another theme") != std::string::npos)
             << again.err << " after " << milliseconds << " ms";
-        EXPECT_EQ(home.Run("recolor WEB --theme night --hue 5 --apply --save").status, 0)
-            << milliseconds << " ms";
+        // It may have died between the theme and the pages: then they are as they were, and can
+        // have it now.
+        EXPECT_EQ(home.Run("apply WEB --theme night").status, 0) << milliseconds << " ms";
         EXPECT_NE(ReadAll(home.Web() / "index.htm").find("_themes/night/"), std::string::npos);
         EXPECT_NE(ReadAll(home.Web() / "news.htm").find("_themes/night/"), std::string::npos);
     }
