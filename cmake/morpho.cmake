@@ -22,8 +22,7 @@ function(morpho_library name)
   endif()
 endfunction()
 
-# morpho_test(NAME [libraries under test...]): the folder's .cpp files as one test program. It runs with the variables in
-# MORPHO_TEST_ENVIRONMENT besides.
+# morpho_test(NAME [libraries under test...]): the folder's .cpp files as one test program.
 function(morpho_test name)
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
   if(NOT sources)
@@ -34,5 +33,5 @@ function(morpho_test name)
   target_compile_definitions(test_${name} PRIVATE MORPHO_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
   target_link_libraries(test_${name} PRIVATE morpho_options ${ARGN} GTest::gmock_main)
   gtest_discover_tests(test_${name} TEST_PREFIX "${name}." DISCOVERY_MODE PRE_TEST
-    PROPERTIES TIMEOUT 120 ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${MORPHO_TEST_ENVIRONMENT}")
+    PROPERTIES TIMEOUT 120 ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endfunction()

@@ -5,9 +5,10 @@
 #include "desktop/qt/qt_toolkit.h"
 
 #if defined(__SANITIZE_ADDRESS__)
-// Fonts, plugins and the browser keep what they allocated until the process ends.
+// Fonts, plugins and the browser keep what they allocated until the process ends, and the browser
+// deletes some of its own objects by a smaller type.
 extern "C" const char* __asan_default_options() {
-    return "detect_leaks=0";
+    return "detect_leaks=0:new_delete_type_mismatch=0";
 }
 #endif
 
