@@ -104,6 +104,9 @@ times_table() {
         rm -f times.all.*
         measure all this $floor
         row all "the same, brightness, saturation and hue"
+        rm -f times.hue.*
+        GLIBC_TUNABLES=glibc.malloc.hugetlb=1 measure hue this $floor $others
+        row hue 'the same, hue, in large pages'
     done <<<$'420|4:2:0\n444|4:4:4\nprogressive|4:2:0, progressive'
     measure theme this copy $(installed im gm)
     row theme '38 pictures of a theme, GIF and JPEG'

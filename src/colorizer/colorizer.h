@@ -49,6 +49,7 @@ inline constexpr std::size_t kMaxScans = 128;
 inline constexpr std::size_t kMaxSegments = 10'000;
 
 /// Recolours files. Cheap to create. Objects share nothing, so each thread may use one of its own.
+/// For a large JPEG a pass uses a second thread while it lasts.
 ///
 /// The picture written last is remembered, so that a chain of passes (original to work copy, then
 /// work copy to itself, again and again) neither reads nor decodes the work copy. It is read again
