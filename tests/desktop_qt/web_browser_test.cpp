@@ -87,6 +87,16 @@ TEST_F(WebBrowserTest, ARefreshShowsTheChangedPictureAtTheSamePlace) {
     });
 }
 
+TEST_F(WebBrowserTest, EscapeIsNotKeptByThePage) {
+    files_.PutFile("C:\\Work\\Theme.htm", "<p>page");
+    form_.page.Navigate("C:\\Work\\Theme.htm", 14);
+    Show(form_, [&](QWidget& window) {
+        Shown();
+        QTest::keyClick(window.findChild<QWebEngineView*>()->focusProxy(), Qt::Key_Escape);
+        EXPECT_FALSE(form_.IsLoaded());
+    });
+}
+
 TEST_F(WebBrowserTest, LinksAndScriptsDoNothing) {
     files_.PutFile("C:\\Work\\a.png", Picture(Qt::red));
     files_.PutFile("C:\\Work\\other.htm", "<body bgcolor=#0000ff>");

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QScreen>
+#include <QShortcut>
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
@@ -53,6 +54,9 @@ FormWindow::FormWindow(Form& form, QWidget* owner, PageServer& pages)
     setObjectName(morpho::ToQt(form.Name()));
     setWindowModality(Qt::ApplicationModal);
     setAttribute(Qt::WA_QuitOnClose, false);
+    // A page that has the focus would keep the key to itself.
+    auto* const escape = new QShortcut(Qt::Key_Escape, this);
+    connect(escape, &QShortcut::activated, this, &FormWindow::reject);
     PeerFactory factory({settling_, pages});
     factory.MakePeers(form, this);
     peers_ = factory.Take();
