@@ -4,9 +4,14 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <string>
 
 namespace morpho {
+
+// What stands below a folder, by relative path: a file's bytes, "-> " and the target of a link. A
+// folder's path ends with "/".
+using Tree = std::map<std::string, std::string>;
 
 // A folder of the disk for one test, removed with everything in it.
 class TemporaryFolder {
@@ -37,6 +42,30 @@ class TemporaryFolder {
     }
     bool Has(const std::string& name) const {
         return std::filesystem::exists(std::filesystem::symlink_status(path_ / name));
+    }
+    // Empty also where there is no such folder.
+    Tree Below(const std::string& folder) const {
+        Tree tree;
+        std::error_code none;
+        for (const auto& entry :
+             std::filesystem::recursive_directory_iterator(path_ / folder, none)) {
+            const std::string name = entry.path().lexically_relative(path_ / folder).string();
+            if (entry.is_symlink()) {
+                tree[name] = "-> " + std::filesystem::read_symlink(entry.path()).string();
+            } else if (entry.is_directory()) {
+                tree[name + "/"];
+            } else {
+                tree[name] = Read(folder + "/" + name);
+            }
+        }
+        return tree;
+    }
+    // The folder's own files, without those of folders inside.
+    Tree FilesIn(const std::string& folder) const {
+        Tree files = Below(folder);
+        std::erase_if(files,
+                      [](const auto& file) { return file.first.find('/') != file.first.npos; });
+        return files;
     }
 
   private:

@@ -1,24 +1,14 @@
 #include "program.h"
 
 #include <sys/wait.h>
-#include <unistd.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
-#include <stdexcept>
 
 namespace fs = std::filesystem;
 
 namespace {
-
-void ReplaceWord(std::string& text, const std::string& word, const std::string& value) {
-    for (auto at = text.find(word); at != std::string::npos;
-         at = text.find(word, at + value.size())) {
-        text.replace(at, word.size(), value);
-    }
-}
 
 // A table of 2^(n+1) colours where the lowest three bits of `flags` are n, if the highest is set.
 std::size_t TableBytes(unsigned char flags) {
@@ -27,61 +17,44 @@ std::size_t TableBytes(unsigned char flags) {
 
 }  // namespace
 
-Home::Home() {
-    std::string name = (fs::temp_directory_path() / "morpho-test-XXXXXX").string();
-    if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("no folder for the test");
-    folder_ = name;
-    fs::copy(fs::path(MORPHO_SOURCE_DIR) / "samples/larkfell", Web(), fs::copy_options::recursive);
+void ProgramTest::StartAfresh() const {
+    fs::remove_all(home_ / "web");
+    fs::remove_all(home_ / "data");
+    fs::copy(MORPHO_SOURCE_DIR "/samples/larkfell", home_ / "web", fs::copy_options::recursive);
 }
 
-Home::~Home() {
-    fs::remove_all(folder_);
-}
-
-Outcome Home::RunUnder(const std::string& command, const std::string& arguments) const {
-    std::string words = arguments;
-    ReplaceWord(words, "WEB", Web().string());
-    ReplaceWord(words, "OUT", Path("out").string());
+Outcome ProgramTest::Run(const std::string& arguments, const std::string& under) const {
     // Parallel runs in one home must not share these files.
     static std::atomic<int> runs = 0;
     const std::string number = std::to_string(++runs);
-    const fs::path out = Path("stdout" + number);
-    const fs::path err = Path("stderr" + number);
-    const std::string line = "XDG_DATA_HOME=" + Path("data").string() +
-                             " XDG_CACHE_HOME=" + Path("cache").string() + " " + command + " " +
-                             MORPHO_PROGRAM + " " + words + " >" + out.string() + " 2>" +
-                             err.string();
+    const std::string words =
+        Replaced(Replaced(arguments, "WEB", home_ / "web"), "OUT", home_ / "out");
+    const std::string line = "XDG_DATA_HOME=" + home_ / "data" +
+                             " XDG_CACHE_HOME=" + home_ / "cache" + " " + under +
+                             " " MORPHO_PROGRAM " " + words + " >" + (home_ / ("stdout" + number)) +
+                             " 2>" + (home_ / ("stderr" + number));
     const int status = std::system(line.c_str());
-    Outcome outcome{WIFEXITED(status) ? WEXITSTATUS(status) : -1, ReadAll(out), ReadAll(err)};
-    fs::remove(out);
-    fs::remove(err);
-    return outcome;
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, home_.Read("stdout" + number),
+            home_.Read("stderr" + number)};
 }
 
-std::string ReadAll(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
+nlohmann::json ProgramTest::Report(const std::string& arguments) const {
+    const Outcome outcome = Run(arguments + " --json");
+    EXPECT_EQ(outcome.status, 0) << arguments << "\n" << outcome.err;
+    return nlohmann::json::parse(outcome.out);
 }
 
-void WriteAll(const fs::path& file, const std::string& bytes) {
-    std::ofstream(file, std::ios::binary) << bytes;
-}
-
-Tree ReadTree(const fs::path& folder) {
-    Tree tree;
-    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-        const std::string name = entry.path().lexically_relative(folder).string();
-        tree[name] = entry.is_regular_file() ? ReadAll(entry.path()) : "";
-    }
-    return tree;
-}
-
-Tree ReadFiles(const fs::path& folder) {
-    Tree tree;
-    for (const auto& entry : fs::directory_iterator(folder)) {
-        if (entry.is_regular_file()) tree[entry.path().filename().string()] = ReadAll(entry.path());
-    }
-    return tree;
+void ProgramTest::ExpectRefusal(const std::string& arguments, int status,
+                                const std::string& says) const {
+    SCOPED_TRACE(arguments);
+    const morpho::Tree before = Web();
+    const Outcome outcome = Run(arguments);
+    EXPECT_EQ(outcome.status, status);
+    EXPECT_NE(outcome.err.find(says), std::string::npos) << outcome.err;
+    EXPECT_EQ(std::count(outcome.err.begin(), outcome.err.end(), '\n'), 1) << outcome.err;
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_FALSE(home_.Has("out"));
+    EXPECT_EQ(Web(), before);
 }
 
 std::string WithoutColours(std::string gif) {
@@ -103,4 +76,10 @@ std::string WithoutColours(std::string gif) {
         ++at;
     }
     return gif;
+}
+
+std::string Replaced(std::string text, const std::string& from, const std::string& to) {
+    for (auto at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
+        text.replace(at, from.size(), to);
+    return text;
 }

@@ -1,10 +1,11 @@
 #pragma once
 
-#include <filesystem>
-#include <map>
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
 #include <string>
 
-// Runs the program as a user would, in folders of its own.
+#include "desktop/temporary_folder.h"
 
 struct Outcome {
     int status = -1;  // the exit status; -1 when it died of a signal
@@ -12,37 +13,36 @@ struct Outcome {
     std::string err;
 };
 
-// Every file below a folder, by relative path, with its bytes.
-using Tree = std::map<std::string, std::string>;
+// Runs the program as a user would, in folders of its own: a copy of the sample web ("web"), and
+// the folders that the program keeps its data in ("data", "cache").
+class ProgramTest : public testing::Test {
+  protected:
+    ProgramTest() { StartAfresh(); }
+    // Whatever it did, it leaves none of its private folders.
+    ~ProgramTest() override { EXPECT_EQ(home_.Below("cache/morpho"), morpho::Tree()); }
 
-// A private home for one test: a copy of the sample web, and the folders that the program keeps its
-// data in.
-class Home {
-  public:
-    Home();
-    ~Home();
-    Home(const Home&) = delete;
-    Home& operator=(const Home&) = delete;
-
-    std::filesystem::path Path(const std::string& name) const { return folder_ / name; }
-    std::filesystem::path Web() const { return folder_ / "web"; }
-    std::filesystem::path Theme(const std::string& name) const { return Web() / "_themes" / name; }
+    // The web and the user's data as they were at first.
+    void StartAfresh() const;
     // `arguments` as a shell would take them; "WEB" stands for the copy of the sample web, "OUT"
-    // for a folder that is not there yet.
-    Outcome Run(const std::string& arguments) const { return RunUnder("", arguments); }
-    // The same as an argument of another command, such as one that kills it.
-    Outcome RunUnder(const std::string& command, const std::string& arguments) const;
+    // for a folder "out" that is not there yet. `under` is another command to run it, such as one
+    // that kills it.
+    Outcome Run(const std::string& arguments, const std::string& under = "") const;
+    // What a run that must succeed prints with --json.
+    nlohmann::json Report(const std::string& arguments) const;
+    // Such a run must end with this status and one sentence that has these words, and leave the web
+    // as it was.
+    void ExpectRefusal(const std::string& arguments, int status, const std::string& says) const;
 
-  private:
-    std::filesystem::path folder_;
+    morpho::Tree Web() const { return home_.Below("web"); }
+    // The theme's own files: no subfolders.
+    morpho::Tree Theme(const std::string& name) const {
+        return home_.FilesIn("web/_themes/" + name);
+    }
+
+    const morpho::TemporaryFolder home_;
 };
-
-std::string ReadAll(const std::filesystem::path& file);
-void WriteAll(const std::filesystem::path& file, const std::string& bytes);
-Tree ReadTree(const std::filesystem::path& folder);
-// The theme's own files: no subfolders.
-Tree ReadFiles(const std::filesystem::path& folder);
 
 // The file with all bytes of its colour tables set to 0, so that two GIFs compare equal when they
 // differ in colours only.
 std::string WithoutColours(std::string gif);
+std::string Replaced(std::string text, const std::string& from, const std::string& to);
