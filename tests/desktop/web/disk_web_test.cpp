@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include <map>
-
 #include "desktop/disk/disk_path.h"
 #include "desktop/temporary_folder.h"
 #include "desktop/web/disk_explorer.h"
@@ -14,23 +12,6 @@ namespace morpho {
 namespace {
 
 namespace fs = std::filesystem;
-
-using Tree = std::map<std::string, std::string>;
-
-// All files below a folder; links as what they lead to, marked.
-Tree TreeOf(const fs::path& folder) {
-    Tree tree;
-    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-        const std::string name = entry.path().lexically_relative(folder).string();
-        std::ifstream file(entry.path(), std::ios::binary);
-        if (entry.is_symlink()) {
-            tree[name] = "-> " + fs::read_symlink(entry.path()).string();
-        } else if (entry.is_regular_file()) {
-            tree[name] = {std::istreambuf_iterator<char>(file), {}};
-        }
-    }
-    return tree;
-}
 
 // Fails from a given change on, like a disk that has died.
 class DyingWriter : public WebWriter {
@@ -57,6 +38,9 @@ class DyingWriter : public WebWriter {
     int changesLeft_;
 };
 
+const AutomationValue kYes = 1;
+const AutomationValue kNo = 0;
+
 std::string Page(const std::string& theme, const std::string& rest = "") {
     return "<meta name='Microsoft Theme' content='" + theme + " 1011, default'>" + rest;
 }
@@ -68,43 +52,43 @@ class DiskWebTest : public testing::Test {
         folder_.Write("web/_themes/old/a.gif", "old a");
         folder_.Write("web/index.htm", Page("old", "<img src='_themes/old/a.gif'>"));
         folder_.Write("web/sub/page.html", Page("old", "<img src='../_themes/old/a.gif'>"));
+        application_.SetLog([this](std::string_view line) { log_.append(line).append("\n"); });
     }
     void Open() { application_.Open(folder_ / "web", {}, {folder_ / "user", folder_ / "all"}); }
     std::unique_ptr<Web> OpenedWeb() {
         if (!application_.Opened()) Open();
         return application_.ActiveWeb();
     }
-    void Install(const std::string& store, const std::string& name, const std::string& package) {
-        folder_.Write(store + "/" + name + "/" + name + ".inf", "[info]\ntitle=New\n");
-        folder_.Write(store + "/" + name + "/" + name + ".elm", package);
+    // The user gets a theme whose package is of these members.
+    void Install(const std::string& name, const std::string& members) {
+        folder_.Write("user/" + name + "/" + name + ".inf", "[info]\ntitle=New\n");
+        folder_.Write("user/" + name + "/" + name + ".elm", "h\n" + members);
     }
     void InstallNew() {
-        Install("user", "new",
-                "h\n2\na.gif,5\nm.css,19\n<==MS-Theme==>new a<==MS-Theme==>b{url(../old/a.gif)");
+        Install("new",
+                "2\na.gif,5\nm.css,19\n<==MS-Theme==>new a<==MS-Theme==>b{url(../old/a.gif)");
     }
-    std::string Apply(const std::string& theme) {
-        try {
-            OpenedWeb()->ApplyTheme(theme);
-            return "";
-        } catch (const RunTimeError& error) {
-            return error.what();
-        }
-    }
-    Tree WebTree() { return TreeOf(folder_.Path() / "web"); }
+    void Apply(const std::string& theme) { OpenedWeb()->ApplyTheme(theme); }
+    Tree WebTree() { return folder_.Below("web"); }
     AutomationValue Call(const std::string& method, std::vector<AutomationValue> arguments) {
         OpenedWeb();
         return DiskAutomation(application_)
             .CreateObject("FrontPage.Explorer.6.0")
             ->Call(method, arguments);
     }
-    void ExpectCall(const std::string& method, const std::vector<AutomationValue>& arguments,
-                    int result) {
-        EXPECT_EQ(Call(method, arguments), AutomationValue(result)) << method;
-    }
 
     TemporaryFolder folder_;
     DiskApplication application_{folder_ / "cache"};
+    std::string log_;
 };
+
+TEST_F(DiskWebTest, AWebThatCannotBeOpenedLeavesTheOneBefore) {
+    EXPECT_FALSE(application_.ActiveWeb());
+    EXPECT_EQ(OpenedWeb()->ThemeAt(0).label, "Old");
+    EXPECT_THROW(OpenedWeb()->ThemeAt(1), RunTimeError);
+    EXPECT_THROW(application_.Open(folder_ / "none"), RunTimeError);
+    EXPECT_EQ(OpenedWeb()->ThemeProperties(kThemeNameProperty), "old");
+}
 
 TEST_F(DiskWebTest, FoldersAreFoundWithoutRegardToCaseAndOnlyInsideTheWeb) {
     folder_.Write("outside/x", "");
@@ -114,7 +98,6 @@ TEST_F(DiskWebTest, FoldersAreFoundWithoutRegardToCaseAndOnlyInsideTheWeb) {
     EXPECT_EQ(web->LocateFolder(web->Url() + "/sub/")->Name(), "sub");
     for (const char* url : {"none", "..", "sub/../../outside", "link", "index.htm", "/etc\\.."})
         EXPECT_FALSE(web->LocateFolder(url)) << url;
-    EXPECT_FALSE(web->RootFolder()->FindFolder("link"));
 }
 
 TEST_F(DiskWebTest, FoldersAreCreatedFilledAndDeleted) {
@@ -126,8 +109,8 @@ TEST_F(DiskWebTest, FoldersAreCreatedFilledAndDeleted) {
     folder_.Write("x/A.GIF", "two");
     EXPECT_THROW(added->AddFile(source, false), RunTimeError);
     themes->FindFolder("OLD")->AddFile(source, true);
-    EXPECT_EQ(folder_.Read("web/_themes/old/a.gif"), "two");
-    EXPECT_FALSE(folder_.Has("web/_themes/old/A.GIF"));
+    EXPECT_EQ(folder_.FilesIn("web/_themes/old"),
+              (Tree{{"a.gif", "two"}, {"old.inf", "[info]\ntitle=Old\n"}}));
     for (const char* name : {"OLD", "", "..", "a/b", "."})
         EXPECT_THROW(themes->AddFolder(name), RunTimeError) << name;
     fs::create_directory_symlink(folder_ / "x", folder_ / "web/_themes/Neu ü/link");
@@ -139,10 +122,8 @@ TEST_F(DiskWebTest, FoldersAreCreatedFilledAndDeleted) {
 }
 
 TEST_F(DiskWebTest, PropertiesAreWhatTheWebsNotesSay) {
-    EXPECT_EQ(OpenedWeb()->Property("vti_showhiddenpages"), std::nullopt);
-    folder_.Write("web/_vti_pvt/service.cnf",
-                  "vti_encoding:SR|utf8-nl\r\nvti_showhiddenpages:IX|1\r\nvti_title:SR|A|B");
-    EXPECT_EQ(OpenedWeb()->Property("vti_showhiddenpages"), "1");
+    EXPECT_EQ(OpenedWeb()->Property("VTI_Title"), std::nullopt);
+    folder_.Write("web/_vti_pvt/service.cnf", "vti_encoding:SR|utf8-nl\r\nvti_title:SR|A|B\r\n");
     EXPECT_EQ(OpenedWeb()->Property("VTI_Title"), "A|B");
 }
 
@@ -150,19 +131,18 @@ TEST_F(DiskWebTest, TheExplorerAnswersForItsOwnReleaseOnly) {
     DiskAutomation automation(application_);
     for (const char* progId : {"FrontPage.Explorer.5.0", "FrontPage.Editor.6.0", ""})
         EXPECT_THROW(automation.CreateObject(progId), RunTimeError) << progId;
-    ExpectCall("vtiIsFolderInWeb", {"_themes/old"}, 1);
-    ExpectCall("vtiIsFolderInWeb", {"_themes/new"}, 0);
-    ExpectCall("vtiCreateFolder", {"_themes/new"}, 1);
-    ExpectCall("vtiCreateFolder", {"_themes/NEW"}, 0);
+    EXPECT_EQ(Call("vtiIsFolderInWeb", {"_themes/old"}), kYes);
+    EXPECT_EQ(Call("vtiIsFolderInWeb", {"_themes/new"}), kNo);
+    EXPECT_EQ(Call("vtiCreateFolder", {"_themes/new"}), kYes);
+    EXPECT_EQ(Call("vtiCreateFolder", {"_themes/NEW"}), kNo);
     EXPECT_TRUE(folder_.Has("web/_themes/new"));
     const std::string target = ToWindowsPath(folder_ / "copy");
-    ExpectCall("vtiGetDocToFile", {"_themes/old/A.gif", target}, 1);
+    EXPECT_EQ(Call("vtiGetDocToFile", {"_themes/old/A.gif", target}), kYes);
     EXPECT_EQ(folder_.Read("copy"), "old a");
-    ExpectCall("vtiGetDocToFile", {"../cache", target}, 0);
+    EXPECT_EQ(Call("vtiGetDocToFile", {"../cache", target}), kNo);
     EXPECT_THROW(Call("vtiCreateFolder", {"../new"}), RunTimeError);
     EXPECT_THROW(Call("vtiCreateFolder", {}), RunTimeError);
     EXPECT_THROW(Call("vtiOther", {}), RunTimeError);
-    EXPECT_EQ(Call("vtiBringToTop", {}), AutomationValue());
 }
 
 TEST_F(DiskWebTest, AThemeIsMadeFresh) {
@@ -174,11 +154,11 @@ TEST_F(DiskWebTest, AThemeIsMadeFresh) {
     const std::string unpacked = "cache/FrontPageTempDir/mstheme/";
     EXPECT_TRUE(folder_.Has(unpacked + "new/new.inf"));
     EXPECT_EQ(folder_.Read(unpacked + "old/a.gif"), "old a");
-    ExpectCall("vtiMakeThemeFresh", {"OLD", url, true, true}, 1);
+    EXPECT_EQ(Call("vtiMakeThemeFresh", {"OLD", url, true, true}), kYes);
     EXPECT_EQ(folder_.Read(unpacked + "old/a.gif"), "newer");
-    ExpectCall("vtiMakeThemeFresh", {"none", url, true, true}, 0);
-    ExpectCall("vtiMakeThemeFresh", {"..", url, true, true}, 0);
-    ExpectCall("vtiMakeThemeFresh", {"old", "http://other", true, true}, 0);
+    EXPECT_EQ(Call("vtiMakeThemeFresh", {"none", url, true, true}), kNo);
+    EXPECT_EQ(Call("vtiMakeThemeFresh", {"..", url, true, true}), kNo);
+    EXPECT_EQ(Call("vtiMakeThemeFresh", {"old", "http://other", true, true}), kNo);
 }
 
 TEST_F(DiskWebTest, AThemeIsAppliedToTheWebAndThePagesThatTakeIt) {
@@ -192,36 +172,36 @@ TEST_F(DiskWebTest, AThemeIsAppliedToTheWebAndThePagesThatTakeIt) {
     folder_.Write("outside/page.htm", Page("old"));
     fs::create_directory_symlink(folder_ / "outside", folder_ / "web/link");
     Tree expected = WebTree();
+    expected["_themes/new/"];
     expected["index.htm"] = Page("new", "<img src='_themes/new/a.gif'>");
     expected["sub/page.html"] = Page("new", "<img src='../_themes/new/a.gif'>");
     expected["_borders/top.htm"] = Page("new");
     expected["_themes/new/a.gif"] = "new a";
     expected["_themes/new/m.css"] = "b{url(a.gif)";
     expected["_themes/new/new.inf"] = "[info]\ntitle=New\n";
-    EXPECT_EQ(Apply("new"), "");
+    Apply("new");
     EXPECT_EQ(WebTree(), expected);
     EXPECT_EQ(folder_.Read("outside/page.htm"), Page("old"));
     EXPECT_EQ(OpenedWeb()->ThemeProperties(kThemeNameProperty), "new");
     EXPECT_EQ(OpenedWeb()->ThemeCount(), 2);
-    EXPECT_EQ(Apply("NEW"), "");
+    Apply("NEW");
     EXPECT_EQ(WebTree(), expected);
 }
 
 TEST_F(DiskWebTest, TheUsersOwnThemeComesFirstAndTheWebsOwnLast) {
-    const std::string before = "[info]\ntitle=Old\n";
-    EXPECT_EQ(Apply("old"), "");
+    Apply("old");
     EXPECT_EQ(folder_.Read("web/_themes/old/a.gif"), "old a");
     folder_.Write("web/_themes/old/a.gif", "spoilt");
-    EXPECT_EQ(Apply("old"), "") << "installed when the web was opened";
+    Apply("old");
     EXPECT_EQ(folder_.Read("web/_themes/old/a.gif"), "old a");
-    Install("user", "OLD", "h\n1\nA.GIF,3\n<==MS-Theme==>mine");
-    EXPECT_NE(Apply("old"), "") << "one byte too many";
-    Install("user", "OLD", "h\n1\nA.GIF,4\n<==MS-Theme==>mine");
-    EXPECT_EQ(Apply("old"), "");
+    Install("OLD", "1\nA.GIF,3\n<==MS-Theme==>mine");
+    EXPECT_THROW(Apply("old"), RunTimeError) << "one byte too many";
+    Install("OLD", "1\nA.GIF,4\n<==MS-Theme==>mine");
+    Apply("old");
     EXPECT_EQ(folder_.Read("web/_themes/old/a.gif"), "mine");
     EXPECT_FALSE(folder_.Has("web/_themes/old/A.GIF"));
     for (const char* name : {"none", "", "..", "../user/old"})
-        EXPECT_NE(Apply(name), "") << name;
+        EXPECT_THROW(Apply(name), RunTimeError) << name;
 }
 
 TEST_F(DiskWebTest, HostilePackagesChangeNothing) {
@@ -230,36 +210,20 @@ TEST_F(DiskWebTest, HostilePackagesChangeNothing) {
     folder_.Write("web/_themes/new/folder/x", "x");
     folder_.Write("target", "secret");
     fs::create_symlink(folder_ / "target", folder_ / "web/_themes/new/link.gif");
-    const Tree before = WebTree();
-    const std::string data = "<==MS-Theme==>x";
-    for (const std::string list : {"1\n../evil,1\n",
-                                   "1\n/evil,1\n",
-                                   "1\n..\\evil,1\n",
-                                   "1\nC:\\evil,1\n",
-                                   "1\nC:evil,1\n",
-                                   "1\n..,1\n",
-                                   "1\n.,1\n",
-                                   "1\n,1\n",
-                                   "2\na,1\nA,1\n",
-                                   "2\na,1\n",
-                                   "-1\n",
-                                   "99999\na,1\n",
-                                   "1\na,18446744073709551617\n",
-                                   "1\na,-1\n",
-                                   "1\na,2\n",
-                                   "1\na\n",
-                                   "0\n",
-                                   "",
-                                   "1\nfolder,1\n",
-                                   "1\nlink.gif,1\n",
-                                   "1\nnul.gif,1\n",
-                                   "1\na\x01,1\n"}) {
-        Install("user", "new", "h\n" + list + data);
-        EXPECT_NE(Apply("new"), "") << list;
-        EXPECT_EQ(WebTree(), before) << list;
-    }
-    EXPECT_EQ(folder_.Read("target"), "secret");
-    EXPECT_FALSE(folder_.Has("evil"));
+    const Tree before = folder_.Below("");
+    const auto expectRefused = [&](const std::string& members) {
+        Install("new", members + "<==MS-Theme==>x");
+        EXPECT_THROW(Apply("new"), RunTimeError) << members;
+        fs::remove_all(folder_ / "user");
+        EXPECT_EQ(folder_.Below(""), before) << members;
+    };
+    for (const std::string name : {"../evil", "/evil", "..\\evil", "C:\\evil", "C:evil", "..", ".",
+                                   "", "folder", "link.gif", "nul.gif", "a\x01"})
+        expectRefused("1\n" + name + ",1\n");
+    for (const std::string list :
+         {"2\na,1\nA,1\n", "2\na,1\n", "-1\n", "99999\na,1\n", "1\na,18446744073709551617\n",
+          "1\na,-1\n", "1\na,2\n", "1\na\n", "0\n", ""})
+        expectRefused(list);
 }
 
 TEST_F(DiskWebTest, WhatAKilledProgramLeftIsRemovedAndNeverTakenForATheme) {
@@ -270,7 +234,7 @@ TEST_F(DiskWebTest, WhatAKilledProgramLeftIsRemovedAndNeverTakenForATheme) {
         folder_.Write(folder + dead, "half");
         folder_.Write(folder + ours, "in use");
     }
-    EXPECT_EQ(Apply("new"), "");
+    Apply("new");
     for (const auto& [name, bytes] : WebTree())
         EXPECT_NE(bytes, "half") << name;
     EXPECT_EQ(folder_.Read("web/sub/" + ours), "in use");
@@ -281,49 +245,47 @@ TEST_F(DiskWebTest, LinkedThemeFoldersAreNotWritten) {
     InstallNew();
     fs::create_directory(folder_ / "elsewhere");
     fs::create_directory_symlink(folder_ / "elsewhere", folder_ / "web/_themes/new");
-    EXPECT_NE(Apply("new"), "");
+    EXPECT_THROW(Apply("new"), RunTimeError);
     EXPECT_TRUE(fs::is_empty(folder_ / "elsewhere"));
 }
 
 TEST_F(DiskWebTest, PagesThatCannotBeWrittenAreReportedAndTheRestGoesOn) {
     InstallNew();
     fs::permissions(folder_ / "web/index.htm", fs::perms(0444));
-    std::string log;
-    application_.SetLog([&log](std::string_view line) { log.append(line).append("\n"); });
-    EXPECT_EQ(Apply("new"), "");
+    Apply("new");
     EXPECT_EQ(folder_.Read("web/sub/page.html").substr(0, 44), Page("new").substr(0, 44));
     ASSERT_EQ(application_.Reports().size(), 1U);
     EXPECT_NE(application_.Reports()[0].find("\"index.htm\" keeps its theme"), std::string::npos);
-    EXPECT_EQ(log, application_.Reports()[0] + "\n");
+    EXPECT_EQ(log_, application_.Reports()[0] + "\n");
 }
 
 TEST_F(DiskWebTest, BrokenThemeAddressesAreLogged) {
     folder_.Write("web/sub/broken.htm",
                   "<img src='../_themes/OLD/b c.gif'><img src='none.gif'>"
                   "<img src='/_themes/old/A.GIF'><i src=_themes/x/y.gif z>");
-    std::string log;
-    application_.SetLog([&log](std::string_view line) { log.append(line).append("\n"); });
     OpenedWeb()->RecalcHyperlinks();
-    EXPECT_EQ(log,
+    EXPECT_EQ(log_,
               "Broken hyperlink in \"sub/broken.htm\": _themes/OLD/b c.gif\n"
               "Broken hyperlink in \"sub/broken.htm\": _themes/x/y.gif\n");
 }
 
 TEST_F(DiskWebTest, ADiskThatDiesLeavesWholeFilesAndTheNextTimeCompletesThem) {
     InstallNew();
+    fs::copy(folder_ / "web", folder_ / "before", fs::copy_options::recursive);
     const Tree before = WebTree();
-    Open();
-    ASSERT_EQ(Apply("new"), "");
+    Apply("new");
     const Tree after = WebTree();
     bool failed = true;
     for (int changes = 0; failed; ++changes) {
         fs::remove_all(folder_ / "web");
-        for (const auto& [name, bytes] : before)
-            folder_.Write("web/" + name, bytes);
+        fs::copy(folder_ / "before", folder_ / "web", fs::copy_options::recursive);
         const auto writer = std::make_shared<DyingWriter>(changes);
         application_.SetWriter(writer);
         Open();
-        Apply("new");
+        try {
+            Apply("new");
+        } catch (const RunTimeError&) {
+        }
         failed = writer->HasFailed();
         for (const auto& [name, bytes] : WebTree()) {
             const bool isBefore = before.contains(name) && bytes == before.at(name);
@@ -331,7 +293,7 @@ TEST_F(DiskWebTest, ADiskThatDiesLeavesWholeFilesAndTheNextTimeCompletesThem) {
         }
         application_.SetWriter(std::make_shared<WebWriter>());
         Open();
-        EXPECT_EQ(Apply("new"), "");
+        Apply("new");
         EXPECT_EQ(WebTree(), after) << changes;
         ASSERT_LT(changes, 20);
     }
