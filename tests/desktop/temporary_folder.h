@@ -55,7 +55,7 @@ class TemporaryFolder {
             } else if (entry.is_directory()) {
                 tree[name + "/"];
             } else {
-                tree[name] = Read(folder + "/" + name);
+                tree[name] = Read(entry.path());
             }
         }
         return tree;

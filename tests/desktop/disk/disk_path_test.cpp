@@ -8,25 +8,19 @@
 namespace morpho {
 namespace {
 
-TEST(DiskPath, MapsTheRootAndWhatIsBelow) {
-    const auto expectBothWays = [](const std::string& disk, const std::string& windows) {
-        EXPECT_EQ(ToWindowsPath(disk), windows);
-        EXPECT_EQ(ToDiskPath(windows), disk);
-    };
-    expectBothWays("/", "Z:\\");
-    expectBothWays("/home/ann/My Web", "Z:\\home\\ann\\My Web");
-    expectBothWays("/Größe", "Z:\\Größe");
+void ExpectDisk(const std::string& windows, const std::string& disk) {
+    EXPECT_EQ(ToDiskPath(windows), disk) << windows;
 }
 
-TEST(DiskPath, AcceptsOtherSpellings) {
-    const auto expectDisk = [](const char* windows, const char* disk) {
-        EXPECT_EQ(ToDiskPath(windows), disk) << windows;
-    };
-    expectDisk("z:\\a\\\\b\\", "/a/b");
-    expectDisk("Z:/a/b", "/a/b");
-    expectDisk("Z:", "/");
-    expectDisk("Z:\\a\\.\\b\\..\\c", "/a/c");
-    expectDisk("Z:\\..\\..\\a", "/a");
+TEST(DiskPath, MapsTheRootAndWhatIsBelow) {
+    for (const char* const disk : {"/", "/home/ann/My Web", "/Größe"})
+        ExpectDisk(ToWindowsPath(disk), disk);
+    EXPECT_EQ(ToWindowsPath("/home/Größe"), "Z:\\home\\Größe");
+    ExpectDisk("z:\\a\\\\b\\", "/a/b");
+    ExpectDisk("Z:/a/b", "/a/b");
+    ExpectDisk("Z:", "/");
+    ExpectDisk("Z:\\a\\.\\b\\..\\c", "/a/c");
+    ExpectDisk("Z:\\..\\..\\a", "/a");
 }
 
 TEST(DiskPath, KnowsNoOtherDrive) {
@@ -46,9 +40,8 @@ TEST(DiskPath, BringsBackNamesThatWindowsCouldNotHold) {
 
 TEST(DiskPath, FindsExistingNamesWithoutRegardToCase) {
     const TemporaryFolder folder;
-    folder.Write("Images/Blatt_Ö.GIF", "x");
-    folder.Write("Both/name", "x");
-    folder.Write("Both/NAME", "x");
+    for (const char* const name : {"Images/Blatt_Ö.GIF", "Both/name", "Both/NAME"})
+        folder.Write(name, "x");
     const auto expectFound = [&](const std::string& asked, const std::string& found) {
         EXPECT_EQ(FindOnDisk(ToWindowsPath(folder / asked)), folder / found);
     };
