@@ -13,64 +13,51 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(PrivateFolder, IsTheUsersAloneAndGoesWithTheProgram) {
-    const TemporaryFolder home;
-    const std::string root = home / "cache/morpho";
-    std::string path;
+class PrivateFolderTest : public testing::Test {
+  protected:
+    const TemporaryFolder home_;
+    const std::string root_ = home_ / "cache/morpho";
+};
+
+TEST_F(PrivateFolderTest, IsTheUsersAloneAndGoesWithTheProgram) {
     {
-        const PrivateFolder folder(root);
-        path = folder.Path();
-        EXPECT_EQ(fs::status(root).permissions(), fs::perms(0700));
-        EXPECT_EQ(fs::status(path).permissions(), fs::perms(0700));
+        const PrivateFolder folder(root_);
+        const PrivateFolder another(root_);
+        EXPECT_NE(folder.Path(), another.Path());
+        EXPECT_EQ(fs::status(root_).permissions(), fs::perms(0700));
+        EXPECT_EQ(fs::status(folder.Path()).permissions(), fs::perms(0700));
         EXPECT_TRUE(fs::is_directory(folder.Temporary()));
         EXPECT_TRUE(fs::is_directory(folder.Cache()));
     }
-    EXPECT_FALSE(fs::exists(path));
-    EXPECT_TRUE(fs::is_empty(root));
+    EXPECT_EQ(home_.Below("cache"), (Tree{{"morpho/", ""}}));
 }
 
-TEST(PrivateFolder, IsNeverSharedAndOutlivesOtherPrograms) {
-    const TemporaryFolder home;
-    const PrivateFolder first(home / "morpho");
-    const PrivateFolder second(home / "morpho");
-    EXPECT_NE(first.Path(), second.Path());
-    EXPECT_TRUE(fs::exists(first.Temporary()));
-}
-
-TEST(PrivateFolder, TheNextStartRemovesWhatADeadProgramLeft) {
-    const TemporaryFolder home;
-    const std::string root = home / "morpho";
+TEST_F(PrivateFolderTest, TheNextStartRemovesWhatADeadProgramLeft) {
     if (::fork() == 0) {
-        const auto* abandoned = new PrivateFolder(root);
-        home.Write("morpho/" + fs::path(abandoned->Path()).filename().string() + "/temp/x", "x");
+        std::ofstream((new PrivateFolder(root_))->Temporary() + "/x") << "x";
         ::_exit(0);
     }
     ::wait(nullptr);
-    home.Write("outside/kept", "x");
-    fs::create_directory_symlink(home / "outside", root + "/run-link");
-    home.Write("morpho/of-another-kind", "x");
-    EXPECT_FALSE(fs::is_empty(root));
+    home_.Write("outside/kept", "x");
+    fs::create_directory_symlink(home_ / "outside", root_ + "/run-link");
+    home_.Write("cache/morpho/of-another-kind", "x");
+    EXPECT_EQ(home_.Below("cache/morpho").size(), 6U);
 
-    const PrivateFolder folder(root);
-    std::size_t runs = 0;
-    for (const auto& entry : fs::directory_iterator(root))
-        runs += entry.path().filename().string().starts_with("run-") && !entry.is_symlink();
-    EXPECT_EQ(runs, 1U);
-    EXPECT_TRUE(home.Has("outside/kept"));
-    EXPECT_TRUE(home.Has("morpho/of-another-kind"));
+    { const PrivateFolder folder(root_); }
+    EXPECT_EQ(home_.Below("cache/morpho"),
+              (Tree{{"of-another-kind", "x"}, {"run-link", "-> " + home_ / "outside"}}));
+    EXPECT_TRUE(home_.Has("outside/kept"));
 }
 
-TEST(PrivateFolder, RefusesAPlaceThatIsNotTheUsersOwn) {
-    const TemporaryFolder home;
-    home.Write("elsewhere/x", "");
-    home.Write("file", "");
-    fs::create_directory_symlink(home / "elsewhere", home / "link");
+TEST_F(PrivateFolderTest, RefusesAPlaceThatIsNotTheUsersOwn) {
+    home_.Write("elsewhere/x", "");
+    home_.Write("file", "");
+    fs::create_directory_symlink(home_ / "elsewhere", home_ / "link");
     for (const std::string name : {"link", "file", "file/below"})
-        EXPECT_THROW(PrivateFolder(home / name), RunTimeError) << name;
+        EXPECT_THROW(PrivateFolder(home_ / name), RunTimeError) << name;
     if (::geteuid() != 0) return;
-    fs::create_directory(home / "foreign");
-    ASSERT_EQ(::chown((home / "foreign").c_str(), 1, 1), 0);
-    EXPECT_THROW(PrivateFolder(home / "foreign"), RunTimeError);
+    ASSERT_EQ(::chown((home_ / "elsewhere").c_str(), 1, 1), 0);
+    EXPECT_THROW(PrivateFolder(home_ / "elsewhere"), RunTimeError);
 }
 
 }  // namespace

