@@ -14,6 +14,10 @@ Bytes FromText(const std::string& text) {
     return Bytes(text.begin(), text.end());
 }
 
+std::string ToText(const Bytes& bytes) {
+    return std::string(bytes.begin(), bytes.end());
+}
+
 namespace {
 
 std::array<int, 4> Colour(const JpegKind& kind, unsigned x, unsigned y) {
@@ -86,27 +90,19 @@ Bytes MakeJpeg(const JpegKind& kind) {
     return Bytes(jpeg.data(), second) + kind.segments + Bytes(second, jpeg.data() + jpeg.size());
 }
 
-std::vector<Segment> Segments(const Bytes& jpeg) {
+std::vector<Segment> Segments(const Bytes& jpeg, int first, int last) {
+    const auto isMarker = [&](std::size_t at) {
+        return jpeg[at] == 0xFF && jpeg[at + 1] != 0 && (jpeg[at + 1] & 0xF8) != 0xD0;
+    };
     std::vector<Segment> segments;
     for (std::size_t at = 2; jpeg[at + 1] != 0xD9;) {
-        const std::size_t length = jpeg[at + 2] * 256u + jpeg[at + 3];
-        segments.push_back(
-            {jpeg[at + 1], Bytes(jpeg.data() + at + 4, jpeg.data() + at + 2 + length), at});
-        at += 2 + length;
-        const auto isMarker = [&] {
-            return jpeg[at] == 0xFF && jpeg[at + 1] != 0 && (jpeg[at + 1] & 0xF8) != 0xD0;
-        };
-        while (!isMarker())
+        const int marker = jpeg[at + 1];
+        const std::size_t start = at, length = jpeg[at + 2] * 256u + jpeg[at + 3];
+        if (marker >= first && marker <= last)
+            segments.push_back({marker, Bytes(&jpeg[at + 4], &jpeg[at + 2 + length]), start});
+        for (at += 2 + length; !isMarker(at);)
             ++at;
     }
-    return segments;
-}
-
-std::vector<Segment> Segments(const Bytes& jpeg, int first, int last) {
-    std::vector<Segment> segments = Segments(jpeg);
-    std::erase_if(segments, [&](const Segment& segment) {
-        return segment.marker < first || segment.marker > last;
-    });
     return segments;
 }
 
@@ -166,21 +162,19 @@ std::vector<std::int16_t> Coefficients(const Bytes& jpeg) {
 }
 
 Bytes MakeGif(std::vector<std::pair<std::size_t, std::size_t>>* tables) {
-    const auto table = [](int entries, int seed) {
-        Bytes colours;
-        for (int at = 0; at < 3 * entries; ++at)
-            colours.push_back(static_cast<std::uint8_t>(at * 37 + seed));
-        return colours;
+    Bytes gif = FromText("GIF89a") + Bytes{2, 0, 2, 0, 0x81, 1, 0};
+    const auto addTable = [&](std::size_t entries, unsigned seed) {
+        if (tables) tables->push_back({gif.size(), entries});
+        for (unsigned at = 0; at < 3 * entries; ++at)
+            gif.push_back(static_cast<std::uint8_t>(at * 37 + seed));
     };
     const Bytes pixels{2, 2, 0x4C, 0x01, 0};  // code size 2, one sub-block, end
-    Bytes gif = FromText("GIF89a") + Bytes{2, 0, 2, 0, 0x81, 1, 0};
-    if (tables) tables->push_back({gif.size(), 4});
-    gif =
-        gif + table(4, 11) + Bytes{0x21, 0xFF, 11} + FromText("NETSCAPE2.0") + Bytes{3, 1, 0, 0, 0};
+    addTable(4, 11);
+    gif = gif + Bytes{0x21, 0xFF, 11} + FromText("NETSCAPE2.0") + Bytes{3, 1, 0, 0, 0};
     gif = gif + Bytes{0x21, 0xFE, 5} + FromText(",\x3B!GI") + Bytes{0};
-    gif = gif + Bytes{0x21, 0xF9, 4, 1, 10, 0, 3, 0} + Bytes{0x2C, 0, 0, 0, 0, 2, 0, 2, 0, 0x40} +
-          pixels;
+    gif = gif + Bytes{0x21, 0xF9, 4, 1, 10, 0, 3, 0};
+    gif = gif + Bytes{0x2C, 0, 0, 0, 0, 2, 0, 2, 0, 0x40} + pixels;
     gif = gif + Bytes{0x2C, 0, 0, 0, 0, 2, 0, 2, 0, 0x82};
-    if (tables) tables->push_back({gif.size(), 8});
-    return gif + table(8, 200) + pixels + Bytes{0x3B};
+    addTable(8, 200);
+    return gif + pixels + Bytes{0x3B};
 }

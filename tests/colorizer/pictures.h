@@ -12,6 +12,7 @@ using Bytes = std::vector<std::uint8_t>;
 
 Bytes operator+(Bytes left, const Bytes& right);
 Bytes FromText(const std::string& text);
+std::string ToText(const Bytes& bytes);
 
 struct JpegKind {
     unsigned width = 45, height = 27;
@@ -36,9 +37,8 @@ struct Segment {
         return marker == other.marker && content == other.content;
     }
 };
-std::vector<Segment> Segments(const Bytes& jpeg);
 /// Those with markers from `first` to `last`.
-std::vector<Segment> Segments(const Bytes& jpeg, int first, int last);
+std::vector<Segment> Segments(const Bytes& jpeg, int first = 0, int last = 0xFF);
 Bytes MakeSegment(int marker, const Bytes& content);
 
 /// Samples of all components, interleaved, coarser ones repeated; YCbCr for colour pictures.
