@@ -61,13 +61,14 @@ QuantTable Steps(int first, int growth) {
     return table;
 }
 
+/// Half of the blocks are flat.
 void FillAtRandom(Block& block, std::mt19937& random, int mean, int amplitude) {
     const auto upTo = [&](int limit) {
         return static_cast<std::int16_t>(static_cast<int>(random() % (2u * limit + 1)) - limit);
     };
     std::memset(block, 0, sizeof block);
     block[0] = upTo(mean);
-    for (auto count = random() % 20; count > 0; --count)
+    for (auto count = random() % 2 * (random() % 20); count > 0; --count)
         block[random() % 63 + 1] = upTo(amplitude);
 }
 
@@ -76,31 +77,14 @@ TEST(LumaPath, GivesWhatTheSamplesGive) {
     const QuantTable source = Steps(3, 2), target = Steps(5, 1);
     for (const double factor : {0.0, 0.3, 0.99, 1.0, 1.01, 1.7, 4.0}) {
         const LumaPath path(factor, source, target);
-        for (int count = 0; count < 60; ++count) {
+        for (int count = 0; count < 200; ++count) {
             Block block;
-            FillAtRandom(block, random, 400, 1 + 2 * count);
+            FillAtRandom(block, random, 400, 1 + count);
             Values samples = SamplesOf(block, source);
             for (double& sample : samples)
                 sample = factor * (sample + 128) - 128;
             path.Recolor(&block, 1);
             ExpectBlock(block, samples, target);
-        }
-    }
-}
-
-TEST(LumaPath, ClampsFromTheEdgeOfTheRangeOn) {
-    // One wave on a mean of 0: at 127 it just fits in, a step further it does not. Brightness 1 is
-    // taken as it is by a file that keeps its tables, so here it shows what clamping alone does.
-    const QuantTable ones = Steps(1, 0);
-    const LumaPath path(1, ones, ones);
-    for (int k = 1; k < 64; ++k) {
-        const int most = static_cast<int>(127 / LargestSample(k / 8, k % 8));
-        for (const int value : {most, most + 1, -most, -most - 1, 3 * most}) {
-            Block block{}, before{};
-            block[k] = before[k] = static_cast<std::int16_t>(value);
-            path.Recolor(&block, 1);
-            EXPECT_TRUE(std::abs(value) != most || std::memcmp(block, before, sizeof block) == 0);
-            ExpectBlock(block, SamplesOf(before, ones), ones);
         }
     }
 }
@@ -112,10 +96,10 @@ TEST(ChromaPath, GivesWhatTheSamplesGive) {
          {Adjustment{1, 1, 36}, {1, 1, 90}, {2, 2, -100}, {0.5, 0.7, 180}, {1, 0, 0}}) {
         const ColourMap map(adjustment);
         const ChromaPath path(map, source, target);
-        for (int count = 0; count < 60; ++count) {
+        for (int count = 0; count < 200; ++count) {
             Block cb, cr;
-            FillAtRandom(cb, random, 250, 1 + 2 * count);
-            FillAtRandom(cr, random, 250, 1 + 2 * count);
+            FillAtRandom(cb, random, 250, 1 + count);
+            FillAtRandom(cr, random, 250, 1 + count);
             const Values oldB = SamplesOf(cb, source[0]), oldR = SamplesOf(cr, source[1]);
             Values newB, newR;
             for (int k = 0; k < 64; ++k) {

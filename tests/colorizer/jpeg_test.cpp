@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
+#include <complex>
 #include <random>
 
 #include "colorizer/colorizer.h"
@@ -16,34 +17,30 @@ constexpr int kDqt = 0xDB, kDri = 0xDD, kSof0 = 0xC0, kSof2 = 0xC2, kSos = 0xDA;
 constexpr std::array<std::pair<int, int>, 3> k444{{{1, 1}, {1, 1}, {1, 1}}};
 
 /// Every kind of file that is taken.
-const std::vector<std::pair<const char*, JpegKind>>& Kinds() {
-    static const Bytes kExif = MakeSegment(0xE1, FromText("Exif") + Bytes(300, 7));
-    static const Bytes kIcc = MakeSegment(0xE2, FromText("ICC_PROFILE") + Bytes(99, 3));
-    static const Bytes kComment = MakeSegment(0xFE, FromText("made by hand"));
-    static const std::vector<std::pair<const char*, JpegKind>> kKinds{
-        {"4:2:0", {}},
-        {"4:4:4", {.sampling = k444}},
-        {"4:2:2", {.sampling = {{{2, 1}, {1, 1}, {1, 1}}}}},
-        {"4:4:0", {.sampling = {{{1, 2}, {1, 1}, {1, 1}}}}},
-        {"4:1:1", {.sampling = {{{4, 1}, {1, 1}, {1, 1}}}}},
-        {"Cb and Cr unlike", {.sampling = {{{2, 2}, {2, 1}, {1, 2}}}}},
-        {"grey", {.colour = 'g'}},
-        {"RGB", {.colour = 'r'}},
-        {"RGB, progressive", {.colour = 'r', .isProgressive = true}},
-        {"progressive", {.isProgressive = true}},
-        {"progressive 4:4:4 with restarts",
-         {.sampling = k444, .isProgressive = true, .restartInterval = 2}},
-        {"restarts", {.restartInterval = 2}},
-        {"planes", {.isInterleaved = false}},
-        {"own Huffman tables", {.hasOwnHuffmanTables = true}},
-        {"16-bit steps", {.quality = 20, .stepFactor = 3}},
-        {"Exif, profile, comment", {.segments = kExif + kIcc + kComment + kIcc}},
-        {"one pixel", {.width = 1, .height = 1}},
-        {"whole blocks", {.width = 48, .height = 32}},
-        {"one pixel over", {.width = 33, .height = 17}},
-    };
-    return kKinds;
-}
+const std::vector<std::pair<const char*, JpegKind>> kKinds{
+    {"4:2:0", {}},
+    {"4:4:4", {.sampling = k444}},
+    {"4:2:2", {.sampling = {{{2, 1}, {1, 1}, {1, 1}}}}},
+    {"4:4:0", {.sampling = {{{1, 2}, {1, 1}, {1, 1}}}}},
+    {"4:1:1", {.sampling = {{{4, 1}, {1, 1}, {1, 1}}}}},
+    {"Cb and Cr unlike", {.sampling = {{{2, 2}, {2, 1}, {1, 2}}}}},
+    {"grey", {.colour = 'g'}},
+    {"RGB", {.colour = 'r'}},
+    {"RGB, progressive", {.colour = 'r', .isProgressive = true}},
+    {"progressive", {.isProgressive = true}},
+    {"progressive, restarts", {.sampling = k444, .isProgressive = true, .restartInterval = 2}},
+    {"restarts", {.restartInterval = 2}},
+    {"planes", {.isInterleaved = false}},
+    {"own Huffman tables", {.hasOwnHuffmanTables = true}},
+    {"16-bit steps", {.quality = 3}},
+    {"Exif, profile, comment",
+     {.segments = MakeSegment(0xE1, FromText("Exif") + Bytes(300, 7)) +
+                  MakeSegment(0xE2, FromText("ICC_PROFILE") + Bytes(99, 3)) +
+                  MakeSegment(0xFE, FromText("made by hand"))}},
+    {"one pixel", {.width = 1, .height = 1}},
+    {"whole blocks", {.width = 48, .height = 32}},
+    {"one pixel over", {.width = 33, .height = 17}},
+};
 
 std::vector<Segment> Frame(const Bytes& jpeg) {
     return Segments(jpeg, kSof0, kSof2);
@@ -56,7 +53,7 @@ void ExpectSegmentsKept(const Bytes& after, const Bytes& before) {
 }
 
 TEST(Jpeg, KeepsAllButTheCoefficientsAndTablesOfAnotherQuality) {
-    for (const auto& [name, kind] : Kinds()) {
+    for (const auto& [name, kind] : kKinds) {
         SCOPED_TRACE(name);
         const Bytes before = MakeJpeg(kind) + FromText("trailing bytes");
         const Bytes after = Recolored(before, {0.9, 1.2, 50});
@@ -67,7 +64,6 @@ TEST(Jpeg, KeepsAllButTheCoefficientsAndTablesOfAnotherQuality) {
 
         JpegKind asked = kind;
         asked.quality = 60;
-        asked.stepFactor = 1;
         const Bytes withQuality = Recolored(before, {}, 60);
         ExpectSegmentsKept(withQuality, before);
         EXPECT_EQ(Segments(withQuality, kDqt, kDqt), Segments(MakeJpeg(asked), kDqt, kDqt));
@@ -83,14 +79,12 @@ std::array<double, 3> Exact(std::array<double, 3> colour, const Adjustment& adju
         cb = (blue - y) / 1.772 + 128;
         cr = (red - y) / 1.402 + 128;
     }
-    const double angle = adjustment.hueDegrees * std::acos(-1.0) / 180;
-    const double strength = adjustment.brightness * adjustment.saturation, oldCb = cb - 128,
-                 oldCr = cr - 128;
+    const std::complex<double> chroma = std::polar(adjustment.brightness * adjustment.saturation,
+                                                   adjustment.hueDegrees * std::acos(-1.0) / 180) *
+                                        std::complex(cb - 128, cr - 128);
     y = std::clamp(adjustment.brightness * y, 0.0, 255.0);
-    cb = std::clamp(strength * (std::cos(angle) * oldCb - std::sin(angle) * oldCr), -128.0, 127.0) +
-         128;
-    cr = std::clamp(strength * (std::sin(angle) * oldCb + std::cos(angle) * oldCr), -128.0, 127.0) +
-         128;
+    cb = std::clamp(chroma.real(), -128.0, 127.0) + 128;
+    cr = std::clamp(chroma.imag(), -128.0, 127.0) + 128;
     if (kind != 'r') return colour;
     const double red = y + 1.402 * (cr - 128), blue = y + 1.772 * (cb - 128);
     return {red, (y - 0.299 * red - 0.114 * blue) / 0.587, blue};
@@ -105,42 +99,32 @@ double MeanError(const Bytes& before, const Bytes& after, const Adjustment& adju
         std::array<double, 3> colour{128, 128, 128};
         std::copy_n(old.data() + at, channels, colour.begin());
         const auto exact = Exact(colour, adjustment, kind);
-        for (std::size_t c = 0; c < channels; ++c) {
+        for (std::size_t c = 0; c < channels; ++c)
             sum += std::abs(recolored[at + c] - std::clamp(exact[c], 0.0, 255.0));
-        }
     }
     return sum / static_cast<double>(old.size());
 }
 
 TEST(Jpeg, HasTheColoursOfTheFormula) {
-    for (auto [name, kind] : Kinds()) {
-        if (kind.stepFactor > 1) continue;
+    const Adjustment adjustments[] = {{1, 1, 77}, {0.6, 1, 0}, {1, 1.7, 0}, {1.5, 2, -130},
+                                      {1, 0, 0},  {4, 4, 180}, {0, 1, 20},  {0.3, 4, 90}};
+    for (auto [name, kind] : kKinds) {
         kind.quality = 100;
         const Bytes before = MakeJpeg(kind);
         const bool isUnlike = kind.sampling[1] != kind.sampling[2];
-        for (const Adjustment& adjustment : {Adjustment{1, 1, 77},
-                                             {0.6, 1, 0},
-                                             {1, 1.7, 0},
-                                             {1.5, 2, -130},
-                                             {1, 0, 0},
-                                             {4, 4, 180},
-                                             {0, 1, 20},
-                                             {0.3, 4, 90}}) {
+        for (const Adjustment& adjustment : adjustments) {
             const Bytes after = Recolored(before, adjustment);
             EXPECT_LT(MeanError(before, after, adjustment, kind.colour), isUnlike ? 3 : 0.8)
-                << name << " " << adjustment.brightness << " " << adjustment.saturation << " "
-                << adjustment.hueDegrees;
+                << name << ", adjustment " << &adjustment - adjustments;
         }
     }
 }
 
 TEST(Jpeg, MayGrow) {
+    JpegKind kind{.width = 400, .height = 300, .quality = 30, .grain = 160};
     for (const bool isProgressive : {false, true}) {
-        const Bytes before = MakeJpeg({.width = 400,
-                                       .height = 300,
-                                       .quality = 30,
-                                       .isProgressive = isProgressive,
-                                       .grain = 160});
+        kind.isProgressive = isProgressive;
+        const Bytes before = MakeJpeg(kind);
         const Bytes after = Recolored(before + Bytes(9000, 'x'), {}, 100);
         ASSERT_GT(after.size(), 9000 + 3 * before.size() / 2);
         EXPECT_LT(MeanError(before, after, {}, 'y'), 0.5);
@@ -211,14 +195,11 @@ Bytes AfterPasses(Bytes jpeg, int passes, const Adjustment& adjustment) {
 }
 
 TEST(Jpeg, ComesBackAfterWholeTurns) {
+    JpegKind kind{.width = 200, .height = 150, .quality = 80, .grain = 60};
     for (const bool isProgressive : {false, true}) {
-        const Bytes jpeg = MakeJpeg({.width = 200,
-                                     .height = 150,
-                                     .quality = 80,
-                                     .isProgressive = isProgressive,
-                                     .grain = 60});
+        kind.isProgressive = isProgressive;
+        const Bytes jpeg = MakeJpeg(kind);
         EXPECT_EQ(Coefficients(AfterPasses(jpeg, 4, {1, 1, 90})), Coefficients(jpeg));
-        EXPECT_EQ(Coefficients(AfterPasses(jpeg, 2, {1, 1, 180})), Coefficients(jpeg));
         EXPECT_EQ(Coefficients(AfterPasses(jpeg, 2, {1, 1, -540})), Coefficients(jpeg));
         EXPECT_LT(MeanError(jpeg, AfterPasses(jpeg, 10, {1, 1, 36}), {}, 'y'), 2.5);
     }
@@ -226,13 +207,12 @@ TEST(Jpeg, ComesBackAfterWholeTurns) {
 
 TEST(Jpeg, DamagedAnywhereIsRefusedOrStaysReadable) {
     std::mt19937 random(3);
-    for (const auto& [name, kind] : Kinds()) {
+    for (const auto& [name, kind] : kKinds) {
         const Bytes jpeg = MakeJpeg(kind);
         for (int count = 0; count < 100; ++count) {
             Bytes damaged = jpeg;
-            for (unsigned flips = 1 + count % 3; flips > 0; --flips) {
+            for (int flips = 1 + count % 3; flips > 0; --flips)
                 damaged[random() % jpeg.size()] = static_cast<std::uint8_t>(random());
-            }
             try {
                 const Bytes after = Recolored(damaged, {1.5, 2, 50});
                 EXPECT_NO_THROW(Recolored(after, {1, 1, 50})) << name << " " << count;

@@ -22,29 +22,10 @@ namespace {
 
 std::array<int, 4> Colour(const JpegKind& kind, unsigned x, unsigned y) {
     const int edge = x > kind.width / 2 ? 90 : 0;
-    const int across = static_cast<int>(x * 120 / kind.width),
-              down = static_cast<int>(y * 120 / kind.height);
+    const int across = static_cast<int>(x * 120 / kind.width);
+    const int down = static_cast<int>(y * 120 / kind.height);
     const int grain = kind.grain ? static_cast<int>((x * 7919 ^ y * 104729) % kind.grain) : 0;
     return {40 + across + edge - grain, 60 + down, 220 - across - edge / 2, 30};
-}
-
-void SetScans(jpeg_compress_struct& info, const JpegKind& kind) {
-    static const jpeg_scan_info kPlanes[] = {
-        {1, {0}, 0, 63, 0, 0}, {1, {1}, 0, 63, 0, 0}, {1, {2}, 0, 63, 0, 0}};
-    if (kind.isProgressive) jpeg_simple_progression(&info);
-    if (!kind.isInterleaved) info.scan_info = kPlanes, info.num_scans = 3;
-}
-
-void SetComponents(jpeg_compress_struct& info, const JpegKind& kind) {
-    for (int index = 0; index < info.num_components && kind.colour == 'y'; ++index) {
-        info.comp_info[index].h_samp_factor = kind.sampling[index].first;
-        info.comp_info[index].v_samp_factor = kind.sampling[index].second;
-    }
-    for (JQUANT_TBL* table : info.quant_tbl_ptrs) {
-        for (int k = 0; table && k < 64; ++k) {
-            table->quantval[k] = static_cast<UINT16>(table->quantval[k] * kind.stepFactor);
-        }
-    }
 }
 
 }  // namespace
@@ -66,8 +47,14 @@ Bytes MakeJpeg(const JpegKind& kind) {
     jpeg_set_defaults(&info);
     if (kind.colour == 'r') jpeg_set_colorspace(&info, JCS_RGB);
     jpeg_set_quality(&info, kind.quality, FALSE);
-    SetComponents(info, kind);
-    SetScans(info, kind);
+    for (int index = 0; index < info.num_components && kind.colour == 'y'; ++index) {
+        info.comp_info[index].h_samp_factor = kind.sampling[index].first;
+        info.comp_info[index].v_samp_factor = kind.sampling[index].second;
+    }
+    if (kind.isProgressive) jpeg_simple_progression(&info);
+    const jpeg_scan_info planes[] = {
+        {1, {0}, 0, 63, 0, 0}, {1, {1}, 0, 63, 0, 0}, {1, {2}, 0, 63, 0, 0}};
+    if (!kind.isInterleaved) info.scan_info = planes, info.num_scans = 3;
     info.restart_interval = kind.restartInterval;
     info.arith_code = kind.isArithmetic;
     info.optimize_coding = kind.hasOwnHuffmanTables;

@@ -22,9 +22,8 @@ struct JpegKind {
     bool isProgressive = false, isArithmetic = false, hasOwnHuffmanTables = false,
          isInterleaved = true;
     unsigned restartInterval = 0;
-    unsigned stepFactor = 1;  ///< for the quantisation steps
-    unsigned grain = 0;       ///< levels of noise
-    Bytes segments{};         ///< after the file's first segment
+    unsigned grain = 0;  ///< levels of noise
+    Bytes segments{};    ///< after the file's first segment
 };
 Bytes MakeJpeg(const JpegKind& kind);
 

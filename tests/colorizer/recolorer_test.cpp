@@ -26,14 +26,12 @@ class RecolorerTest : public testing::Test {
 };
 
 TEST_F(RecolorerTest, ChainGivesTheSameFilesAsSinglePasses) {
-    const JpegKind kinds[] = {{},
-                              {.isProgressive = true},
-                              {.hasOwnHuffmanTables = true},
-                              {.colour = 'r'},
-                              {.width = 700, .height = 600, .grain = 30}};
-    std::vector<Bytes> originals{MakeGif()};
-    for (const JpegKind& kind : kinds)
-        originals.push_back(MakeJpeg(kind));
+    const Bytes originals[] = {MakeGif(),
+                               MakeJpeg({}),
+                               MakeJpeg({.isProgressive = true}),
+                               MakeJpeg({.hasOwnHuffmanTables = true}),
+                               MakeJpeg({.colour = 'r'}),
+                               MakeJpeg({.width = 700, .height = 600, .grain = 30})};
     for (const Bytes& original : originals) {
         Write(original_, original);
         Bytes expected = original;
