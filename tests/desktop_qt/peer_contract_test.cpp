@@ -83,13 +83,6 @@ INSTANTIATE_TEST_SUITE_P(Every, PeerContract, testing::ValuesIn(kKinds), [](cons
     return test.param.widget + std::to_string(test.index);
 });
 
-TEST_P(PeerContract, ShowsTheWholeStateAtOnceWithoutAnEvent) {
-    Assign(form_);
-    form_.events.clear();
-    OnScreen::Show(form_, [&](QWidget& window) { EXPECT_EQ(Shown(window), kind_.assigned); });
-    EXPECT_EQ(form_.events, (Events{"Form_Load", "Form_Resize", "Form_Paint"}));
-}
-
 TEST_P(PeerContract, FollowsTheModelWithoutAnEventOfItsOwn) {
     HeadlessToolkit none;
     Gallery twin(none);
