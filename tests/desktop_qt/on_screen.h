@@ -42,15 +42,17 @@ class OnScreen : public testing::Test {
     QtToolkit toolkit_{files_, {}};
 
   private:
+    void Run(Form& form) {
+        const auto script = scripts_.find(form.Name());
+        for (QWidget* const window : QApplication::topLevelWidgets()) {
+            if (window->objectName().toStdString() != form.Name()) continue;
+            if (script != scripts_.end()) script->second(*window);
+        }
+        form.Hide();
+    }
+
     void SetUp() override {
-        toolkit_.WhenFormStands([this](Form& form) {
-            const auto script = scripts_.find(form.Name());
-            for (QWidget* const window : QApplication::topLevelWidgets()) {
-                if (script != scripts_.end() && window->objectName().toStdString() == form.Name())
-                    script->second(*window);
-            }
-            form.Hide();
-        });
+        toolkit_.WhenFormStands([this](Form& form) { Run(form); });
     }
 
     std::map<std::string, std::function<void(QWidget&)>> scripts_;

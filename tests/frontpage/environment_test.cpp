@@ -6,112 +6,87 @@
 #include "support/fake_platform.h"
 
 namespace morpho::test {
-
 namespace {
 
 class EnvironmentTest : public ::testing::Test {
   protected:
     void Register(const std::string& major) {
-        registry_.PutString(kClassesRoot, "FrontPage.Explorer." + major + ".0\\CLSID", "", "{FP}");
-        registry_.PutString(kClassesRoot, "CLSID\\{FP}\\LocalServer32", "",
-                            "C:\\Office\\frontpg.exe /automation");
+        registry_.Put(kClassesRoot, "FrontPage.Explorer." + major + ".0\\CLSID", "", "{FP}");
+        PutServer("C:\\Office\\frontpg.exe /automation");
+    }
+    void PutServer(const char* server) {
+        registry_.Put(kClassesRoot, "CLSID\\{FP}\\LocalServer32", "", server);
     }
     void PutFolders() {
-        registry_.PutString(kLocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion",
-                            "CommonFilesDir", "C:\\Common");
+        registry_.Put(kLocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion",
+                      "CommonFilesDir", "C:\\Common");
         PutShellFolder("AppData", "C:\\Ann");
-        for (const char* office : {"9.0", "10.0", "11.0"}) {
-            registry_.PutString(
-                kCurrentUser,
-                std::string("Software\\Microsoft\\Office\\") + office + "\\Common\\General",
-                "Themes", std::string("Themes of ") + office);
-        }
+        for (const char* office : {"9.0", "10.0", "11.0"})
+            PutUserThemes(office, std::string("Themes of ") + office);
     }
     void PutShellFolder(const char* name, const char* folder) {
-        registry_.PutString(kCurrentUser, kShellFolders, name, folder);
+        registry_.Put(kCurrentUser, std::string(kShellFolders), name, folder);
     }
-    std::string Folder(const char* version, FrontPageFolder kind, bool shared) {
-        return GetFrontPageFolder(world_.platform, version, kind, "1033", shared);
+    void PutUserThemes(const std::string& office, const std::string& folder) {
+        registry_.Put(kCurrentUser, "Software\\Microsoft\\Office\\" + office + "\\Common\\General",
+                      "Themes", folder);
+    }
+    void ExpectFolders(const char* version, FrontPageFolder kind, const std::string& shared,
+                       const std::string& user) {
+        for (const bool isShared : {true, false}) {
+            EXPECT_EQ(GetFrontPageFolder(world_.platform, version, kind, "1033", isShared),
+                      isShared ? shared : user)
+                << version;
+        }
     }
 
     FakePlatform world_;
     FakeRegistry& registry_ = world_.registry;
 };
 
-constexpr FrontPageFolder kAllKinds[] = {FrontPageFolder::kProgram, FrontPageFolder::kBots,
-                                         FrontPageFolder::kThemes, FrontPageFolder::kWebTemplates,
-                                         FrontPageFolder::kPageTemplates};
-
-}  // namespace
+using enum FrontPageFolder;
 
 TEST_F(EnvironmentTest, KnowsTheFoldersOfEveryRelease) {
     for (const char* major : {"4", "5", "6", "7"})
         Register(major);
     PutFolders();
-    const struct {
-        const char* version;
-        FrontPageFolder kind;
-        const char* shared;
-        const char* user;
-    } cases[] = {
-        {"4.0", kAllKinds[0], "C:\\Office\\", "C:\\Office\\"},
-        {"6.0", kAllKinds[1], "C:\\Office\\Bots", "C:\\Office\\Bots"},
-        {"7.0", kAllKinds[1], "C:\\Office\\Bots", "C:\\Office\\Bots"},
-        {"4.0", kAllKinds[2], "C:\\Common\\Microsoft Shared\\Themes",
-         "C:\\Ann\\Microsoft\\Themes of 9.0"},
-        {"5.0.2627", kAllKinds[2], "C:\\Common\\Microsoft Shared\\Themes",
-         "C:\\Ann\\Microsoft\\Themes of 10.0"},
-        {"6", kAllKinds[2], "C:\\Common\\Microsoft Shared\\Themes11",
-         "C:\\Ann\\Microsoft\\Themes of 11.0"},
-        {"4.0", kAllKinds[3], "C:\\Office\\Templates\\1033\\Webs",
-         "C:\\Ann\\Microsoft\\FrontPage\\Webs"},
-        {"6.0", kAllKinds[3], "C:\\Office\\Templates\\1033\\Webs11",
-         "C:\\Ann\\Microsoft\\FrontPage\\Webs"},
-        {"5.0", kAllKinds[4], "C:\\Office\\Templates\\1033\\Pages",
-         "C:\\Ann\\Microsoft\\FrontPage\\Pages"},
-        {"6.0", kAllKinds[4], "C:\\Office\\Templates\\1033\\Pages11",
-         "C:\\Ann\\Microsoft\\FrontPage\\Pages"},
-        {"7.0", kAllKinds[2], "", ""},
-        {"7.0", kAllKinds[3], "", ""},
-        {"7.0", kAllKinds[4], "", ""},
-        {"6.0", static_cast<FrontPageFolder>(5), "", ""},
-    };
-    for (const auto& one : cases) {
-        EXPECT_EQ(Folder(one.version, one.kind, true), one.shared) << one.version;
-        EXPECT_EQ(Folder(one.version, one.kind, false), one.user) << one.version;
-    }
-}
-
-TEST_F(EnvironmentTest, HasNoFolderAtAllWhenFrontPageIsNotRegistered) {
-    PutFolders();
-    Register("5");
-    for (const FrontPageFolder kind : kAllKinds) {
-        EXPECT_EQ(Folder("6.0", kind, true), "");
-        EXPECT_EQ(Folder("6.0", kind, false), "");
-    }
+    const std::string themes = "C:\\Common\\Microsoft Shared\\Themes";
+    const std::string templates = "C:\\Office\\Templates\\1033\\";
+    const std::string user = "C:\\Ann\\Microsoft\\";
+    ExpectFolders("4.0", kProgram, "C:\\Office\\", "C:\\Office\\");
+    ExpectFolders("7.0", kBots, "C:\\Office\\Bots", "C:\\Office\\Bots");
+    ExpectFolders("4.0", kThemes, themes, user + "Themes of 9.0");
+    ExpectFolders("5.0.2627", kThemes, themes, user + "Themes of 10.0");
+    ExpectFolders("6", kThemes, themes + "11", user + "Themes of 11.0");
+    ExpectFolders("4.0", kWebTemplates, templates + "Webs", user + "FrontPage\\Webs");
+    ExpectFolders("6.0", kWebTemplates, templates + "Webs11", user + "FrontPage\\Webs");
+    ExpectFolders("5.0", kPageTemplates, templates + "Pages", user + "FrontPage\\Pages");
+    ExpectFolders("6.0", kPageTemplates, templates + "Pages11", user + "FrontPage\\Pages");
+    for (const FrontPageFolder kind : {kThemes, kWebTemplates, kPageTemplates})
+        ExpectFolders("7.0", kind, "", "");
+    ExpectFolders("6.0", static_cast<FrontPageFolder>(5), "", "");
+    for (const FrontPageFolder kind : {kProgram, kBots, kThemes, kWebTemplates, kPageTemplates})
+        ExpectFolders("8.0", kind, "", "");  // not registered
 }
 
 TEST_F(EnvironmentTest, HasNoThemesFolderWhenTheRegistryDoesNotNameIt) {
     Register("6");
-    EXPECT_EQ(Folder("6.0", FrontPageFolder::kThemes, true), "");
-    EXPECT_EQ(Folder("6.0", FrontPageFolder::kThemes, false), "");
+    ExpectFolders("6.0", kThemes, "", "");
     PutShellFolder("AppData", "C:\\Ann");
-    EXPECT_EQ(Folder("6.0", FrontPageFolder::kThemes, false), "");
-    registry_.PutString(kCurrentUser, "Software\\Microsoft\\Office\\11.0\\Common\\General",
-                        "Themes", "");
-    EXPECT_EQ(Folder("6.0", FrontPageFolder::kThemes, false), "");
+    ExpectFolders("6.0", kThemes, "", "");
+    PutUserThemes("11.0", "");
+    ExpectFolders("6.0", kThemes, "", "");
 }
 
 TEST_F(EnvironmentTest, TheProgramFolderEndsAtTheLastSeparatorOfTheServer) {
-    const auto folderOf = [&](const char* server) {
-        registry_.PutString(kClassesRoot, "CLSID\\{FP}\\LocalServer32", "", server);
-        return GetFrontPageProgramFolder(world_.platform, "6.0");
-    };
     Register("6");
-    EXPECT_EQ(folderOf("C:\\FP\\bin\\fp.exe"), "C:\\FP\\bin\\");
-    EXPECT_EQ(folderOf("C:\\FP\\fp.exe -x C:\\y"), "C:\\FP\\fp.exe -x C:\\");
-    EXPECT_EQ(folderOf("fp.exe"), "fp.exe");
-    EXPECT_EQ(folderOf(""), "");
+    const auto expectFolder = [&](const char* server, const char* folder) {
+        PutServer(server);
+        ExpectFolders("6.0", kProgram, folder, folder);
+    };
+    expectFolder("C:\\FP\\fp.exe -x C:\\y", "C:\\FP\\fp.exe -x C:\\");
+    expectFolder("fp.exe", "fp.exe");
+    expectFolder("", "");
 }
 
 TEST_F(EnvironmentTest, LooksForTheTemporaryFolderInTurn) {
@@ -125,14 +100,10 @@ TEST_F(EnvironmentTest, LooksForTheTemporaryFolderInTurn) {
     EXPECT_EQ(GetTempPath(world_.platform), "C:\\three\\");
     PutShellFolder("desktop", "");
     EXPECT_EQ(GetTempPath(world_.platform), "C:\\Program Files\\Morpho\\");
-}
-
-TEST_F(EnvironmentTest, OnlyRelease6HasACacheOfItsOwn) {
-    EXPECT_EQ(GetCachePath(world_.platform, "6.0"), "");
+    // Only release 6 has a cache of its own.
     PutShellFolder("Cache", "C:\\Cache");
     EXPECT_EQ(GetCachePath(world_.platform, "6.0"), "C:\\Cache");
-    EXPECT_EQ(GetCachePath(world_.platform, "5.0"), "C:\\Temp\\");
-    EXPECT_EQ(GetCachePath(world_.platform, "6"), "C:\\Temp\\");
+    EXPECT_EQ(GetCachePath(world_.platform, "6"), "C:\\Program Files\\Morpho\\");
 }
 
 TEST_F(EnvironmentTest, DescribesTheOperatingSystem) {
@@ -152,18 +123,15 @@ TEST_F(EnvironmentTest, DescribesFrontPageAndThisComponent) {
     world_.application.languages = {{LanguageUse::kExecutionMode, 1},
                                     {LanguageUse::kUserInterface, 2},
                                     {LanguageUse::kPreviousUserInterface, 3},
-                                    {LanguageUse::kInstall, 4},
-                                    {LanguageUse::kHelp, 5}};
+                                    {LanguageUse::kInstall, 4}};
     EXPECT_EQ(GetFrontPageInfo(world_.program),
               "FP ver: 5.0.2627 Lang(exe,UI,UIPrev,Inst): 1,2,3,4");
-    EXPECT_EQ(GetVersionText(world_.platform, true), "1.04.17 ");
-    EXPECT_EQ(GetVersionText(world_.platform, false), "1.04");
-    world_.environment.version = {"Morpho", 2, 11, 0, "beta"};
-    EXPECT_EQ(GetVersionText(world_.platform, true), "2.11.0 beta");
-    EXPECT_EQ(EditorProgId("5.0.2627"), "FrontPage.Editor.5.0.2627");
-
     world_.component.application = nullptr;
     EXPECT_THROW(GetFrontPageInfo(world_.program), RunTimeError);
+    world_.environment.version = {"Morpho", 2, 1, 0, "beta"};
+    EXPECT_EQ(GetVersionText(world_.platform, true), "2.01.0 beta");
+    EXPECT_EQ(GetVersionText(world_.platform, false), "2.01");
 }
 
+}  // namespace
 }  // namespace morpho::test

@@ -34,11 +34,9 @@ class FakeApplication : public Application {
                                          {LanguageUse::kUserInterface, 1033},
                                          {LanguageUse::kPreviousUserInterface, 0},
                                          {LanguageUse::kInstall, 1033}};
-    bool refusesPages = false;  // opening a page throws kAutomation
-    // What was done with pages, in order: "AddPageWindow", "Insert AfterBegin", "Close", "Close
-    // saved".
-    std::vector<std::string> pageCalls;
-    int openPages = 0;
+    bool refusesPages = false;  // opening a blank page throws kAutomation
+    int openedPages = 0;        // blank ones, ever
+    int openPages = 0;          // and not closed yet
     // What was done with the web, in order: "AddFolder _themes/a", "AddFile _themes/a/b.gif",
     // "Delete _themes/a", "ApplyTheme a", "ApplyTheme a to index.htm", "Refresh",
     // "RecalcHyperlinks".

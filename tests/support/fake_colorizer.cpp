@@ -1,6 +1,5 @@
 #include "support/fake_colorizer.h"
 
-#include <algorithm>
 #include <optional>
 #include <sstream>
 
@@ -61,13 +60,6 @@ class FakeColorizer : public Colorizer {
 };
 
 }  // namespace
-
-int FakeColorizerFactory::Count(std::string_view call) const {
-    const std::string start = std::string(call) + ' ';
-    return static_cast<int>(std::count_if(calls.begin(), calls.end(), [&](const std::string& one) {
-        return one == call || one.starts_with(start);
-    }));
-}
 
 std::unique_ptr<Colorizer> FakeColorizerFactory::Create() {
     if (!creatable) {

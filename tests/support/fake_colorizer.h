@@ -22,9 +22,6 @@ class FakeColorizerFactory : public ColorizerFactory {
     // The nth Colorize from now on fails, once; 1 is the next, 0 none.
     int failAtPass = 0;
 
-    // How many of the calls are this one, or begin with it and a blank.
-    int Count(std::string_view call) const;
-
     std::unique_ptr<Colorizer> Create() override;
 
   private:

@@ -31,11 +31,7 @@ std::string NameIn(const std::string& normal) {
 }
 
 [[noreturn]] void Throw(ErrorNumber number, std::string_view path) {
-    const char* text = number == ErrorNumber::kFileNotFound   ? "File not found"
-                       : number == ErrorNumber::kPathNotFound ? "Path not found"
-                       : number == ErrorNumber::kFileExists   ? "File already exists"
-                                                              : "Path/File access error";
-    throw RunTimeError(number, std::string(text) + ": " + std::string(path));
+    throw RunTimeError(number, "Path/File access error: " + std::string(path));
 }
 
 }  // namespace
@@ -55,13 +51,12 @@ void FakeFileSystem::PutFile(std::string_view path, std::string_view bytes,
 void FakeFileSystem::PutFolder(std::string_view path, FileAttributes attributes) {
     const std::string normal = Normal(path);
     if (normal.empty()) return;
-    if (!ParentOf(normal).empty() && !HasFolder(ParentOf(normal))) PutFolder(ParentOf(normal));
-    nodes_[Key(path)] = {NameIn(normal), attributes | kFolderAttribute, {}};
+    if (!HasFolder(ParentOf(normal))) PutFolder(ParentOf(normal));
+    nodes_.try_emplace(Key(path), Node{NameIn(normal), attributes | kFolderAttribute, {}});
 }
 
 bool FakeFileSystem::HasFile(std::string_view path) const {
-    const auto entry = Find(path);
-    return entry && !entry->IsFolder();
+    return Find(path) && !HasFolder(path);
 }
 
 bool FakeFileSystem::HasFolder(std::string_view path) const {
@@ -70,18 +65,15 @@ bool FakeFileSystem::HasFolder(std::string_view path) const {
 }
 
 std::string FakeFileSystem::Bytes(std::string_view path) const {
-    const auto node = nodes_.find(Key(path));
-    if (node != nodes_.end() && !node->second.IsFolder()) return node->second.bytes;
-    ADD_FAILURE() << "There is no file " << path;
-    return {};
+    EXPECT_TRUE(HasFile(path)) << path;
+    return HasFile(path) ? nodes_.at(Key(path)).bytes : std::string();
 }
 
 std::vector<std::string> FakeFileSystem::FilesBelow(std::string_view folder) const {
     std::vector<std::string> files;
-    const std::string start = Key(folder) + '\\';
     for (const auto& [key, node] : Below(Key(folder))) {
         if (node.IsFolder()) continue;
-        const std::string parent = ParentOf(key.substr(start.size()));
+        const std::string parent = ParentOf(key.substr(Key(folder).size() + 1));
         files.push_back(parent.empty() ? node.name : parent + '\\' + node.name);
     }
     return files;
@@ -97,8 +89,8 @@ void FakeFileSystem::FailAt(int nth, ErrorNumber number) {
     failure_ = number;
 }
 
-void FakeFileSystem::FailFrom(int nth, ErrorNumber number) {
-    FailAt(nth, number);
+void FakeFileSystem::FailFrom(int nth) {
+    FailAt(nth);
     staysBroken_ = true;
 }
 
@@ -110,11 +102,10 @@ void FakeFileSystem::FailNoMore() {
 }
 
 void FakeFileSystem::CountDown(std::string_view path) const {
-    if (untilFailure_ > 0 && --untilFailure_ == 0) {
-        if (staysBroken_) untilFailure_ = 1;
-        failed_ = true;
-        Throw(failure_, path);
-    }
+    if (untilFailure_ == 0 || --untilFailure_ > 0) return;
+    if (staysBroken_) untilFailure_ = 1;
+    failed_ = true;
+    Throw(failure_, path);
 }
 
 void FakeFileSystem::Count(std::string_view path) const {
@@ -136,12 +127,8 @@ void FakeFileSystem::RequireFolder(std::string_view path) const {
 }
 
 FakeFileSystem::Nodes FakeFileSystem::Below(const std::string& key) const {
-    const std::string start = key + '\\';
-    Nodes below;
-    for (auto at = nodes_.lower_bound(start); at != nodes_.end() && at->first.starts_with(start);
-         ++at)
-        below.insert(*at);
-    return below;
+    // "]" follows "\\".
+    return {nodes_.lower_bound(key + '\\'), nodes_.lower_bound(key + ']')};
 }
 
 void FakeFileSystem::Store(std::string_view path, std::string_view bytes) {
@@ -154,17 +141,10 @@ void FakeFileSystem::Store(std::string_view path, std::string_view bytes) {
     node->second.bytes = bytes;
 }
 
-void FakeFileSystem::Remember(std::string_view operation, std::string_view path,
-                              std::string_view destination) {
-    std::string change = std::string(operation) + ' ' + Normal(path);
-    if (!destination.empty()) change += " > " + Normal(destination);
-    changes_.push_back(change);
-}
-
 std::optional<FileEntry> FakeFileSystem::Find(std::string_view path) const {
     const auto node = nodes_.find(Key(path));
     if (node == nodes_.end()) return std::nullopt;
-    return FileEntry{node->second.name, node->second.attributes, node->second.bytes.size()};
+    return node->second.Entry();
 }
 
 std::vector<FileEntry> FakeFileSystem::List(std::string_view folder) const {
@@ -172,8 +152,7 @@ std::vector<FileEntry> FakeFileSystem::List(std::string_view folder) const {
     RequireFolder(folder);
     std::vector<FileEntry> entries;
     for (const auto& [key, node] : Below(Key(folder))) {
-        if (ParentOf(key) == Key(folder))
-            entries.push_back({node.name, node.attributes, node.bytes.size()});
+        if (ParentOf(key) == Key(folder)) entries.push_back(node.Entry());
     }
     return entries;
 }
@@ -186,32 +165,26 @@ std::string FakeFileSystem::ReadFile(std::string_view path) const {
 void FakeFileSystem::WriteFile(std::string_view path, std::string_view bytes) {
     Count(path);
     Store(path, bytes);
-    Remember("WriteFile", path);
 }
 
 void FakeFileSystem::AppendFile(std::string_view path, std::string_view bytes) {
     Count(path);
-    const auto node = nodes_.find(Key(path));
-    Store(path, (node == nodes_.end() ? std::string() : node->second.bytes) + std::string(bytes));
-    Remember("AppendFile", path);
+    Store(path, (HasFile(path) ? File(path).bytes : std::string()) + std::string(bytes));
 }
 
 void FakeFileSystem::CopyFile(std::string_view source, std::string_view destination) {
     Count(source);
     Count(destination);
     Store(destination, std::string(File(source).bytes));
-    Remember("CopyFile", source, destination);
 }
 
 void FakeFileSystem::MoveFile(std::string_view source, std::string_view destination) {
     Count(source);
     Count(destination);
-    Node moved = File(source);
+    const Node moved = File(source);
     Store(destination, moved.bytes);
-    if (Key(source) != Key(destination)) nodes_.erase(Key(source));
-    moved.name = NameIn(Normal(destination));
-    nodes_[Key(destination)] = moved;
-    Remember("MoveFile", source, destination);
+    nodes_.erase(Key(source));
+    nodes_[Key(destination)] = {NameIn(Normal(destination)), moved.attributes, moved.bytes};
 }
 
 void FakeFileSystem::DeleteFile(std::string_view path) {
@@ -219,7 +192,6 @@ void FakeFileSystem::DeleteFile(std::string_view path) {
     if ((File(path).attributes & kReadOnlyAttribute) != 0)
         Throw(ErrorNumber::kPathFileAccess, path);
     nodes_.erase(Key(path));
-    Remember("DeleteFile", path);
 }
 
 void FakeFileSystem::CreateFolder(std::string_view path) {
@@ -227,7 +199,6 @@ void FakeFileSystem::CreateFolder(std::string_view path) {
     RequireFolder(ParentOf(Normal(path)));
     if (Find(path)) Throw(ErrorNumber::kFileExists, path);
     PutFolder(path);
-    Remember("CreateFolder", path);
 }
 
 void FakeFileSystem::CopyFolder(std::string_view source, std::string_view destination) {
@@ -235,19 +206,18 @@ void FakeFileSystem::CopyFolder(std::string_view source, std::string_view destin
     Count(destination);
     RequireFolder(source);
     RequireFolder(ParentOf(Normal(destination)));
-    if (!HasFolder(destination)) PutFolder(destination);
+    PutFolder(destination);
     const std::string from = Key(source);
     for (const auto& [key, node] : Below(from)) {
         const std::string target =
             Normal(destination) + ParentOf(key).substr(from.size()) + '\\' + node.name;
-        if (!node.IsFolder()) {
+        if (node.IsFolder()) {
+            PutFolder(target);
+        } else {
             CountDown(target);
             Store(target, node.bytes);
-        } else if (!HasFolder(target)) {
-            PutFolder(target);
         }
     }
-    Remember("CopyFolder", source, destination);
 }
 
 void FakeFileSystem::DeleteFolder(std::string_view path) {
@@ -259,7 +229,6 @@ void FakeFileSystem::DeleteFolder(std::string_view path) {
         nodes_.erase(node->first);
     }
     nodes_.erase(Key(path));
-    Remember("DeleteFolder", path);
 }
 
 }  // namespace morpho::test

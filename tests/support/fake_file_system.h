@@ -11,12 +11,12 @@
 
 namespace morpho::test {
 
-// Files in memory, on the drives C: and Z:. It remembers every change and fails when told to.
+// Files in memory, on the drives C: and Z:. It fails when told to.
 class FakeFileSystem : public FileSystem {
   public:
     FakeFileSystem();
 
-    // Put an entry there, with the folders above it. These neither count nor fail.
+    // Put an entry there, with the folders above it. These never fail.
     void PutFile(std::string_view path, std::string_view bytes,
                  FileAttributes attributes = kArchiveAttribute);
     void PutFolder(std::string_view path, FileAttributes attributes = 0);
@@ -33,16 +33,11 @@ class FakeFileSystem : public FileSystem {
     // The nth operation but Find from now on fails, once; 1 is the next. Each file that is copied
     // or deleted with its folder counts.
     void FailAt(int nth, ErrorNumber number = ErrorNumber::kPathFileAccess);
-    // The nth operation but Find from now on and all after it fail, as if the program had died
-    // there.
-    void FailFrom(int nth, ErrorNumber number = ErrorNumber::kPathFileAccess);
+    // The same, and all operations after it fail too, as if the program had died there.
+    void FailFrom(int nth);
     void FailNoMore();
     // Whether the failure that FailAt or FailFrom announced has come.
     bool HasFailed() const { return failed_; }
-
-    // Every change that succeeded, in order, such as "WriteFile C:\a.txt" and "CopyFile C:\a >
-    // C:\b".
-    const std::vector<std::string>& Changes() const { return changes_; }
 
     std::optional<FileEntry> Find(std::string_view path) const override;
     std::vector<FileEntry> List(std::string_view folder) const override;
@@ -62,6 +57,7 @@ class FakeFileSystem : public FileSystem {
         FileAttributes attributes = 0;
         std::string bytes;
         bool IsFolder() const { return (attributes & kFolderAttribute) != 0; }
+        FileEntry Entry() const { return {name, attributes, bytes.size()}; }
     };
     // By path in lower case without doubled or trailing "\".
     using Nodes = std::map<std::string, Node>;
@@ -71,12 +67,9 @@ class FakeFileSystem : public FileSystem {
     const Node& File(std::string_view path) const;
     void RequireFolder(std::string_view path) const;
     void Store(std::string_view path, std::string_view bytes);
-    void Remember(std::string_view operation, std::string_view path,
-                  std::string_view destination = {});
     Nodes Below(const std::string& key) const;
 
     Nodes nodes_;
-    std::vector<std::string> changes_;
     std::map<std::string, ErrorNumber> failingPaths_;
     mutable int untilFailure_ = 0;
     mutable bool failed_ = false;

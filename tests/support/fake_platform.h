@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/disk/disk_profile_files.h"
 #include "desktop/text/windows_1252.h"
 #include "forms/headless_toolkit.h"
 #include "platform/platform.h"
@@ -8,7 +9,6 @@
 #include "support/fake_automation.h"
 #include "support/fake_colorizer.h"
 #include "support/fake_file_system.h"
-#include "support/fake_profile_files.h"
 #include "support/fake_registry.h"
 #include "support/fake_surroundings.h"
 
@@ -20,7 +20,7 @@ struct FakePlatform {
     FakeRegistry registry;
     FakeFileSystem files;
     Windows1252 codePage;
-    FakeProfileFiles profileFiles{files, codePage};
+    DiskProfileFiles profileFiles{files, codePage};
     FakeShell shell;
     FakeClock clock;
     FakeEnvironment environment;

@@ -15,26 +15,18 @@ namespace morpho::test {
 // Remembers what it was asked to start and to say.
 class FakeShell : public Shell {
   public:
-    struct Execution {
-        std::string verb;
-        std::string file;
-        std::string parameters;
-        int showCommand = 0;
-        bool operator==(const Execution&) const = default;
-    };
-    std::vector<std::string> commandLines;
-    std::vector<Execution> executions;
+    std::vector<std::string> started;  // "Winhlp32.exe a.hlp", "open C:\a.htm -x, show 1"
     std::vector<std::string> debugLines;
     int result = 42;  // what both ways to start something answer
 
     int WinExec(std::string_view commandLine, int /*showCommand*/) override {
-        commandLines.emplace_back(commandLine);
+        started.emplace_back(commandLine);
         return result;
     }
     int ShellExecute(std::string_view verb, std::string_view file, std::string_view parameters,
                      int showCommand) override {
-        executions.push_back(
-            {std::string(verb), std::string(file), std::string(parameters), showCommand});
+        started.push_back(std::string(verb) + ' ' + std::string(file) + ' ' +
+                          std::string(parameters) + ", show " + std::to_string(showCommand));
         return result;
     }
     void DebugOutput(std::string_view line) override { debugLines.emplace_back(line); }
@@ -52,11 +44,6 @@ class FakeEnvironment : public Environment {
     std::map<std::string, std::string, std::less<>> variables{{"TMP", "C:\\Temp"}};
     OsVersion os{kWindowsNtPlatform, 5, 1, 2600, "Service Pack 2"};
     ComponentVersion version{"Morpho", 1, 4, 17, ""};
-    std::string moduleFolder = "C:\\Program Files\\Morpho";
-    std::map<std::int32_t, std::string> messages{
-        {0, "The operation completed successfully.\r\n"},
-        {2, "The system cannot find the file specified.\r\n"},
-        {5, "Access is denied.\r\n"}};
 
     std::string Variable(std::string_view name) const override {
         const auto variable = variables.find(name);
@@ -64,10 +51,9 @@ class FakeEnvironment : public Environment {
     }
     OsVersion Os() const override { return os; }
     ComponentVersion Version() const override { return version; }
-    std::string ModuleFolder() const override { return moduleFolder; }
+    std::string ModuleFolder() const override { return "C:\\Program Files\\Morpho"; }
     std::string SystemMessage(std::int32_t code) const override {
-        const auto message = messages.find(code);
-        return message == messages.end() ? std::string() : message->second;
+        return "System message " + std::to_string(code) + ".\r\n";
     }
 };
 
@@ -84,10 +70,7 @@ class FakeResources : public Resources {
         if (resource == data.end()) return {};
         return std::as_bytes(std::span(resource->second));
     }
-    std::string String(int id) const override {
-        const auto text = strings.find(id);
-        return text == strings.end() ? std::string() : text->second;
-    }
+    std::string String(int id) const override { return strings.at(id); }
 };
 
 }  // namespace morpho::test

@@ -1,110 +1,92 @@
-#include "theme_editor/theme_window.h"
+#include "theme_editor/theme_world.h"
 
 namespace morpho::test {
 namespace {
 
-class ElementSelectionTest : public ThemeWindow {
+class ElementSelectionTest : public OpenThemeWindow {
   protected:
-    ElementSelectionTest() { Open(); }
+    // What the person ticks or clears, what is ticked then, and how often the notice has come.
+    void ExpectTicked(const std::function<void()>& person, const std::vector<int>& rows,
+                      std::size_t noticeCount) {
+        person();
+        EXPECT_EQ(Ticked(), rows);
+        EXPECT_EQ(notices.size(), noticeCount);
+    }
+    std::function<void()> Check(int row, bool ticked) {
+        return [=, this] { window->lstImageNames.UserCheck(row, ticked); };
+    }
+    std::function<void()> Click(CommandButton& button) {
+        return [&] { button.UserClick(); };
+    }
 };
 
 TEST_F(ElementSelectionTest, GroupsElementsOfOneImageInOrderOfAppearance) {
     std::vector<int> groups;
-    for (int row = 0; row < window_->lstImageNames.ListCount(); ++row)
-        groups.push_back(window_->lstImageNames.ItemData(row));
+    for (int row = 0; row < window->lstImageNames.ListCount(); ++row)
+        groups.push_back(window->lstImageNames.ItemData(row));
     EXPECT_THAT(groups, ElementsAre(1, 2, 3, 1, 4, 5, 6));
-
-    window_->cmbThemeLabel.UserSelect(1);
-    EXPECT_EQ(window_->lstImageNames.ItemData(0), 1) << "each theme counts from 1";
+    window->cmbThemeLabel.UserSelect(1);
+    EXPECT_EQ(window->lstImageNames.ItemData(0), 1) << "each theme counts from 1";
 }
 
 TEST_F(ElementSelectionTest, ElementsOfOneImageAreTickedTogetherWithOneNotice) {
     Tick({});
-    window_->lstImageNames.UserCheck(kButton, true);
-    EXPECT_THAT(Ticked(), ElementsAre(kButton));
-    EXPECT_THAT(notices_, IsEmpty());
-
-    window_->lstImageNames.UserCheck(kNormalBanner, true);
-    EXPECT_THAT(Ticked(), ElementsAre(kBanner, kButton, kNormalBanner));
-    EXPECT_THAT(
-        notices_,
-        ElementsAre(
-            "Theme Morpho: In selecting or deselecting this element, you may have noticed that "
-            "multiple theme elements were selected or deselected. This is because the image "
-            "associated with this element is also used by other elements in this theme."));
-
-    window_->lstImageNames.UserCheck(kBanner, false);
-    EXPECT_THAT(Ticked(), ElementsAre(kButton));
-    EXPECT_EQ(notices_.size(), 2U);
-}
-
-TEST_F(ElementSelectionTest, TheNoticeStaysAwayOnceThePersonHasHadEnoughUntilTheWindowIsReopened) {
-    tickDontShow_ = true;
-    Tick({});
-    window_->lstImageNames.UserCheck(kBanner, true);
-    window_->lstImageNames.UserCheck(kBanner, false);
-    window_->cmdSelectActive.UserClick();
-    EXPECT_EQ(notices_.size(), 1U);
-
-    Open().lstImageNames.UserCheck(kBanner, false);
-    EXPECT_EQ(notices_.size(), 2U);
+    ExpectTicked(Check(kButton, true), {kButton}, 0);
+    ExpectTicked(Check(kNormalBanner, true), {kBanner, kButton, kNormalBanner}, 1);
+    EXPECT_EQ(notices.back(),
+              "Theme Morpho: In selecting or deselecting this element, you may have noticed that "
+              "multiple theme elements were selected or deselected. This is because the image "
+              "associated with this element is also used by other elements in this theme.");
+    tickDontShow = true;
+    ExpectTicked(Check(kBanner, false), {kButton}, 2);
+    ExpectTicked(Check(kBanner, true), {kBanner, kButton, kNormalBanner}, 2);
+    window->cmdSelectActive.UserClick();
+    Open();
+    ExpectTicked(Check(kBanner, false), {kButton, kBullet, kNormalBullet, kLine, kBackground}, 3);
 }
 
 TEST_F(ElementSelectionTest, TheButtonsForAllAndNoneNeitherShowTheNoticeNorSilenceIt) {
     Forget();
-    window_->cmdSelectNone.UserClick();
-    EXPECT_THAT(Ticked(), IsEmpty());
-    window_->cmdSelectAll.UserClick();
-    EXPECT_EQ(Ticked().size(), 7U);
-    EXPECT_THAT(notices_, IsEmpty());
+    ExpectTicked(Click(window->cmdSelectNone), {}, 0);
+    ExpectTicked(Click(window->cmdSelectAll),
+                 {kBanner, kButton, kBullet, kNormalBanner, kNormalBullet, kLine, kBackground}, 0);
     EXPECT_THAT(Log(),
                 ElementsAre("Deselecting all theme elements...", "All theme elements deselected.",
                             "Selecting all theme elements...", "All theme elements selected."));
-    window_->lstImageNames.UserCheck(kBanner, false);
-    EXPECT_EQ(notices_.size(), 1U);
+    ExpectTicked(Check(kBanner, false), {kButton, kBullet, kNormalBullet, kLine, kBackground}, 1);
 }
 
 TEST_F(ElementSelectionTest, SelectActiveAndNormalAddElementsAndWhatSharesTheirImages) {
     Tick({kLine});
-    window_->lstImageNames.UserScroll(2);
-    window_->lstImageNames.UserSelect(4);
-    window_->cmdSelectActive.UserClick();
-    EXPECT_THAT(Ticked(), ElementsAre(kBanner, kButton, kBullet, kNormalBanner, kLine));
-    EXPECT_EQ(notices_.size(), 1U);
-    EXPECT_EQ(window_->lstImageNames.TopIndex(), 2);
-    EXPECT_EQ(window_->lstImageNames.ListIndex(), 4);
-
-    window_->cmdSelectNormal.UserClick();
-    EXPECT_THAT(Ticked(),
-                ElementsAre(kBanner, kButton, kBullet, kNormalBanner, kNormalBullet, kLine));
-    EXPECT_EQ(notices_.size(), 1U) << "no shared image changed this time";
+    window->lstImageNames.UserScroll(2);
+    window->lstImageNames.UserSelect(4);
+    ExpectTicked(Click(window->cmdSelectActive), {kBanner, kButton, kBullet, kNormalBanner, kLine},
+                 1);
+    EXPECT_EQ(window->lstImageNames.TopIndex(), 2);
+    EXPECT_EQ(window->lstImageNames.ListIndex(), 4);
+    ExpectTicked(Click(window->cmdSelectNormal),
+                 {kBanner, kButton, kBullet, kNormalBanner, kNormalBullet, kLine}, 1);
     EXPECT_THAT(
         Log(),
         ElementsAre("Selecting active theme elements...", "Active theme elements selected.",
                     "Selecting normal theme elements...", "Normal theme elements selected."));
 }
 
-TEST_F(ElementSelectionTest, TickingLeavesUndoAndRedoAloneWhileTheSlidersAreNeutral) {
+TEST_F(ElementSelectionTest, TickingEndsThePendingStepUnlessTheSlidersAreNeutral) {
     Tick({kButton});
-    window_->sldHue.UserSettle(40);
-    window_->cmdApply.UserClick();
-    window_->cmdUndo.UserClick();
-    window_->lstImageNames.UserCheck(kBullet, true);
-    EXPECT_FALSE(window_->cmdUndo.Enabled());
-    EXPECT_TRUE(window_->cmdRedo.Enabled());
-}
+    window->sldHue.UserSettle(40);
+    window->cmdApply.UserClick();
+    window->cmdUndo.UserClick();
+    window->lstImageNames.UserCheck(kBullet, true);
+    EXPECT_TRUE(window->cmdRedo.Enabled() && !window->cmdUndo.Enabled());
 
-TEST_F(ElementSelectionTest, TickingEndsThePendingStepWhileTheSlidersAreOffNeutral) {
-    Tick({kButton});
-    window_->sldHue.UserSettle(40);
-    window_->lstImageNames.UserCheck(kBullet, true);
-    EXPECT_EQ(window_->lblHVal.Caption(), "0");
-    EXPECT_TRUE(window_->cmdUndo.Enabled());
-    EXPECT_FALSE(window_->cmdRedo.Enabled());
-
-    window_->sldHue.UserSettle(50);
+    window->sldHue.UserSettle(40);
+    window->lstImageNames.UserCheck(kLine, true);
+    EXPECT_EQ(window->lblHVal.Caption(), "0");
+    EXPECT_TRUE(window->cmdUndo.Enabled() && !window->cmdRedo.Enabled());
+    window->sldHue.UserSettle(50);
     ExpectPicture("button.gif", "blends/button.gif|h40 s1 b1|h50 s1 b1");
-    ExpectPicture("bullet.gif", "blends/bullet.gif|h0 s1 b1|h50 s1 b1");
+    ExpectPicture("line.jpg", "blends/line.jpg|h0 s1 b1 q60|h50 s1 b1 q60");
 }
 
 }  // namespace

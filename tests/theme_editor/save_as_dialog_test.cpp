@@ -3,69 +3,62 @@
 namespace morpho::test {
 namespace {
 
-using testing::ElementsAre;
-
-struct SaveAsDialog : testing::Test {
-    SaveWorld world;
-    frmSaveAs dialog{world.p.program};
+struct SaveAsDialog : testing::Test, SaveWorld {
+    frmSaveAs dialog{world.program};
     std::string name = "coast";
     std::string title = "Coast";
     bool apply = false;
 
     bool Show(const std::function<void()>& person) {
-        world.p.toolkit.WillPlay("frmSaveAs", [&](Form&) { person(); });
+        world.toolkit.WillPlay("frmSaveAs", [&](Form&) { person(); });
         return dialog.RunModal("Enter new theme details:", name, title, apply);
     }
-    std::string Suggested(const std::string& base) {
+    void Enter(const std::string& newName, const std::string& newTitle) {
+        dialog.txtThemeName.UserEdit(newName);
+        dialog.txtThemeTitle.UserEdit(newTitle);
+        dialog.cmdSave.UserClick();
+    }
+    void ExpectSuggested(const std::string& base, const std::string& suggestion) {
         name = base;
-        title = "Coast";
-        std::string suggested;
         Show([&] {
-            suggested = dialog.txtThemeName.Text();
+            EXPECT_EQ(dialog.txtThemeName.Text(), suggestion);
             dialog.cmdCancel.UserClick();
         });
-        return suggested;
     }
     // What the dialog says to these entries, and where it puts the person.
-    void ExpectRefused(const std::string& typedName, const std::string& typedTitle,
+    void ExpectRefused(const std::string& newName, const std::string& newTitle,
                        const std::string& reason, const Control& box) {
-        const bool saved = Show([&] {
-            dialog.txtThemeName.UserEdit(typedName);
-            dialog.txtThemeTitle.UserEdit(typedTitle);
-            dialog.cmdSave.UserClick();
-            EXPECT_TRUE(dialog.IsVisible()) << typedName;
-            EXPECT_EQ(dialog.Focused(), &box) << typedName;
+        EXPECT_FALSE(Show([&] {
+            Enter(newName, newTitle);
+            EXPECT_TRUE(dialog.IsVisible()) << newName;
+            EXPECT_EQ(dialog.Focused(), &box) << newName;
             dialog.UserClose();
-        });
-        EXPECT_FALSE(saved);
-        ASSERT_FALSE(world.p.toolkit.Messages().empty());
-        const HeadlessToolkit::Message& message = world.p.toolkit.Messages().back();
-        EXPECT_EQ(message.text, reason) << typedName;
-        EXPECT_EQ(message.flags, kCriticalIcon);
-        EXPECT_EQ(message.title, "Theme Morpho");
+        }));
+        ExpectMessage(++refused_, reason, kCriticalIcon);
     }
+    std::size_t refused_ = 0;
 };
 
 TEST_F(SaveAsDialog, SuggestsTheNextFreeNumber) {
-    world.p.files.PutFolder(kUserThemes + "BLENDS2");
-    world.p.files.PutFolder(kGlobalThemes + "blends3");
-    EXPECT_EQ(Suggested("moor"), "moor2");
-    EXPECT_EQ(Suggested("Blends"), "Blends4");
-    EXPECT_EQ(Suggested("Theme9"), "Theme10");
-    EXPECT_EQ(Suggested("Theme007"), "Theme8");
-    EXPECT_EQ(Suggested("2004"), "2005");
-    EXPECT_EQ(Suggested(""), "2");
-    EXPECT_EQ(Suggested("x99999999999999999999999"), "x999991000000000000000000");
+    world.files.PutFolder(kUserThemes + "BLENDS2");
+    world.files.PutFolder(kGlobalThemes + "blends3");
+    ExpectSuggested("moor", "moor2");
+    ExpectSuggested("Blends", "Blends4");
+    ExpectSuggested("Theme9", "Theme10");
+    ExpectSuggested("Theme007", "Theme8");
+    ExpectSuggested("2004", "2005");
+    ExpectSuggested("", "2");
+    ExpectSuggested("x99999999999999999999999", "x999991000000000000000000");
 }
 
 TEST_F(SaveAsDialog, ListsTheInstalledThemesOfBothFoldersBehindTheScenes) {
-    world.p.files.PutFolder(kUserThemes + "untitled");
-    world.p.files.PutFolder(kUserThemes + "locked", kReadOnlyAttribute);
-    world.p.files.PutFolder(kUserThemes + "cut short");
-    world.p.files.PutFile(kUserThemes + "cut short#.inf", "");
-    world.InstallTheme(kUserThemes, "moor", "My Moor");
+    world.files.PutFolder(kUserThemes + "untitled");
+    world.files.PutFolder(kUserThemes + "locked", kReadOnlyAttribute);
+    world.files.PutFolder(kUserThemes + "cut short");
+    world.files.PutFile(kUserThemes + "cut short#.inf", "");
+    InstallTheme(kUserThemes, "moor", "My Moor");
     Show([&] {
-        std::vector<std::string> listed;
+        Lines listed;
         for (int i = 0; i < dialog.lstAppThemeName.ListCount(); ++i)
             listed.push_back(dialog.lstAppThemeName.List(i) + "=" +
                              dialog.lstAppThemeTitle.List(i));
@@ -79,14 +72,11 @@ TEST_F(SaveAsDialog, ListsTheInstalledThemesOfBothFoldersBehindTheScenes) {
 }
 
 TEST_F(SaveAsDialog, RefusesWhatCannotBeATheme) {
-    world.p.files.PutFolder(kUserThemes + "untitled");
-    const std::string invalid = "Theme name must be a valid file name.";
     TextBox& nameBox = dialog.txtThemeName;
     TextBox& titleBox = dialog.txtThemeTitle;
     ExpectRefused("  ", "", "You must specify a theme name.", nameBox);
-    ExpectRefused("My#Theme", "", invalid, nameBox);
-    ExpectRefused("..\\up", "x", invalid, nameBox);
-    ExpectRefused("moor.", "x", invalid, nameBox);
+    for (const char* invalid : {"My#Theme", "..\\up", "moor."})
+        ExpectRefused(invalid, "", "Theme name must be a valid file name.", nameBox);
     ExpectRefused("MOOR", "  ", "You must specify a theme title.", titleBox);
     ExpectRefused("MOOR", "x",
                   "This theme name is being used by another theme. Please specify another name.",
@@ -98,31 +88,27 @@ TEST_F(SaveAsDialog, RefusesWhatCannotBeATheme) {
 
 TEST_F(SaveAsDialog, GivesBackWhatWasEnteredAndNothingWhenCancelled) {
     EXPECT_TRUE(Show([&] {
-        dialog.txtThemeName.UserEdit(" My v1.2 coast ");
-        dialog.txtThemeTitle.UserEdit(" Deep blue ");
         dialog.chkApplyToWeb.UserSet(true);
-        dialog.cmdSave.UserClick();
+        Enter(" My v1.2 coast ", " Deep blue ");
+    }));
+    EXPECT_FALSE(Show([&] {
+        EXPECT_TRUE(dialog.chkApplyToWeb.Value());
+        dialog.chkApplyToWeb.UserSet(false);
+        dialog.txtThemeName.UserEdit("other");
+        dialog.cmdCancel.UserClick();
     }));
     EXPECT_EQ(name, "My v1.2 coast");
     EXPECT_EQ(title, "Deep blue");
     EXPECT_TRUE(apply);
-
-    EXPECT_FALSE(Show([&] {
-        EXPECT_TRUE(dialog.chkApplyToWeb.Value());
-        dialog.chkApplyToWeb.UserSet(false);
-        dialog.cmdCancel.UserClick();
-    }));
-    EXPECT_EQ(name, "My v1.2 coast");
-    EXPECT_TRUE(apply);
 }
 
 TEST_F(SaveAsDialog, CannotSaveWhenTheInstalledThemesAreUnknown) {
-    world.p.files.FailOn(kUserThemes, ErrorNumber::kPermissionDenied);
+    world.files.FailOn(kUserThemes, ErrorNumber::kPermissionDenied);
     Show([&] {
         EXPECT_FALSE(dialog.cmdSave.UserClick());
         dialog.cmdCancel.UserClick();
     });
-    EXPECT_EQ(world.p.toolkit.Messages().size(), 1U);
+    EXPECT_EQ(world.toolkit.Messages().size(), 1U);
 }
 
 }  // namespace

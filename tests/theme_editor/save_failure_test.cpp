@@ -6,154 +6,134 @@
 namespace morpho::test {
 namespace {
 
-using Tree = std::map<std::string, std::string>;
+using Files = std::map<std::string, std::string>;
 
-enum class Way { kSaveAs, kSaveAsApplied, kSave, kSaveOverOwn };
-
-// Makes the save of a world; returns the world with its window still open.
-struct Attempt {
-    explicit Attempt(Way saveWay) : way(saveWay) {
-        if (way == Way::kSaveOverOwn) {
-            world.p.files.DeleteFolder(kGlobalThemes + "coast");
-            world.InstallTheme(kUserThemes, "coast", "Coast");
+// A save that a person makes: "SaveAs", "SaveAsApplied", "Save", or "SaveOverOwn" where the user
+// has the theme too.
+struct Attempt : SaveWorld {
+    explicit Attempt(const std::string& way)
+        : asNew(way.starts_with("SaveAs")), applies(way == "SaveAsApplied") {
+        if (way == "SaveOverOwn") {
+            world.files.DeleteFolder(kGlobalThemes + "coast");
+            InstallTheme(kUserThemes, "coast", "Coast");
         }
-        world.OpenAndRecolour();
+        OpenAndRecolour();
     }
-    bool IsNew() const { return way == Way::kSaveAs || way == Way::kSaveAsApplied; }
-    void Save() {
-        world.PersonSavesAs("bay", "The Bay", way == Way::kSaveAsApplied);
-        world.p.toolkit.WillAnswer(Answer::kYes);
-        (IsNew() ? world.window->cmdSaveAs : world.window->cmdSave).UserClick();
+    Attempt& Save() {
+        PersonSavesAs("bay", "The Bay", applies);
+        world.toolkit.WillAnswer(Answer::kYes);
+        (asNew ? window->cmdSaveAs : window->cmdSave).UserClick();
+        return *this;
     }
-    bool IsInstalled() const { return world.p.files.HasFile(kUserThemes + "bay\\bay.inf"); }
-
+    bool IsInstalled() const { return world.files.HasFile(kUserThemes + "bay\\bay.inf"); }
     bool Failed() const {
-        const auto& messages = world.p.toolkit.Messages();
+        const auto& messages = world.toolkit.Messages();
         return !messages.empty() && messages.back().text == "Error occured while saving theme.";
     }
 
-    Way way;
-    SaveWorld world;
+    const bool asNew;
+    const bool applies;
 };
 
-Tree TreeAfter(Way way) {
-    Attempt attempt(way);
-    attempt.Save();
-    return attempt.world.Tree();
+bool Holds(const Files& files, const std::string& file, const std::string& bytes) {
+    const auto found = files.find(file);
+    return found != files.end() && found->second == bytes;
 }
 
-// A description on its way into its folder is no theme's yet.
-bool IsWaiting(const std::string& file) {
-    return file.ends_with("#.inf");
-}
-
-bool IsOfWebsBay(const std::string& file) {
-    return file.starts_with("web\\_themes\\bay\\");
-}
-
-class FailingSave : public testing::TestWithParam<Way> {
+class FailingSave : public testing::TestWithParam<std::string> {
   protected:
-    const Tree before_ = Attempt(GetParam()).world.Tree();
-    const Tree after_ = TreeAfter(GetParam());
-    // A new theme is in the web for a while even if it does not stay there.
-    const Tree inTheWeb_ = TreeAfter(Way::kSaveAsApplied);
-
-    bool Holds(const Tree& tree, const std::string& file, const std::string& bytes) const {
-        const auto found = tree.find(file);
-        return found != tree.end() && found->second == bytes;
+    // Makes the save with a failure at each of its operations in turn, and goes on with `check`.
+    void AtEachOperation(const std::function<void(FakeFileSystem&, int nth)>& fail,
+                         const std::function<void(Attempt&)>& check) const {
+        for (int nth = 1; !HasFailure(); ++nth) {
+            SCOPED_TRACE("operation " + std::to_string(nth));
+            Attempt attempt(GetParam());
+            fail(attempt.world.files, nth);
+            attempt.Save();
+            if (!attempt.world.files.HasFailed()) {
+                EXPECT_GT(nth, 30) << "a save does more than that";
+                return;
+            }
+            attempt.world.files.FailNoMore();
+            ExpectWholeFiles(attempt);
+            check(attempt);
+        }
     }
 
     void ExpectWholeFiles(const Attempt& attempt) const {
-        const Tree now = attempt.world.Tree();
+        const Files now = attempt.Tree();
         for (const auto& [file, bytes] : now) {
-            const bool known = Holds(before_, file, bytes) || Holds(after_, file, bytes) ||
-                               (IsOfWebsBay(file) && Holds(inTheWeb_, file, bytes));
-            EXPECT_TRUE(known || IsWaiting(file)) << file << ": " << bytes;
+            EXPECT_TRUE(Holds(before_, file, bytes) || Holds(after_, file, bytes) ||
+                        IsOfWebsBay(file, bytes) || IsWaiting(file))
+                << file << ": " << bytes;
         }
         for (const auto& [file, bytes] : before_)
             EXPECT_TRUE(now.contains(file)) << file;
         // A description makes a folder a theme, and a theme is complete.
         EXPECT_TRUE(!attempt.IsInstalled() ||
-                    attempt.world.p.files.HasFile(kUserThemes + "bay\\bay.elm"));
+                    attempt.world.files.HasFile(kUserThemes + "bay\\bay.elm"));
     }
 
     // A save that fails, and lives to say so, gives the originals back, which the history needs.
     void ExpectOriginals(const Attempt& attempt) const {
         if (!attempt.Failed()) return;
-        for (const auto& [file, bytes] : attempt.world.Tree()) {
+        for (const auto& [file, bytes] : attempt.Tree()) {
             const bool isOriginal = file.find("\\mstheme\\coast\\") != std::string::npos;
             EXPECT_TRUE(!isOriginal || Holds(before_, file, bytes)) << file;
         }
-        EXPECT_TRUE(attempt.world.window->cmdUndo.Enabled());
+        EXPECT_TRUE(attempt.window->cmdUndo.Enabled());
     }
 
-    enum class Web { kAsEver, kMayKeepNewTheme };
-
-    void ExpectAsAfter(const Attempt& attempt, Web web) const {
-        Tree now = attempt.world.Tree();
-        std::erase_if(now, [](const auto& file) { return IsWaiting(file.first); });
+    // As a save leaves it that nothing stops, but that the web may keep what it has of the theme.
+    void ExpectAsAfter(const Attempt& attempt, bool webMayKeepTheme) const {
+        Files now = attempt.Tree();
         std::erase_if(now, [&](const auto& file) {
-            return web == Web::kMayKeepNewTheme && IsOfWebsBay(file.first) &&
-                   !after_.contains(file.first) && Holds(inTheWeb_, file.first, file.second);
+            const bool kept = webMayKeepTheme && IsOfWebsBay(file.first, file.second);
+            return IsWaiting(file.first) || (kept && !after_.contains(file.first));
         });
         EXPECT_EQ(now, after_);
     }
+
+  private:
+    // A description on its way into its folder is no theme's yet.
+    static bool IsWaiting(const std::string& file) { return file.ends_with("#.inf"); }
+    // A new theme is in the web for a while even if it does not stay there.
+    bool IsOfWebsBay(const std::string& file, const std::string& bytes) const {
+        return file.starts_with("web\\_themes\\bay\\") && Holds(inTheWeb_, file, bytes);
+    }
+
+    const Files before_ = Attempt(GetParam()).Tree();
+    const Files after_ = Attempt(GetParam()).Save().Tree();
+    const Files inTheWeb_ = Attempt("SaveAsApplied").Save().Tree();
 };
 
 TEST_P(FailingSave, LeavesWholeFilesAndAWindowThatSavesTheNextTime) {
     for (const ErrorNumber error :
          {ErrorNumber::kDiskFull, ErrorNumber::kPermissionDenied, ErrorNumber::kDeviceIo}) {
-        for (int nth = 1;; ++nth) {
-            SCOPED_TRACE("operation " + std::to_string(nth));
-            Attempt attempt(GetParam());
-            FakeFileSystem& files = attempt.world.p.files;
-            files.FailAt(nth, error);
-            attempt.Save();
-            if (!files.HasFailed()) {
-                EXPECT_GT(nth, 30) << "a save does more than that";
-                break;
-            }
-            files.FailNoMore();
-            ExpectWholeFiles(attempt);
-            ExpectOriginals(attempt);
-            EXPECT_TRUE(attempt.world.IsUsable());
-            if (attempt.IsNew() && attempt.IsInstalled()) continue;  // its name is taken now
-            attempt.Save();
-            ExpectAsAfter(attempt, Web::kAsEver);
-            if (HasFailure()) return;
-        }
+        AtEachOperation([&](FakeFileSystem& files, int nth) { files.FailAt(nth, error); },
+                        [&](Attempt& attempt) {
+                            ExpectOriginals(attempt);
+                            EXPECT_TRUE(attempt.IsUsable());
+                            // The name of a new theme that stands is taken.
+                            if (attempt.asNew && attempt.IsInstalled()) return;
+                            ExpectAsAfter(attempt.Save(), false);
+                        });
     }
 }
 
 TEST_P(FailingSave, ADeadProgramLeavesWholeFilesAndANameThatCanBeSavedAgain) {
-    for (int nth = 1;; ++nth) {
-        SCOPED_TRACE("operation " + std::to_string(nth));
-        Attempt attempt(GetParam());
-        SaveWorld& world = attempt.world;
-        world.p.files.FailFrom(nth);
-        attempt.Save();
-        if (!world.p.files.HasFailed()) break;
-        world.p.files.FailNoMore();
-        ExpectWholeFiles(attempt);
-        if (HasFailure()) return;
-        if (!attempt.IsNew() || attempt.IsInstalled()) continue;
-        world.OpenAndRecolour();
-        attempt.Save();
-        // What was left of the theme in the web is completed, not taken away.
-        ExpectAsAfter(attempt, Web::kMayKeepNewTheme);
-        if (HasFailure()) return;
-    }
-}
-
-std::string NameOf(const testing::TestParamInfo<Way>& info) {
-    constexpr const char* kNames[] = {"SaveAs", "SaveAsApplied", "Save", "SaveOverOwn"};
-    return kNames[static_cast<int>(info.param)];
+    AtEachOperation([](FakeFileSystem& files, int nth) { files.FailFrom(nth); },
+                    [&](Attempt& attempt) {
+                        if (!attempt.asNew || attempt.IsInstalled()) return;
+                        attempt.OpenAndRecolour();
+                        // What was left of the theme in the web is completed, not taken away.
+                        ExpectAsAfter(attempt.Save(), true);
+                    });
 }
 
 INSTANTIATE_TEST_SUITE_P(Ways, FailingSave,
-                         testing::Values(Way::kSaveAs, Way::kSaveAsApplied, Way::kSave,
-                                         Way::kSaveOverOwn),
-                         NameOf);
+                         testing::Values("SaveAs", "SaveAsApplied", "Save", "SaveOverOwn"),
+                         [](const auto& test) { return test.param; });
 
 }  // namespace
 }  // namespace morpho::test

@@ -3,18 +3,6 @@
 namespace morpho::test {
 namespace {
 
-constexpr const char* kSettings = "Software\\VB and VBA Program Settings\\Theme Morpho\\Window";
-constexpr const char* kShellFolders =
-    "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders";
-
-const std::vector<std::pair<std::string, std::string>> kThemeFiles = {
-    {"graph1.css", ".mstheme{list-image-1:url(wave.gif);list-image-2:url(shell.gif)}"},
-    {"graph0.css", ""},
-    {"theme.css", "body{background-image:url(back.gif)}"},
-    {"wave.gif", "wave"},
-    {"shell.gif", "shell"},
-    {"back.gif", "back"}};
-
 std::string Inf(const std::string& title, const std::string& readOnly) {
     return "[info]\r\ntitle=" + title + "\r\nreadonly=" + readOnly +
            "\r\nformat=2\r\n[titles]\r\n1031=Alt\r\n1033=" + title + "\r\n";
@@ -23,44 +11,41 @@ std::string Inf(const std::string& title, const std::string& readOnly) {
 }  // namespace
 
 SaveWorld::SaveWorld() {
-    FakeRegistry& registry = p.registry;
-    registry.PutString(kClassesRoot, "FrontPage.Explorer.6.0\\CLSID", "", "{FP}");
-    registry.PutString(kClassesRoot, "CLSID\\{FP}\\LocalServer32", "", "C:\\Office\\frontpg.exe");
-    registry.PutString(kLocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion",
-                       "CommonFilesDir", "C:\\Common");
-    registry.PutString(kCurrentUser, kShellFolders, "AppData", "C:\\Ann");
-    registry.PutString(kCurrentUser, kShellFolders, "Cache", "C:\\Cache");
-    registry.PutString(kCurrentUser, "Software\\Microsoft\\Office\\11.0\\Common\\General", "Themes",
-                       "Themes");
-    for (const char* setting : {"Splash", "QuickReference"})
-        registry.PutString(kCurrentUser, kSettings, setting, "0");
+    FakeRegistry& registry = world.registry;
+    registry.Put(kClassesRoot, "FrontPage.Explorer.6.0\\CLSID", "", "{FP}");
+    registry.Put(kClassesRoot, "CLSID\\{FP}\\LocalServer32", "", "C:\\Office\\frontpg.exe");
+    registry.Put(kLocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion", "CommonFilesDir",
+                 "C:\\Common");
+    registry.Put(kCurrentUser, "Software\\Microsoft\\Office\\11.0\\Common\\General", "Themes",
+                 "Themes");
+    PutShellFolder("AppData", "C:\\Ann");
+    PutTheme("coast", "Coast",
+             {{"active/list-image-1", "wave.gif"},
+              {"active/list-image-2", "shell.gif"},
+              {"global/background-image", "back.gif"}});
     InstallTheme(kGlobalThemes, "coast", "Coast");
     InstallTheme(kGlobalThemes, "moor", "Moor");
     InstallTheme(kUserThemes, "dunes", "Dunes");
-    for (const auto& [name, bytes] : kThemeFiles) {
-        p.files.PutFile(kHostThemes + "coast\\" + name, bytes);
-        p.files.PutFile(kWebThemes + "coast\\" + name, bytes);
-    }
-    p.files.PutFile(kHostThemes + "coast\\coast.inf", Inf("Coast", "false"));
-    p.files.PutFile("C:\\Web\\index.htm", "theme=coast");
-    p.application.web->themes = {{"coast", "Coast"}};
-    p.application.web->themeOfWeb = "coast";
-    p.application.web->properties["vti_showhiddenpages"] = "true";
-    p.application.web->pages = {{"other.htm", "moor"}, {"index.htm", "coast"}};
+    world.files.PutFolder(kWebThemes);
+    world.files.CopyFolder(kHostThemes + "coast", kWebThemes + "coast");
+    world.files.PutFile(kHostThemes + "coast\\coast.inf", Inf("Coast", "false"));
+    world.files.PutFile("C:\\Web\\index.htm", "theme=coast");
+    world.application.web->themeOfWeb = "coast";
+    world.application.web->properties["vti_showhiddenpages"] = "true";
+    world.application.web->pages = {{"other.htm", "moor"}, {"index.htm", "coast"}};
 }
 
 void SaveWorld::OpenAndRecolour() {
-    window = std::make_unique<frmThemeMorpho>(p.program);
-    window->Load();
+    Open();
     window->sldHue.UserSettle(40);
     window->cmdApply.UserClick();
-    p.shell.debugLines.clear();
+    Forget();
 }
 
 void SaveWorld::PersonSavesAs(const std::string& name, const std::string& title, bool apply) {
-    p.toolkit.WillPlay("frmSaveAs", [=, this](Form& form) {
+    world.toolkit.WillPlay("frmSaveAs", [=, this](Form& form) {
         auto& dialog = dynamic_cast<frmSaveAs&>(form);
-        prompts.push_back(dialog.lblMessage.Caption());
+        saveAsPrompts.push_back(dialog.lblMessage.Caption());
         dialog.txtThemeName.UserEdit(name);
         dialog.txtThemeTitle.UserEdit(title);
         dialog.chkApplyToWeb.UserSet(apply);
@@ -71,14 +56,17 @@ void SaveWorld::PersonSavesAs(const std::string& name, const std::string& title,
 void SaveWorld::InstallTheme(const std::string& themesFolder, const std::string& name,
                              const std::string& title, const std::string& readOnly) {
     const std::string path = themesFolder + name + '\\' + name;
-    p.files.PutFile(path + ".inf", Inf(title, readOnly));
-    p.files.PutFile(path + ".elm", Package(kThemeFiles));
+    world.files.PutFile(path + ".inf", Inf(title, readOnly));
+    std::vector<std::pair<std::string, std::string>> members;
+    for (const std::string& file : world.files.FilesBelow(kHostThemes + "coast"))
+        members.emplace_back(file, world.files.Bytes(kHostThemes + "coast\\" + file));
+    world.files.PutFile(path + ".elm", Package(members));
 }
 
 std::map<std::string, std::string> SaveWorld::Tree() const {
     std::map<std::string, std::string> tree;
-    for (const std::string& file : p.files.FilesBelow("C:")) {
-        if (!file.starts_with("temp\\")) tree[file] = p.files.Bytes("C:\\" + file);
+    for (const std::string& file : world.files.FilesBelow("C:")) {
+        if (!file.starts_with("temp\\")) tree[file] = world.files.Bytes("C:\\" + file);
     }
     return tree;
 }

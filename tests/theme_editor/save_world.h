@@ -1,28 +1,13 @@
 #pragma once
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <map>
-#include <memory>
-#include <string>
-#include <vector>
-
-#include "support/fake_platform.h"
 #include "theme_editor/frm_save_as.h"
-#include "theme_editor/frm_theme_morpho.h"
+#include "theme_editor/theme_world.h"
 
 namespace morpho::test {
 
-inline const std::string kGlobalThemes = "C:\\Common\\Microsoft Shared\\Themes11\\";
-inline const std::string kUserThemes = "C:\\Ann\\Microsoft\\Themes\\";
-inline const std::string kHostThemes = "C:\\Cache\\FrontPageTempDir\\mstheme\\";
-inline const std::string kWebThemes = "C:\\Web\\_themes\\";
-inline const std::string kWork = "C:\\Temp\\Morpho\\coast\\";
-
 // The Theme Morpho window on a web that uses the theme "coast", which is installed for all users.
 // "moor" (for all users) and "dunes" (the user's own) are installed too.
-struct SaveWorld {
+struct SaveWorld : ThemeWorld {
     SaveWorld();
 
     // Opens the window, and recolours what the theme has.
@@ -35,9 +20,7 @@ struct SaveWorld {
     std::map<std::string, std::string> Tree() const;
     bool IsUsable() const;
 
-    FakePlatform p;
-    std::unique_ptr<frmThemeMorpho> window;
-    std::vector<std::string> prompts;  // of the Save As dialog, each time it was shown
+    Lines saveAsPrompts;  // of the dialog, each time it was shown
 };
 
 // The bytes of a package file with these members.

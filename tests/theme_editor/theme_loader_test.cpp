@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "theme_editor/theme_window.h"
+#include "theme_editor/theme_world.h"
 
 namespace morpho::test {
 namespace {
@@ -11,29 +11,24 @@ class ThemeLoaderTest : public ThemeWindow {
     void Load() {
         Open();
         Forget();
-        world_.application.pageCalls.clear();
-        window_->cmbThemeLabel.UserSelect(window_->cmbThemeLabel.ListCount() - 1);
+        world.application.openedPages = 0;
+        window->cmbThemeLabel.UserSelect(window->cmbThemeLabel.ListCount() - 1);
     }
-
-    // What a theme with this active sheet lists.
-    Lines ListedFrom(const std::string& css) {
+    // Loads a theme with this active sheet.
+    void LoadOdd(const std::string& css) {
         PutTheme("odd", "Odd", {});
-        for (const char* picture : {"a.gif", "b.gif", "sub\\c.gif", "caf\xC3\xA9.gif", "..\\a.gif"})
-            world_.files.PutFile(Original(picture, "odd"), "x");
-        world_.files.PutFile(Original("graph1.css", "odd"), css);
+        for (const char* picture : {"a.gif", "b.gif", "sub\\c.gif", "caf\xC3\xA9.gif"})
+            world.files.PutFile(kHostThemes + "odd\\" + picture, "x");
+        world.files.PutFile(kHostThemes + "odd\\graph1.css", css);
         Load();
-        return Listed();
     }
-
     void ExpectBullet(const std::string& css, const std::string& file) {
-        EXPECT_EQ(ListedFrom(css), Lines{"active/list-image-1=" + file}) << css;
+        LoadOdd(css);
+        EXPECT_EQ(Listed(), Lines{"active/list-image-1=" + file}) << css;
     }
-
     Lines LogOf(const std::string& start) const {
-        Lines lines;
-        for (const std::string& line : Log()) {
-            if (line.starts_with(start)) lines.push_back(line);
-        }
+        Lines lines = Log();
+        std::erase_if(lines, [&](const std::string& line) { return !line.starts_with(start); });
         return lines;
     }
 };
@@ -50,21 +45,19 @@ TEST_F(ThemeLoaderTest, ListsTheElementsWithPicturesInTheCataloguesOrderAllTicke
 }
 
 TEST_F(ThemeLoaderTest, WorksOnTheOnlyCopyAndNeverOnTheHostsFiles) {
-    world_.files.PutFile("C:\\Temp\\Morpho\\left\\over.gif", "x");
+    world.files.PutFile(kWorkRoot + "left\\over.gif", "x");
     Load();
-    EXPECT_THAT(world_.files.FilesBelow("C:\\Temp\\Morpho"),
+    EXPECT_THAT(world.files.FilesBelow(kWorkRoot),
                 ElementsAre("citrus\\dot.gif", "citrus\\graph0.css", "citrus\\graph1.css",
                             "citrus\\theme.css", "Theme.htm"));
-    window_->sldHue.UserSettle(40);
-    EXPECT_EQ(world_.files.Bytes(Original("dot.gif", "citrus")), "citrus/dot.gif");
+    window->sldHue.UserSettle(40);
+    EXPECT_EQ(world.files.Bytes(kHostThemes + "citrus\\dot.gif"), "citrus/dot.gif");
 }
 
 TEST_F(ThemeLoaderTest, LogsWhatItLooksFor) {
-    PutTheme("odd", "Odd", {{"active/navbutton-vert-hovered", "here.gif"}});
-    world_.files.PutFile(Original("graph1.css", "odd"),
-                         ".mstheme { nav-banner-image: url(gone.gif); navbutton-vert-normal: none }"
-                         ".mstheme { navbutton-vert-hovered: url('here.gif') }");
-    Load();
+    LoadOdd(
+        ".mstheme { nav-banner-image: url(gone.gif); navbutton-vert-normal: none }"
+        ".mstheme { navbutton-vert-hovered: url('a.gif') }");
     const Lines log = Log();
     EXPECT_THAT(Lines(log.begin(), log.begin() + 18),
                 ElementsAre("Changing theme combo selection to odd...", "Loading theme \"odd\"",
@@ -77,11 +70,11 @@ TEST_F(ThemeLoaderTest, LogsWhatItLooksFor) {
                             "    Attribute found: none", "  Parsing 2 rules...",
                             "  Selector found. Looking for attribute navbutton-vert-hovered...",
                             "  Selector found. Looking for attribute navbutton-vert-hovered...",
-                            "    Attribute found: url('here.gif')", "      file name: here.gif",
+                            "    Attribute found: url('a.gif')", "      file name: a.gif",
                             "  Parsing 2 rules..."));
     EXPECT_EQ(LogOf("  Parsing").size(), 38U);
-    EXPECT_EQ(std::ranges::count(world_.application.pageCalls, "Close"), 3);
-    EXPECT_EQ(std::ranges::count(world_.application.pageCalls, "Insert AfterBegin"), 3);
+    EXPECT_EQ(world.application.openedPages, 3);
+    EXPECT_EQ(world.application.openPages, 0);
     EXPECT_EQ(LogOf("  Opening").back(), "  Opening C:\\Temp\\Morpho\\odd\\theme.css");
     EXPECT_THAT(LogOf("  Selector:"), ElementsAre("  Selector: .mstheme", "  Selector: .mstheme",
                                                   "  Selector: .mstheme", "  Selector: body"));
@@ -100,15 +93,19 @@ TEST_F(ThemeLoaderTest, TakesThePictureFromTheFirstRuleOfThatSelectorThatNamesOn
 }
 
 TEST_F(ThemeLoaderTest, ListsNothingWithoutRuleNameOrPictureOfTheTheme) {
+    world.files.PutFile(kHostThemes + "a.gif", "another's");
+    world.files.PutFile(kWorkRoot + "a.gif", "another's");
     for (const char* css :
          {".mstheme, p { list-image-1: url(a.gif) }", ".mstheme p { list-image-1: url(a.gif) }",
-          ".mstheme { list-image-1: a.gif }", ".mstheme { list-image-1: url(a.gif }",
-          ".mstheme { list-image-1: url(sub) }", ".mstheme { list-image-1: url(..\\a.gif) }", ""})
-        EXPECT_THAT(ListedFrom(css), IsEmpty()) << css;
+          ".mstheme { list-image-1: a.gif }", ".mstheme { list-image-1: url(sub) }",
+          ".mstheme { list-image-1: url(../a.gif) }", ""}) {
+        LoadOdd(css);
+        EXPECT_THAT(Listed(), IsEmpty()) << css;
+    }
 }
 
 TEST_F(ThemeLoaderTest, ASheetThatCannotBeReadLeavesOutItsElementsOnly) {
-    world_.files.FailOn(Working("graph1.css"));
+    world.files.FailOn(kWorkRoot + "blends\\graph1.css");
     Open();
     EXPECT_EQ(Listed().size(), 4U);
     EXPECT_EQ(Listed().front(), "normal/nav-banner-image=Banner.GIF");
@@ -116,62 +113,61 @@ TEST_F(ThemeLoaderTest, ASheetThatCannotBeReadLeavesOutItsElementsOnly) {
 }
 
 TEST_F(ThemeLoaderTest, AFailureEndsTheLoadWithoutAMessageAndTheNextThemeLoadsAsEver) {
-    const auto expectEnd = [this](const char* why) {
-        Load();
+    const auto expectEnd = [this](const std::string& css, const char* why) {
+        LoadOdd(css);
         EXPECT_THAT(LogOf("Theme loaded."), IsEmpty()) << why;
         EXPECT_THAT(Log().back(), testing::EndsWith("occured in cmbThemeName_Click")) << why;
-        EXPECT_NE(window_->LoadFailure(), "") << why;
-        EXPECT_EQ(world_.application.openPages, 0) << why;
-        EXPECT_THAT(world_.toolkit.Messages(), IsEmpty()) << why;
+        EXPECT_NE(window->LoadFailure(), "") << why;
+        EXPECT_EQ(world.application.openPages, 0) << why;
+        EXPECT_THAT(world.toolkit.Messages(), IsEmpty()) << why;
     };
-    PutTheme("odd", "Odd", {});
-    world_.files.PutFile(Original("graph1.css", "odd"), ".mstheme { list-image-1: url( }");
-    expectEnd("nothing follows url");
-    world_.files.FailOn(Working("", "odd"));
-    expectEnd("the copy fails");
-    world_.files.FailNoMore();
-    world_.application.refusesPages = true;
-    expectEnd("the host opens no page");
+    expectEnd(".mstheme { list-image-1: url }", "nothing follows url");
+    world.files.FailOn(kWorkRoot + "odd");
+    expectEnd("", "the copy fails");
+    world.files.FailNoMore();
+    world.application.refusesPages = true;
+    expectEnd("", "the host opens no page");
 
-    world_.application.refusesPages = false;
-    window_->cmbThemeLabel.UserSelect(0);
+    world.application.refusesPages = false;
+    window->cmbThemeLabel.UserSelect(0);
     EXPECT_EQ(Listed().size(), 7U);
-    EXPECT_EQ(window_->LoadFailure(), "");
+    EXPECT_EQ(window->LoadFailure(), "");
 }
 
 TEST_F(ThemeLoaderTest, AChangedThemeIsLeftOnlyAfterANo) {
     Open();
     Tick({kButton});
-    window_->sldHue.UserSettle(40);
+    window->sldHue.UserSettle(40);
+    std::size_t told = 0;
     const auto pickCitrus = [&](Answer answer) {
         Forget();
-        const std::size_t told = world_.toolkit.Messages().size();
-        world_.toolkit.WillAnswer(answer);
-        window_->cmbThemeLabel.UserSelect(1);
-        ExpectNthMessage(told + 1,
-                         "Theme \"Blends\" modified.\r\nDo you wish to save the changes ?", 35);
+        world.toolkit.WillAnswer(answer);
+        window->cmbThemeLabel.UserSelect(1);
+        EXPECT_EQ(world.toolkit.Messages()[told].text,
+                  "Theme \"Blends\" modified.\r\nDo you wish to save the changes ?");
+        EXPECT_EQ(world.toolkit.Messages()[told].flags, kYesNoCancel | kQuestionIcon);
+        told = world.toolkit.Messages().size();
     };
-    const auto expectStill = [&](const Lines& log) {
-        EXPECT_EQ(window_->cmbThemeLabel.Text() + window_->cmbThemeName.Text(), "Blendsblends");
+    const auto expectStill = [&](const Lines& saving) {
+        EXPECT_EQ(window->cmbThemeLabel.Text() + window->cmbThemeName.Text(), "Blendsblends");
         ExpectPicture("button.gif", "blends/button.gif|h40 s1 b1");
-        EXPECT_EQ(Log(), log);
+        Lines expected{"Changing theme combo selection to citrus...",
+                       "Earlier theme modified: blends"};
+        expected.insert(expected.end(), saving.begin(), saving.end());
+        expected.emplace_back("Theme change/save cancelled. Reverting combo selections...");
+        EXPECT_EQ(Log(), expected);
     };
     pickCitrus(Answer::kCancel);
-    expectStill({"Changing theme combo selection to citrus...", "Earlier theme modified: blends",
-                 "Theme change/save cancelled. Reverting combo selections..."});
+    expectStill({});
     pickCitrus(Answer::kYes);  // this user has no folders of themes
-    expectStill({"Changing theme combo selection to citrus...", "Earlier theme modified: blends",
-                 "Saving modified theme...", "Saving theme \"Blends\" (blends)...",
-                 "Source theme: blends", "Unable to determine global themes folder path",
-                 "Theme change/save cancelled. Reverting combo selections..."});
+    expectStill({"Saving modified theme...", "Saving theme \"Blends\" (blends)...",
+                 "Source theme: blends", "Unable to determine global themes folder path"});
     pickCitrus(Answer::kNo);
     EXPECT_THAT(Listed(), ElementsAre("active/list-image-1=dot.gif"));
-    EXPECT_EQ(window_->sldHue.Value(), 0);
-    EXPECT_EQ(window_->History().UndoDepth(), 0);
-    const std::size_t told = world_.toolkit.Messages().size();
-    window_->cmbThemeLabel.UserSelect(0);
-    EXPECT_EQ(world_.toolkit.Messages().size(), told)
-        << "an unchanged theme is left without a word";
+    EXPECT_EQ(window->sldHue.Value(), 0);
+    EXPECT_EQ(window->History().UndoDepth(), 0);
+    window->cmbThemeLabel.UserSelect(0);
+    EXPECT_EQ(world.toolkit.Messages().size(), told) << "an unchanged theme is left silently";
 }
 
 }  // namespace

@@ -1,50 +1,77 @@
-#include "theme_editor/theme_window.h"
+#include "resources/embedded_resources.h"
+#include "resources/resource_ids.h"
+#include "theme_editor/theme_world.h"
 
 namespace morpho::test {
 namespace {
 
-constexpr const char* kPage = "C:\\Temp\\Morpho\\Theme.htm";
+const std::string kPage = kWorkRoot + "Theme.htm";
 
-using ThemePreviewTest = ThemeWindow;
+class ThemePreviewTest : public ThemeWindow {
+  protected:
+    ThemePreviewTest() {
+        world.resources.data[{std::string(kTemplateResource), kPreviewTemplate}] =
+            "<#active/list-image-1#><#Active/Nav-Banner-Image#><#normal/nav-banner-image#>"
+            "<#global/top-bar-button#>\xE9" +
+            std::string(2, '\0');
+    }
+};
 
 TEST_F(ThemePreviewTest, FillsThePlacesOfAllListedElementsAndLeavesTheOthers) {
+    PutTheme("\xE2\x82\xAC\xCE\xA9", "Greek", {{"active/list-image-1", "dot.gif"}});
     Open();
     Tick({kBackground});
-    window_->sldHue.UserSettle(40);
-    EXPECT_EQ(world_.files.Bytes(kPage),
+    window->sldHue.UserSettle(40);
+    EXPECT_EQ(world.files.Bytes(kPage),
               "<blends\\bullet.gif><blends\\banner.gif><blends\\Banner.GIF>"
               "<#global/top-bar-button#>\xE9" +
                   std::string(2, '\0') + "\r\n");
-}
-
-TEST_F(ThemePreviewTest, WritesWhatTheCodePageLacksAsNumericReferences) {
-    PutTheme("\xE2\x82\xAC\xCE\xA9", "Greek", {{"active/list-image-1", "dot.gif"}});
-    Open().cmbThemeLabel.UserSelect(2);
-    EXPECT_THAT(world_.files.Bytes(kPage), HasSubstr("<\x80&#937;\\dot.gif>"));
+    world.toolkit.WillAnswer(Answer::kNo);
+    window->cmbThemeLabel.UserSelect(2);
+    EXPECT_THAT(world.files.Bytes(kPage), HasSubstr("<\x80&#937;\\dot.gif>"));
 }
 
 TEST_F(ThemePreviewTest, NavigatesOnceAndThenOnlyReadsAgain) {
     Open();
-    EXPECT_THAT(browser_.asked, ElementsAre("navigate"));
-    EXPECT_EQ(window_->wbbImagePreview.Address(), kPage);
-    EXPECT_EQ(window_->wbbImagePreview.NavigationFlags(), 14);
+    EXPECT_THAT(browser->seen, ElementsAre("navigate"));
+    EXPECT_EQ(window->wbbImagePreview.Address(), kPage);
+    EXPECT_EQ(window->wbbImagePreview.NavigationFlags(), 14);
 
     Tick({kButton});
-    window_->sldHue.UserSettle(40);
-    window_->cmdApply.UserClick();
-    window_->cmdUndo.UserClick();
-    window_->cmdRedo.UserClick();
-    window_->cmdReset.UserClick();
-    EXPECT_THAT(browser_.asked, ElementsAre("refresh", "refresh", "refresh completely",
-                                            "refresh completely", "refresh"));
+    window->sldHue.UserSettle(40);
+    for (CommandButton* button :
+         {&window->cmdApply, &window->cmdUndo, &window->cmdRedo, &window->cmdReset})
+        button->UserClick();
+    EXPECT_THAT(browser->seen, ElementsAre("refresh", "refresh", "refresh completely",
+                                           "refresh completely", "refresh"));
 }
 
 TEST_F(ThemePreviewTest, APageThatCannotBeWrittenIsIgnored) {
-    world_.files.FailOn(kPage);
+    world.files.FailOn(kPage);
     Open();
-    EXPECT_FALSE(world_.files.HasFile(kPage));
-    EXPECT_THAT(browser_.asked, ElementsAre("navigate"));
+    EXPECT_FALSE(world.files.HasFile(kPage));
+    EXPECT_THAT(browser->seen, ElementsAre("navigate"));
     EXPECT_EQ(Log().back(), "TM loaded");
+}
+
+TEST(PreviewTemplate, HasAPlaceForEachElementOfTheCatalogueOnce) {
+    std::string page = EmbeddedResources().Bytes(kTemplateResource, kPreviewTemplate);
+    std::map<std::string, int> sheets;
+    int hovered = 0;
+    for (const CatalogueElement& element : kCatalogue) {
+        const std::string place = '#' + std::string(element.key) + '#';
+        ASSERT_NE(page.find(place), std::string::npos) << place;
+        page.erase(page.find(place), place.size());
+        ++sheets[std::string(element.key.substr(0, 6)) + std::string(element.styleSheet)];
+        if (element.Attribute().ends_with("-hovered")) ++hovered;
+        EXPECT_EQ(element.selector == "body", element.Attribute() == "background-image");
+    }
+    EXPECT_THAT(page, Not(HasSubstr("=\"#")));
+    EXPECT_THAT(page, HasSubstr("<body background=\"\""));
+    EXPECT_EQ(sheets, (std::map<std::string, int>{{"active\\graph1.css", 23},
+                                                  {"normal\\graph0.css", 13},
+                                                  {"global\\theme.css", 2}}));
+    EXPECT_EQ(hovered, 6) << "only active buttons are hovered";
 }
 
 }  // namespace

@@ -39,20 +39,11 @@ std::optional<std::vector<std::string>> NamesOf(std::string_view path) {
     return names;
 }
 
-// The path that the first `count` names make.
-std::string PathOf(const std::vector<std::string>& names, std::size_t count) {
-    std::string path = "/";
-    for (std::size_t i = 0; i < count; ++i)
-        path = JoinDiskPath(path, names[i]);
-    return path;
-}
-
 bool Exists(const std::string& diskPath) {
     struct stat status = {};
     return ::lstat(diskPath.c_str(), &status) == 0;
 }
 
-// The entry spelled so, else the first in byte order that differs in letter case only.
 std::optional<std::string> EntryIgnoringCase(const std::string& folder, const std::string& name) {
     const std::unique_ptr<DIR, int (*)(DIR*)> entries(::opendir(folder.c_str()), ::closedir);
     if (!entries) return {};
@@ -60,7 +51,6 @@ std::optional<std::string> EntryIgnoringCase(const std::string& folder, const st
     std::optional<std::string> found;
     while (const dirent* entry = ::readdir(entries.get())) {
         const std::string_view candidate = entry->d_name;
-        if (candidate == name) return name;
         if (candidate.size() != wanted.size() || Lowered(candidate) != wanted) continue;
         if (!found || candidate < *found) found = candidate;
     }
@@ -83,22 +73,25 @@ std::string ToWindowsPath(std::string_view diskPath) {
 std::optional<std::string> ToDiskPath(std::string_view windowsPath) {
     const auto names = NamesOf(windowsPath);
     if (!names) return {};
-    return PathOf(*names, names->size());
+    std::string path = "/";
+    for (const std::string& name : *names)
+        path = JoinDiskPath(path, name);
+    return path;
 }
 
 std::optional<std::string> FindOnDisk(std::string_view windowsPath) {
     const auto names = NamesOf(windowsPath);
     if (!names) return {};
-    // Nearly every path exists as spelled, which one look at its end tells.
-    std::size_t asSpelled = names->size();
-    while (asSpelled > 0 && !Exists(PathOf(*names, asSpelled)))
-        --asSpelled;
-    std::string path = PathOf(*names, asSpelled);
+    std::string path = "/";
     bool exists = true;
-    for (std::size_t i = asSpelled; i < names->size(); ++i) {
-        const auto actual = exists ? EntryIgnoringCase(path, (*names)[i]) : std::nullopt;
-        exists = actual.has_value();
-        path = JoinDiskPath(path, actual.value_or((*names)[i]));
+    for (const std::string& name : *names) {
+        std::string next = JoinDiskPath(path, name);
+        if (exists && !Exists(next)) {
+            const auto actual = EntryIgnoringCase(path, name);
+            if (actual) next = JoinDiskPath(path, *actual);
+            exists = actual.has_value();
+        }
+        path = std::move(next);
     }
     return path;
 }
@@ -134,11 +127,6 @@ std::string NameToDisk(std::string_view name) {
         }
     }
     return diskName;
-}
-
-bool IsEntryName(std::string_view diskName) {
-    return !diskName.empty() && diskName != "." && diskName != ".." &&
-           diskName.find('/') == diskName.npos && diskName.find('\0') == diskName.npos;
 }
 
 std::string ParentFolder(std::string_view diskPath) {

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <functional>
 #include <map>
 #include <set>
 
@@ -23,7 +22,7 @@ namespace {
 using Member = ThemePackage::Member;
 
 std::optional<std::string> FileOf(const DiskFolder& folder, const std::string& name) {
-    const auto entry = folder.Find(name);
+    const auto entry = FindEntry(folder, name);
     if (!entry) return {};
     return ReadWebFile(folder, entry->name);
 }
@@ -34,7 +33,7 @@ std::optional<std::vector<Member>> InstalledIn(const std::string& store, const s
     std::error_code ignored;
     if (store.empty() || !std::filesystem::is_directory(store, ignored)) return {};
     const DiskFolder themes = DiskFolder::Open(store, true);
-    const auto entry = themes.Find(NameToDisk(name));
+    const auto entry = FindEntry(themes, NameToDisk(name));
     if (!entry || entry->kind != DiskKind::kFolder) return {};
     const DiskFolder folder = themes.Subfolder(entry->name);
     const auto description = FileOf(folder, entry->name + ".inf");
@@ -60,7 +59,7 @@ void KeepOwnPictures(std::vector<Member>& members) {
     }
 }
 
-// Gives a folder the members of a package. Unless all goes well, everything is put back.
+// A folder's files while they are replaced. Unless it is finished, all is put back.
 class FolderUpdate {
   public:
     FolderUpdate(WebWriter& writer, const DiskFolder& folder) : writer_(writer), folder_(folder) {
@@ -70,39 +69,37 @@ class FolderUpdate {
         }
     }
     ~FolderUpdate() {
-        if (!isDone_) PutAllBack();
+        if (isFinished_) return;
+        for (const auto& [path, bytes] : earlier_)
+            PutBack(path, bytes);
     }
     FolderUpdate(const FolderUpdate&) = delete;
     FolderUpdate& operator=(const FolderUpdate&) = delete;
 
-    void Write(const std::vector<Member>& members) {
-        for (const Member& member : members)
-            Prepare(member);
-        writer_.ReplaceFiles(replaced_);
-        for (const FileChange& change : replaced_) {
-            if (change.failure) throw RunTimeError(*change.failure);
-        }
-        for (; added_ < new_.size(); ++added_)
-            writer_.AddFile(new_[added_].path, new_[added_].bytes);
-        writer_.Flush();
-        isDone_ = true;
-    }
-
-  private:
     // Refuses, before anything is written, what cannot become a file.
-    void Prepare(const Member& member) {
+    void Check(const Member& member) const {
         const std::string name = NameToDisk(member.name);
         const DiskEntry* existing = Existing(name);
         if (!IsEntryName(name) || (existing && existing->kind != DiskKind::kFile))
             throw FileError(ErrorNumber::kPathFileAccess, folder_.PathOf(name),
                             "could not be written", "something stands there that is no file");
-        if (!existing) return new_.push_back({folder_.PathOf(name), member.bytes});
-        std::string bytes = ReadWebFile(folder_, existing->name);
-        if (bytes == member.bytes) return;
-        replaced_.push_back({folder_.PathOf(existing->name), member.bytes});
-        earlier_.push_back(std::move(bytes));
     }
 
+    void Write(const Member& member) {
+        std::string name = NameToDisk(member.name);
+        std::optional<std::string> bytes;
+        if (const DiskEntry* existing = Existing(name)) {
+            name = existing->name;
+            bytes = ReadWebFile(folder_, name);
+            if (*bytes == member.bytes) return;
+        }
+        writer_.ReplaceFile(folder_.PathOf(name), member.bytes);
+        earlier_.emplace_back(folder_.PathOf(name), std::move(bytes));
+    }
+
+    void Finish() { isFinished_ = true; }
+
+  private:
     // What this name means: the entry spelled so, else one that differs in letter case only.
     const DiskEntry* Existing(const std::string& name) const {
         auto found = entries_.find(name);
@@ -110,19 +107,14 @@ class FolderUpdate {
         return found == entries_.end() ? nullptr : &found->second;
     }
 
-    void PutAllBack() {
-        for (std::size_t i = 0; i < added_; ++i)
-            AsFarAsPossible([&] { writer_.RemoveFile(new_[i].path); });
-        for (std::size_t i = 0; i < replaced_.size(); ++i) {
-            if (replaced_[i].isDone)
-                AsFarAsPossible([&] { writer_.ReplaceFile(replaced_[i].path, earlier_[i]); });
-        }
-    }
-
-    static void AsFarAsPossible(const std::function<void()>& step) {
+    void PutBack(const std::string& path, const std::optional<std::string>& bytes) const noexcept {
         try {
-            step();
-        } catch (const RunTimeError&) {
+            if (bytes) {
+                writer_.ReplaceFile(path, *bytes);
+            } else {
+                writer_.RemoveFile(path);
+            }
+        } catch (const std::exception&) {
             // The others may still go back; the next save of this theme writes it anew.
         }
     }
@@ -130,11 +122,8 @@ class FolderUpdate {
     WebWriter& writer_;
     const DiskFolder& folder_;
     std::map<std::string, DiskEntry> entries_;  // by their names, also in lower case
-    std::vector<FileChange> replaced_;
-    std::vector<std::string> earlier_;  // what stood in the replaced
-    std::vector<FileChange> new_;       // in the order of the package
-    std::size_t added_ = 0;             // how many of the new ones are there
-    bool isDone_ = false;
+    std::vector<std::pair<std::string, std::optional<std::string>>> earlier_;
+    bool isFinished_ = false;
 };
 
 std::optional<DiskFolder> FolderOfTheme(const WebSession& web, const std::string& diskName) {
@@ -144,9 +133,19 @@ std::optional<DiskFolder> FolderOfTheme(const WebSession& web, const std::string
 // "_themes" in the web, created when it is missing.
 DiskFolder ThemesFolder(const WebSession& web) {
     const DiskFolder root = web.Root();
-    const auto entry = root.Find("_themes");
+    const auto entry = FindEntry(root, "_themes");
     if (!entry) web.writer->MakeFolder(root.PathOf("_themes"));
     return root.Subfolder(entry ? entry->name : "_themes");
+}
+
+void WriteMembers(const WebSession& web, const DiskFolder& folder,
+                  const std::vector<Member>& members) {
+    FolderUpdate update(*web.writer, folder);
+    for (const Member& member : members)
+        update.Check(member);
+    for (const Member& member : members)
+        update.Write(member);
+    update.Finish();
 }
 
 void CreateWithMembers(const WebSession& web, const std::string& diskName,
@@ -154,8 +153,7 @@ void CreateWithMembers(const WebSession& web, const std::string& diskName,
     const DiskFolder themes = ThemesFolder(web);
     web.writer->MakeFolder(themes.PathOf(diskName));
     try {
-        const DiskFolder folder = themes.Subfolder(diskName);
-        FolderUpdate(*web.writer, folder).Write(members);
+        WriteMembers(web, themes.Subfolder(diskName), members);
     } catch (const RunTimeError&) {
         // Empty again by now; one that stays is no theme.
         ::rmdir(themes.PathOf(diskName).c_str());
@@ -172,11 +170,11 @@ std::string PutThemeIntoWeb(const WebSession& web, const std::string& name) {
     auto members = InstalledIn(web.stores.ofUser, name);
     if (!members) members = InstalledIn(web.stores.forWeb, name);
     const auto folder = FolderOfTheme(web, diskName);
-    if (!members && (!folder || !folder->Find(diskName + ".inf")))
+    if (!members && (!folder || !FindEntry(*folder, diskName + ".inf")))
         throw RunTimeError(ErrorNumber::kAutomation,
                            "There is no theme \"" + name + "\" to be applied.");
     if (members) KeepOwnPictures(*members);
-    if (folder && members) FolderUpdate(*web.writer, *folder).Write(*members);
+    if (folder && members) WriteMembers(web, *folder, *members);
     if (!folder) CreateWithMembers(web, diskName, *members);
     return folder ? NameFromDisk(LastName(folder->Path())) : name;
 }

@@ -1,0 +1,135 @@
+#include "theme_editor/theme_world.h"
+
+#include "image_editor/frm_jpeg_qf.h"
+#include "resources/resource_ids.h"
+#include "shared/reg_key.h"
+#include "theme_editor/frm_prompt_duplicate.h"
+
+namespace morpho::test {
+namespace {
+
+constexpr const char* kSettings = "Software\\VB and VBA Program Settings\\Theme Morpho\\Window";
+
+}  // namespace
+
+void Onlooker::Write(Aspects changed) {
+    if (changed == aspect::kCaption) seen.push_back(control_.Caption());
+    if (changed == aspect::kNavigate) seen.emplace_back("navigate");
+    if (changed == aspect::kReload) seen.emplace_back("refresh");
+    if (changed == aspect::kReloadCompletely) seen.emplace_back("refresh completely");
+}
+
+ThemeWorld::ThemeWorld() {
+    PutShellFolder("Cache", "C:\\Cache");
+    PutSetting("Logging", "2");
+    PutSetting("Splash", "0");
+    PutSetting("QuickReference", "0");
+    world.toolkit.WillPlay("frmPromptDuplicate", [this](Form& form) {
+        auto& notice = dynamic_cast<frmPromptDuplicate&>(form);
+        notices.push_back(notice.Caption() + ": " + notice.lblMessage.Caption());
+        notice.chkDontShowAgain.UserSet(tickDontShow);
+        notice.btnOK.UserClick();
+    });
+    world.toolkit.WillPlay("frmJPEGQF", [this](Form& form) {
+        ++prompts;
+        auto& prompt = dynamic_cast<frmJPEGQF&>(form);
+        prompt.vsQF.UserSet(60);
+        prompt.btnOK.UserClick();
+    });
+}
+
+void ThemeWorld::PutTheme(const std::string& name, const std::string& label,
+                          const Pictures& pictures) {
+    const std::string folder = kHostThemes + name;
+    std::map<std::string, std::string> sheets;
+    for (const CatalogueElement& element : kCatalogue) {
+        std::string& css = sheets[std::string(element.styleSheet)];
+        for (const auto& [key, file] : pictures) {
+            if (key != element.key) continue;
+            css += std::string(element.selector) + " { " + std::string(element.Attribute()) +
+                   ": url(" + file + "); }\r\n";
+            if (!world.files.HasFile(folder + '\\' + file))
+                world.files.PutFile(folder + '\\' + file, name + '/' + file);
+        }
+    }
+    for (const auto& [sheet, css] : sheets)
+        world.files.PutFile(folder + sheet, css);
+    world.application.web->themes.push_back({name, label});
+}
+
+void ThemeWorld::PutSetting(const std::string& key, const std::string& value) {
+    world.registry.Put(kCurrentUser, kSettings, key, value);
+}
+
+std::string ThemeWorld::Setting(const std::string& key) const {
+    return world.registry.UserText(kSettings, key).value_or("(none)");
+}
+
+void ThemeWorld::PutShellFolder(const std::string& name, const std::string& path) {
+    world.registry.Put(kCurrentUser, std::string(kShellFolders), name, path);
+}
+
+frmThemeMorpho& ThemeWorld::Open() {
+    browser.reset();
+    window.emplace(world.program);
+    browser.emplace(window->wbbImagePreview);
+    window->Load();
+    return *window;
+}
+
+void ThemeWorld::Forget() {
+    world.shell.debugLines.clear();
+    world.colorizers.calls.clear();
+    browser->seen.clear();
+    notices.clear();
+    prompts = 0;
+}
+
+void ThemeWorld::ExpectMessage(std::size_t count, const std::string& text, int flags) const {
+    ASSERT_EQ(world.toolkit.Messages().size(), count);
+    const HeadlessToolkit::Message& message = world.toolkit.Messages().back();
+    EXPECT_EQ(message.text, text);
+    EXPECT_EQ(message.flags, flags);
+    EXPECT_EQ(message.title, "Theme Morpho");
+}
+
+ThemeWindow::ThemeWindow() {
+    world.application.web->themeOfWeb = "blends";
+    PutTheme("blends", "Blends",
+             {{"active/nav-banner-image", "banner.gif"},
+              {"active/navbutton-vert-normal", "button.gif"},
+              {"active/list-image-1", "bullet.gif"},
+              {"normal/nav-banner-image", "Banner.GIF"},
+              {"normal/list-image-1", "nbullet.gif"},
+              {"normal/separator-image", "line.jpg"},
+              {"global/background-image", "back.JPEG"}});
+    PutTheme("citrus", "Citrus Punch", {{"active/list-image-1", "dot.gif"}});
+}
+
+void ThemeWindow::Tick(const std::vector<int>& rows) {
+    window->cmdSelectNone.UserClick();
+    for (const int row : rows)
+        window->lstImageNames.UserCheck(row, true);
+    Forget();
+}
+
+std::vector<int> ThemeWindow::Ticked() const {
+    std::vector<int> rows;
+    for (int row = 0; row < window->lstImageNames.ListCount(); ++row) {
+        if (window->lstImageNames.Selected(row)) rows.push_back(row);
+    }
+    return rows;
+}
+
+Lines ThemeWindow::Listed() const {
+    Lines listed;
+    for (int row = 0; row < window->lstImageNames.ListCount(); ++row)
+        listed.push_back(window->lstImageNames.List(row) + "=" + window->lstGifNames.List(row));
+    return listed;
+}
+
+void ThemeWindow::ExpectPicture(const std::string& file, const std::string& bytes) const {
+    EXPECT_EQ(world.files.Bytes(kWorkRoot + "blends\\" + file), bytes);
+}
+
+}  // namespace morpho::test

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "support/fake_platform.h"
+#include "theme_editor/frm_theme_morpho.h"
+
+namespace morpho::test {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using Lines = std::vector<std::string>;
+
+inline const std::string kGlobalThemes = "C:\\Common\\Microsoft Shared\\Themes11\\";
+inline const std::string kUserThemes = "C:\\Ann\\Microsoft\\Themes\\";
+inline const std::string kHostThemes = "C:\\Cache\\FrontPageTempDir\\mstheme\\";
+inline const std::string kWebThemes = "C:\\Web\\_themes\\";
+inline const std::string kWorkRoot = "C:\\Temp\\Morpho\\";
+
+// Remembers what a control was told to show: a browser what it does, a label its text.
+class Onlooker : public Peer {
+  public:
+    explicit Onlooker(Control& control) : control_(control) { control_.Attach(this); }
+    ~Onlooker() override { control_.Attach(nullptr); }
+    Lines seen;
+
+  protected:
+    void Write(Aspects changed) override;
+
+  private:
+    Control& control_;
+};
+
+// The Theme Morpho window in a world where it has all it needs but themes. The log goes to the
+// debugger output, and neither the About box nor the quick reference is shown at the start.
+struct ThemeWorld {
+    using Pictures = std::vector<std::pair<std::string, std::string>>;  // element key, file
+
+    ThemeWorld();
+
+    // A theme of the web that the host has unpacked. The picture a.gif holds "blends/a.gif".
+    void PutTheme(const std::string& name, const std::string& label, const Pictures& pictures);
+    void PutSetting(const std::string& key, const std::string& value);
+    std::string Setting(const std::string& key) const;  // "(none)" when there is none
+    void PutShellFolder(const std::string& name, const std::string& path);
+
+    frmThemeMorpho& Open();
+    void Forget();  // what was logged and asked until now
+    Lines Log() const { return world.LogLines(); }
+    // That so many messages were shown, and the last one.
+    void ExpectMessage(std::size_t count, const std::string& text, int flags) const;
+
+    FakePlatform world;
+    std::optional<frmThemeMorpho> window;
+    std::optional<Onlooker> browser;
+    Lines notices;              // what the shared-image notice said
+    bool tickDontShow = false;  // the person ticks its box
+    int prompts = 0;            // how often the JPEG quality was asked; the answer is 60
+};
+
+// The window on a web with two themes, "blends" and "citrus". Questions that no test answers are
+// failures.
+class ThemeWindow : public testing::Test, protected ThemeWorld {
+  protected:
+    // Rows of "blends", as listed; the two banners share an image.
+    enum Row { kBanner, kButton, kBullet, kNormalBanner, kNormalBullet, kLine, kBackground };
+
+    ThemeWindow();
+    void TearDown() override { EXPECT_THAT(world.toolkit.Unscripted(), IsEmpty()); }
+
+    // Ticks these rows alone and forgets what was logged and asked until then.
+    void Tick(const std::vector<int>& rows);
+    std::vector<int> Ticked() const;
+    Lines Listed() const;  // "key=file", in the list's order
+    void ExpectPicture(const std::string& file, const std::string& bytes) const;
+};
+
+class OpenThemeWindow : public ThemeWindow {
+  protected:
+    OpenThemeWindow() { Open(); }
+};
+
+}  // namespace morpho::test
