@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "desktop/disk/disk_path.h"
 #include "desktop/temporary_folder.h"
 #include "forms/headless_toolkit.h"
 #include "frontpage/environment.h"
@@ -18,27 +17,11 @@ class DesktopPlatformTest : public testing::Test {
         const UserFolders folders{home_ / "", home_ / "cache/morpho", home_ / "data/morpho"};
         return std::make_unique<DesktopPlatform>(use, folders, toolkit_, resources_);
     }
-    static std::string ThemesFolder(DesktopPlatform& desktop, bool shared) {
-        return GetFrontPageFolder(desktop.Parts(), desktop.FrontPage().Version(),
-                                  FrontPageFolder::kThemes, "1033", shared);
-    }
 
     TemporaryFolder home_;
     HeadlessToolkit toolkit_;
     EmbeddedResources resources_;
 };
-
-TEST_F(DesktopPlatformTest, TheEditorsFindTheirFolders) {
-    const auto desktop = Start(DesktopUse::kWindows);
-    const Platform& platform = desktop->Parts();
-    const std::string data = ToWindowsPath(home_ / "data/morpho");
-    EXPECT_EQ(GetTempPath(platform), ToWindowsPath(desktop->WorkFolder().Temporary()) + "\\");
-    EXPECT_EQ(GetCachePath(platform, desktop->FrontPage().Version()),
-              ToWindowsPath(desktop->WorkFolder().Cache()));
-    EXPECT_EQ(ThemesFolder(*desktop, true), data + "\\CommonFiles\\Microsoft Shared\\Themes11");
-    EXPECT_EQ(ThemesFolder(*desktop, false), data + "\\AppData\\Microsoft\\Themes");
-    EXPECT_TRUE(home_.Has("data/morpho/AppData"));
-}
 
 TEST_F(DesktopPlatformTest, WindowsKeepSettingsAndBatchesForgetThem) {
     const auto splash = [&](DesktopUse use) {
@@ -62,8 +45,11 @@ TEST_F(DesktopPlatformTest, ThemesOfAWebAreInstalledWhereOnlyThisWebFindsThem) {
     const auto installed = [this](const char* web) {
         const auto desktop = Start(DesktopUse::kBatch);
         desktop->OpenForSaving(home_ / web);
+        const std::string folder =
+            GetFrontPageFolder(desktop->Parts(), desktop->FrontPage().Version(),
+                               FrontPageFolder::kThemes, "1033", true);
         std::string names;
-        for (const FileEntry& theme : desktop->Parts().files.List(ThemesFolder(*desktop, true)))
+        for (const FileEntry& theme : desktop->Parts().files.List(folder))
             names += theme.name + " ";
         return names;
     };
