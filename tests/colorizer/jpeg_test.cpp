@@ -199,8 +199,8 @@ TEST(Jpeg, ComesBackAfterWholeTurns) {
     for (const bool isProgressive : {false, true}) {
         kind.isProgressive = isProgressive;
         const Bytes jpeg = MakeJpeg(kind);
-        EXPECT_EQ(Coefficients(AfterPasses(jpeg, 4, {1, 1, 90})), Coefficients(jpeg));
-        EXPECT_EQ(Coefficients(AfterPasses(jpeg, 2, {1, 1, -540})), Coefficients(jpeg));
+        EXPECT_EQ(Samples(AfterPasses(jpeg, 4, {1, 1, 90})), Samples(jpeg));
+        EXPECT_EQ(Samples(AfterPasses(jpeg, 2, {1, 1, -540})), Samples(jpeg));
         EXPECT_LT(MeanError(jpeg, AfterPasses(jpeg, 10, {1, 1, 36}), {}, 'y'), 2.5);
     }
 }

@@ -100,52 +100,25 @@ Bytes MakeSegment(int marker, const Bytes& content) {
            content;
 }
 
-namespace {
-
-template <class Read>
-void Decode(const Bytes& jpeg, const Read& read) {
+Bytes Samples(const Bytes& jpeg) {
     jpeg_error_mgr errors;
     jpeg_decompress_struct info;
     info.err = jpeg_std_error(&errors);
     jpeg_create_decompress(&info);
     jpeg_mem_src(&info, jpeg.data(), static_cast<unsigned long>(jpeg.size()));
     jpeg_read_header(&info, TRUE);
-    read(info);
+    info.out_color_space = info.jpeg_color_space;
+    info.do_fancy_upsampling = FALSE;
+    info.do_block_smoothing = FALSE;
+    jpeg_start_decompress(&info);
+    const std::size_t rowBytes = std::size_t{info.output_width} * info.output_components;
+    Bytes samples(rowBytes * info.output_height);
+    while (info.output_scanline < info.output_height) {
+        JSAMPROW row = samples.data() + rowBytes * info.output_scanline;
+        jpeg_read_scanlines(&info, &row, 1);
+    }
     jpeg_destroy_decompress(&info);
-}
-
-}  // namespace
-
-Bytes Samples(const Bytes& jpeg) {
-    Bytes samples;
-    Decode(jpeg, [&](jpeg_decompress_struct& info) {
-        info.out_color_space = info.jpeg_color_space;
-        info.do_fancy_upsampling = FALSE;
-        info.do_block_smoothing = FALSE;
-        jpeg_start_decompress(&info);
-        const std::size_t rowBytes = std::size_t{info.output_width} * info.output_components;
-        samples.resize(rowBytes * info.output_height);
-        while (info.output_scanline < info.output_height) {
-            JSAMPROW row = samples.data() + rowBytes * info.output_scanline;
-            jpeg_read_scanlines(&info, &row, 1);
-        }
-    });
     return samples;
-}
-
-std::vector<std::int16_t> Coefficients(const Bytes& jpeg) {
-    std::vector<std::int16_t> all;
-    Decode(jpeg, [&](jpeg_decompress_struct& info) {
-        jvirt_barray_ptr* const arrays = jpeg_read_coefficients(&info);
-        for (int c = 0; c < info.num_components; ++c) {
-            for (JDIMENSION y = 0; y < info.comp_info[c].height_in_blocks; ++y) {
-                const JBLOCKROW row = info.mem->access_virt_barray(
-                    reinterpret_cast<j_common_ptr>(&info), arrays[c], y, 1, FALSE)[0];
-                all.insert(all.end(), row[0], row[info.comp_info[c].width_in_blocks]);
-            }
-        }
-    });
-    return all;
 }
 
 Bytes MakeGif(std::vector<std::pair<std::size_t, std::size_t>>* tables) {

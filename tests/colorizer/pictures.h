@@ -42,8 +42,6 @@ Bytes MakeSegment(int marker, const Bytes& content);
 
 /// Samples of all components, interleaved, coarser ones repeated; YCbCr for colour pictures.
 Bytes Samples(const Bytes& jpeg);
-/// All coefficients, component by component.
-std::vector<std::int16_t> Coefficients(const Bytes& jpeg);
 
 /// An animated GIF89a with a global table, a local one, an interlaced frame, a transparent colour,
 /// a comment and an application block. `tables` gets the place and entry count of each colour

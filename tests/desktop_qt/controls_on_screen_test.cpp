@@ -40,20 +40,6 @@ TEST_F(ControlsOnScreen, ABurstOfKeysSettlesOnceAndBeforeAnythingElseIsDone) {
     });
 }
 
-TEST_F(ControlsOnScreen, SliderKeysMoveByTheModelsSteps) {
-    Show([&](QWidget& window) {
-        const auto expectValue = [&](Qt::Key key, int value) {
-            QTest::keyClick(&Find(window, form_.sldHue), key);
-            EXPECT_EQ(form_.sldHue.Value(), value) << QKeySequence(key).toString().toStdString();
-        };
-        expectValue(Qt::Key_PageUp, 20);
-        expectValue(Qt::Key_Left, 19);
-        expectValue(Qt::Key_PageDown, -1);
-        expectValue(Qt::Key_Home, -180);
-        expectValue(Qt::Key_End, 180);
-    });
-}
-
 TEST_F(ControlsOnScreen, ASliderOfOtherLimitsKeepsItsValue) {
     int raised = 0;
     const auto raise = [&] { ++raised; };
@@ -94,16 +80,6 @@ TEST_F(ControlsOnScreen, OnlyAClickOnTheBoxOrADoubleClickTicks) {
         expectTicked("click on the box", true, 1);
         QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, text);
         expectTicked("double click on the text", false, 2);
-    });
-}
-
-TEST_F(ControlsOnScreen, AHandlerMayTickOtherEntries) {
-    Show([&](QWidget& window) {
-        auto& list = Find<QListWidget>(window, form_.lstNames);
-        form_.answer = [&] { form_.lstNames.SetSelectedQuietly(9, true); };
-        list.setCurrentRow(0);
-        QTest::keyClick(&list, Qt::Key_Space);
-        EXPECT_EQ(list.item(9)->checkState(), Qt::Checked);
     });
 }
 

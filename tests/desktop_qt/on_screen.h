@@ -42,17 +42,15 @@ class OnScreen : public testing::Test {
     QtToolkit toolkit_{files_, {}};
 
   private:
-    void Run(Form& form) {
-        const auto script = scripts_.find(form.Name());
-        for (QWidget* const window : QApplication::topLevelWidgets()) {
-            if (window->objectName().toStdString() != form.Name()) continue;
-            if (script != scripts_.end()) script->second(*window);
-        }
-        form.Hide();
-    }
-
     void SetUp() override {
-        toolkit_.WhenFormStands([this](Form& form) { Run(form); });
+        toolkit_.WhenFormStands([this](Form& form) {
+            const auto script = scripts_.find(form.Name());
+            for (QWidget* const window : QApplication::topLevelWidgets()) {
+                if (script != scripts_.end() && window->objectName().toStdString() == form.Name())
+                    script->second(*window);
+            }
+            form.Hide();
+        });
     }
 
     std::map<std::string, std::function<void(QWidget&)>> scripts_;

@@ -86,7 +86,7 @@ TEST_F(WebBrowserTest, ARefreshShowsTheChangedPictureAtTheSamePlace) {
     });
 }
 
-TEST_F(WebBrowserTest, EscapeIsNotKeptByThePage) {
+TEST_F(WebBrowserTest, EscapeClosesTheFormAndIsNotKeptByThePage) {
     files_.PutFile("C:\\Work\\Theme.htm", "<p>page");
     Show([&](QWidget& window) {
         Shown();

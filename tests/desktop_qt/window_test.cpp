@@ -7,13 +7,7 @@
 namespace morpho::test {
 namespace {
 
-class WindowTest : public GalleryOnScreen {};
-
-class Dialog : public Form {
-  public:
-    explicit Dialog(Toolkit& toolkit) : Form(toolkit, {"frmDialog", "Dialog", {3000, 1500}}) {}
-    CommandButton btnOK{*this, {"btnOK", {60, 60, 900, 345}, "OK"}, [this] { Hide(); }};
-};
+using WindowTest = GalleryOnScreen;
 
 TEST_F(WindowTest, KeysReachWhatTheyStandFor) {
     Show([&](QWidget& window) {
@@ -78,23 +72,16 @@ TEST_F(WindowTest, EscapePressesTheCancelButtonAndTheFormMayRefuse) {
     });
 }
 
-TEST_F(WindowTest, ADialogWithoutCancelButtonClosesOnEscape) {
-    Dialog dialog(toolkit_);
-    OnScreen::Show(dialog, [&](QWidget& window) {
-        QTest::keyClick(&window, Qt::Key_Escape);
-        EXPECT_FALSE(dialog.IsLoaded());
-    });
-}
-
 TEST_F(WindowTest, ADialogStandsInTheMiddleOfItsOwnerAndReturnsToIt) {
-    Dialog dialog(toolkit_);
+    Form dialog(toolkit_, {"frmDialog", "Dialog", {3000, 1500}});
+    CommandButton button(dialog, {"btnOK", {60, 60, 900, 345}, "OK"}, [&] { dialog.Hide(); });
     Show([&](QWidget& window) {
         WhenStands("frmDialog", [&](QWidget& over) {
             EXPECT_TRUE(over.isModal());
             const QPoint off = over.frameGeometry().center() - window.frameGeometry().center();
             EXPECT_LE(off.manhattanLength(), 4);
             EXPECT_EQ(over.size(), QSize(200, 100));
-            QTest::mouseClick(&Find(over, dialog.btnOK), Qt::LeftButton);
+            QTest::mouseClick(&Find(over, button), Qt::LeftButton);
             EXPECT_FALSE(over.isVisible());
         });
         dialog.ShowModal();

@@ -8,15 +8,6 @@
 
 namespace fs = std::filesystem;
 
-namespace {
-
-// A table of 2^(n+1) colours where the lowest three bits of `flags` are n, if the highest is set.
-std::size_t TableBytes(unsigned char flags) {
-    return (flags & 0x80) != 0 ? 3u << ((flags & 7) + 1) : 0;
-}
-
-}  // namespace
-
 void ProgramTest::StartAfresh() const {
     fs::remove_all(home_ / "web");
     fs::remove_all(home_ / "data");
@@ -55,27 +46,6 @@ void ProgramTest::ExpectRefusal(const std::string& arguments, int status,
     EXPECT_EQ(outcome.out, "");
     EXPECT_FALSE(home_.Has("out"));
     EXPECT_EQ(Web(), before);
-}
-
-std::string WithoutColours(std::string gif) {
-    const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(gif.at(at)); };
-    const auto blank = [&](std::size_t at, std::size_t size) { gif.replace(at, size, size, '\0'); };
-    std::size_t at = 13;
-    blank(at, TableBytes(byte(10)));
-    at += TableBytes(byte(10));
-    while (byte(at) != 0x3B) {
-        if (byte(at) == 0x21) {
-            at += 2;  // extension and its label
-        } else {
-            const std::size_t table = TableBytes(byte(at + 9));
-            blank(at + 10, table);
-            at += 10 + table + 1;  // descriptor, table, code size
-        }
-        while (byte(at) != 0)
-            at += byte(at) + 1u;
-        ++at;
-    }
-    return gif;
 }
 
 std::string Replaced(std::string text, const std::string& from, const std::string& to) {

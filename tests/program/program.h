@@ -42,7 +42,4 @@ class ProgramTest : public testing::Test {
     const morpho::TemporaryFolder home_;
 };
 
-// The file with all bytes of its colour tables set to 0, so that two GIFs compare equal when they
-// differ in colours only.
-std::string WithoutColours(std::string gif);
 std::string Replaced(std::string text, const std::string& from, const std::string& to);

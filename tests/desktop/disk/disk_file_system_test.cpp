@@ -1,5 +1,6 @@
 #include "desktop/disk/disk_file_system.h"
 
+#include <gmock/gmock.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -26,20 +27,17 @@ class DiskHost {
 INSTANTIATE_TYPED_TEST_SUITE_P(Disk, FileSystemContract, DiskHost);
 
 namespace fs = std::filesystem;
+using testing::AllOf, testing::HasSubstr, testing::Property, testing::Throws;
 
 class DiskFileSystemTest : public testing::Test {
   protected:
     std::string Windows(const std::string& name) const { return ToWindowsPath(folder_ / name); }
 
-    void ExpectError(ErrorNumber number, const std::string& named,
-                     const std::function<void()>& operation) {
-        try {
-            operation();
-            ADD_FAILURE() << "no error for " << named;
-        } catch (const RunTimeError& error) {
-            EXPECT_EQ(error.Number(), number) << error.what();
-            EXPECT_NE(std::string(error.what()).find(named), std::string::npos) << error.what();
-        }
+    static void ExpectError(ErrorNumber number, const char* named,
+                            const std::function<void()>& operation) {
+        EXPECT_THAT(operation,
+                    Throws<RunTimeError>(AllOf(Property(&RunTimeError::Number, number),
+                                               Property(&RunTimeError::what, HasSubstr(named)))));
     }
 
     TemporaryFolder folder_;

@@ -1,6 +1,6 @@
 #include "desktop/host/colorizer_adapter.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "desktop/disk/disk_path.h"
 #include "desktop/temporary_folder.h"
@@ -8,6 +8,8 @@
 
 namespace morpho {
 namespace {
+
+using testing::Property, testing::Throws;
 
 class ColorizerAdapterTest : public testing::Test {
   protected:
@@ -25,12 +27,8 @@ class ColorizerAdapterTest : public testing::Test {
     }
     void ExpectError(const std::string& source, ErrorNumber number) {
         colorizer_->SetSourceFile(source);
-        try {
-            colorizer_->Colorize();
-            ADD_FAILURE() << source;
-        } catch (const RunTimeError& error) {
-            EXPECT_EQ(error.Number(), number) << error.what();
-        }
+        EXPECT_THAT([this] { colorizer_->Colorize(); },
+                    Throws<RunTimeError>(Property(&RunTimeError::Number, number)));
         EXPECT_FALSE(folder_.Has("out"));
     }
 

@@ -5,7 +5,6 @@
 #include <thread>
 
 #include "desktop/disk/disk_path.h"
-#include "desktop/system/desktop_environment.h"
 #include "desktop/system/desktop_shell.h"
 #include "desktop/system/user_folders.h"
 #include "desktop/temporary_folder.h"
@@ -25,14 +24,6 @@ TEST(UserFolders, FollowTheEnvironment) {
     expectFolders({}, "/home/ann/.cache/morpho", "/home/ann/.local/share/morpho");
     expectFolders({{"XDG_DATA_HOME", "/d"}, {"XDG_CACHE_HOME", "relative"}},
                   "/home/ann/.cache/morpho", "/d/morpho");
-}
-
-TEST(DesktopEnvironment, AnswersItsOwnTemporaryFolder) {
-    const DesktopEnvironment environment({"Morpho", 1, 2, 3, ""}, "/cache/run-1/temp");
-    for (const char* const name : {"TMP", "temp"})
-        EXPECT_EQ(environment.Variable(name), "Z:\\cache\\run-1\\temp") << name;
-    EXPECT_EQ(environment.Variable("NoSuchVariableAtAll"), "");
-    EXPECT_TRUE(FindOnDisk(environment.ModuleFolder() + "\\test_system"));
 }
 
 class DesktopShellTest : public testing::Test {

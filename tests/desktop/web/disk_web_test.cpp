@@ -132,7 +132,6 @@ TEST_F(DiskWebTest, TheExplorerAnswersForItsOwnReleaseOnly) {
     for (const char* progId : {"FrontPage.Explorer.5.0", "FrontPage.Editor.6.0", ""})
         EXPECT_THROW(automation.CreateObject(progId), RunTimeError) << progId;
     EXPECT_EQ(Call("vtiIsFolderInWeb", {"_themes/old"}), kYes);
-    EXPECT_EQ(Call("vtiIsFolderInWeb", {"_themes/new"}), kNo);
     EXPECT_EQ(Call("vtiCreateFolder", {"_themes/new"}), kYes);
     EXPECT_EQ(Call("vtiCreateFolder", {"_themes/NEW"}), kNo);
     EXPECT_TRUE(folder_.Has("web/_themes/new"));
@@ -141,8 +140,6 @@ TEST_F(DiskWebTest, TheExplorerAnswersForItsOwnReleaseOnly) {
     EXPECT_EQ(folder_.Read("copy"), "old a");
     EXPECT_EQ(Call("vtiGetDocToFile", {"../cache", target}), kNo);
     EXPECT_THROW(Call("vtiCreateFolder", {"../new"}), RunTimeError);
-    EXPECT_THROW(Call("vtiCreateFolder", {}), RunTimeError);
-    EXPECT_THROW(Call("vtiOther", {}), RunTimeError);
 }
 
 TEST_F(DiskWebTest, AThemeIsMadeFresh) {
@@ -224,6 +221,11 @@ TEST_F(DiskWebTest, HostilePackagesChangeNothing) {
          {"2\na,1\nA,1\n", "2\na,1\n", "-1\n", "99999\na,1\n", "1\na,18446744073709551617\n",
           "1\na,-1\n", "1\na,2\n", "1\na\n", "0\n", ""})
         expectRefused(list);
+    InstallNew();
+    fs::rename(folder_ / "web/_themes/new", folder_ / "elsewhere");
+    fs::create_directory_symlink(folder_ / "elsewhere", folder_ / "web/_themes/new");
+    EXPECT_THROW(Apply("new"), RunTimeError);
+    EXPECT_FALSE(folder_.Has("elsewhere/a.gif"));
 }
 
 TEST_F(DiskWebTest, WhatAKilledProgramLeftIsRemovedAndNeverTakenForATheme) {
@@ -239,14 +241,6 @@ TEST_F(DiskWebTest, WhatAKilledProgramLeftIsRemovedAndNeverTakenForATheme) {
         EXPECT_NE(bytes, "half") << name;
     EXPECT_EQ(folder_.Read("web/sub/" + ours), "in use");
     EXPECT_FALSE(folder_.Has("cache/FrontPageTempDir/mstheme/old/" + dead));
-}
-
-TEST_F(DiskWebTest, LinkedThemeFoldersAreNotWritten) {
-    InstallNew();
-    fs::create_directory(folder_ / "elsewhere");
-    fs::create_directory_symlink(folder_ / "elsewhere", folder_ / "web/_themes/new");
-    EXPECT_THROW(Apply("new"), RunTimeError);
-    EXPECT_TRUE(fs::is_empty(folder_ / "elsewhere"));
 }
 
 TEST_F(DiskWebTest, PagesThatCannotBeWrittenAreReportedAndTheRestGoesOn) {

@@ -2,15 +2,21 @@
 
 #include <gtest/gtest.h>
 
+#include "desktop/temporary_folder.h"
 #include "desktop/text/utf8.h"
 #include "desktop/web/theme_addresses.h"
+#include "desktop/web/theme_of_web.h"
 #include "platform/run_time_error.h"
 
 namespace morpho {
 namespace {
 
-const std::string kMark = "<meta name=\"Microsoft Theme\" content=\"old 1011, default\">";
-const std::string kNewMark = "<meta name=\"Microsoft Theme\" content=\"new 1011, default\">";
+std::string Meta(const std::string& content) {
+    return "<meta name=\"Microsoft Theme\" content=\"" + content + "\">";
+}
+
+const std::string kMark = Meta("old 1011, default");
+const std::string kNewMark = Meta("new 1011, default");
 
 void ExpectPage(const std::string& page, const std::string& expected,
                 const std::string& theme = "new") {
@@ -29,33 +35,32 @@ TEST(PageTheme, TheMarksNameChangesAndNothingElseInIt) {
     ExpectPage("<meta name=\"Microsoft Theme\" content=\"B\xF6gen 1, default\">",
                "<meta name=\"Microsoft Theme\" content=\"&#252;&#32;&#38;&#32;&#34; 1, default\">",
                "ü & \"");
-    ExpectPage("<meta name='Microsoft Theme' content='old, default'><meta name='x' content='old'>",
-               "<meta name='Microsoft Theme' content='new, default'><meta name='x' content='old'>");
+    ExpectPage(kMark + "<meta name='x' content='old'>", kNewMark + "<meta name='x' content='old'>");
 }
 
 TEST(PageTheme, PagesThatDoNotTakeTheWebsThemeStay) {
     for (const std::string content :
-         {"old 1011", "none", "none, default", "new 1011, default", "NEW 1, default", ", default"})
+         {"old 1011", "none", "none, default", "NEW 1, default", ", default"})
         ExpectPage(
             "<meta name='Microsoft Theme' content='" + content + "'><img src='_themes/old/a.gif'>",
             "unchanged");
     ExpectPage("<img src='_themes/old/a.gif'>", "unchanged");
-    ExpectPage("", "unchanged");
 }
 
 TEST(PageTheme, AddressesOfTheOldFolderChangeWhereverTheyStand) {
-    ExpectBody("<img src=\"_themes/old/a.gif\">", "<img src=\"_themes/new/a.gif\">");
-    ExpectBody("<td background='../../_THEMES/Old/a.gif'>",
-               "<td background='../../_THEMES/new/a.gif'>");
-    ExpectBody("<img src=_themes/old/a.gif>", "<img src=_themes/new/a.gif>");
-    ExpectBody("<p style=\"background: url(../_themes/old/a.gif)\">",
-               "<p style=\"background: url(../_themes/new/a.gif)\">");
-    ExpectBody("<style>b{c:url('_themes/old/a.gif')}</style>",
-               "<style>b{c:url('_themes/new/a.gif')}</style>");
-    ExpectBody("<script>f('/_themes/old/a','_themes\\old\\b')</script>",
-               "<script>f('/_themes/new/a','_themes\\new\\b')</script>");
-    ExpectBody("<!--webbot U-Src=\"_themes/old/a.gif\" --><!-- x=./_themes/%6fl%64/y -->",
-               "<!--webbot U-Src=\"_themes/new/a.gif\" --><!-- x=./_themes/new/y -->");
+    // What stands around the theme's name in an address.
+    const auto expectRenamed = [](const std::string& before, const std::string& behind) {
+        ExpectBody(before + "old" + behind, before + "new" + behind);
+        ExpectBody(before + "OLD" + behind, before + "new" + behind);
+        ExpectBody(before + "%6fl%64" + behind, before + "new" + behind);
+    };
+    expectRenamed("<img src=\"_themes/", "/a.gif\">");
+    expectRenamed("<td background='../../_THEMES/", "/a.gif'>");
+    expectRenamed("<img src=./_themes/", "/a.gif>");
+    expectRenamed("<p style=\"background: url(../_themes/", "/a.gif)\">");
+    expectRenamed("<style>b{c:url('_themes/", "/a.gif')}</style>");
+    expectRenamed("<script>f('/_themes\\", "\\a')</script>");
+    expectRenamed("<!--webbot U-Src=\"_themes/", "/a.gif\" --><!-- x -->");
     ExpectBody("<img src='_themes/&#111;ld/a.gif'>", "<img src='_themes/new/a.gif'>");
     ExpectPage(
         "<link href='_themes/a%20b%E9/x.css'><meta name='Microsoft Theme' "
@@ -78,24 +83,75 @@ TEST(PageTheme, WhatIsNotTheOldFolderStays) {
 TEST(PageTheme, EveryOtherByteStays) {
     const std::string odd("\r\n\n\r\0\xFF\xC3\t<b a = 'x' =>\xEF\xBB\xBF</b", 27);
     ExpectBody(odd, odd);
-    ExpectPage("\xEF\xBB\xBF" + kMark + "ü", "\xEF\xBB\xBF" + kNewMark + "ü");
-    const std::string little = Utf16FromUtf8("\xEF\xBB\xBF" + kMark + "ü");
-    ExpectPage(little, Utf16FromUtf8("\xEF\xBB\xBF" + kNewMark + "ü"));
-    EXPECT_THROW(PageWithTheme(little + std::string("\x00\xD8", 2), "new"), RunTimeError);
-}
-
-void ExpectSheet(const std::string& css, const std::string& expected) {
-    const auto isOwn = [](const std::string& file) { return file == "a.gif"; };
-    EXPECT_EQ(WithOwnPictures(css, isOwn), expected);
+    const std::string marked = "\xEF\xBB\xBF" + kMark + "ü";
+    const std::string newMarked = "\xEF\xBB\xBF" + kNewMark + "ü";
+    ExpectPage(marked, newMarked);
+    ExpectPage(Utf16FromUtf8(marked), Utf16FromUtf8(newMarked));
+    EXPECT_THROW(PageWithTheme(Utf16FromUtf8(marked) + std::string("\x00\xD8", 2), "new"),
+                 RunTimeError);
 }
 
 TEST(ThemeSheets, NameTheirOwnPictures) {
-    ExpectSheet("x{y:url(../old/a.gif)}z{}", "x{y:url(a.gif)}z{}");
-    ExpectSheet("x{y:URL( '../../_Themes/old/a.gif' );z:url(..\\old\\a.gif)}",
+    const auto expectSheet = [](const std::string& css, const std::string& expected) {
+        const auto isOwn = [](const std::string& file) { return file == "a.gif"; };
+        EXPECT_EQ(WithOwnPictures(css, isOwn), expected);
+    };
+    expectSheet("x{y:url(../old/a.gif)}z{}", "x{y:url(a.gif)}z{}");
+    expectSheet("x{y:URL( '../../_Themes/old/a.gif' );z:url(..\\old\\a.gif)}",
                 "x{y:URL( 'a.gif' );z:url(a.gif)}");
     for (const std::string css : {"url(a.gif)", "url(../old/b.gif)", "url(images/a.gif)",
                                   "url(http://a/_themes/old/a.gif)", "url(../../a.gif)", "url("})
-        ExpectSheet(css, css);
+        expectSheet(css, css);
+}
+
+// The theme's name, with "*" behind it where the page takes the web's; "-" when it does not say.
+void ExpectTheme(const std::string& page, const std::string& expected) {
+    const auto theme = ThemeOfPage(page);
+    EXPECT_EQ(theme ? theme->name + (theme->ofWeb ? "*" : "") : "-", expected) << page;
+}
+
+TEST(ThemeOfPage, ReadsTheMetaTag) {
+    ExpectTheme("<head><title>x</title>" + Meta("my theme 1011,DEFAULT "), "my theme*");
+    ExpectTheme(Meta("blends"), "blends");
+    ExpectTheme(Meta("none, default"), "*");
+    ExpectTheme(Meta("B\xF6gen 011"), "Bögen");
+    ExpectTheme("<META content='a 1, default' NAME='microsoft theme'/>", "a*");
+    ExpectTheme("<meta name='Microsoft Theme'content=a>", "a");
+    ExpectTheme(Meta("a>b 1"), "a>b");
+}
+
+TEST(ThemeOfPage, IsNotMisledByWhatIsNoMetaTag) {
+    ExpectTheme("<!-- " + Meta("a 1") + " -->", "-");
+    ExpectTheme("<title>" + Meta("a 1") + "</title>", "-");
+    ExpectTheme("<body>" + Meta("a 1"), "-");
+    ExpectTheme("<p title='" + Meta("a 1") + "'>", "-");
+    ExpectTheme("<meta name='Microsoft Border' content='a'>", "-");
+    ExpectTheme("<meta name=\"Microsoft Theme\" content=\"a", "-");
+    ExpectTheme("< meta", "-");
+    ExpectTheme("<!--><style></styl</style>" + Meta("a 1"), "a");
+}
+
+void ExpectThemeOfWeb(const Tree& pages, const std::string& theme) {
+    const TemporaryFolder folder;
+    for (const auto& [name, content] : pages)
+        folder.Write(name, Meta(content));
+    EXPECT_EQ(ThemeOfWeb(DiskFolder::Open(folder.Path().string(), true)), theme);
+}
+
+TEST(ThemeOfWeb, IsTheHomePagesOrTheMostFrequent) {
+    ExpectThemeOfWeb({}, "");
+    ExpectThemeOfWeb({{"a.htm", "x 1, default"}, {"Index.HTM", "y 1, default"}}, "y");
+    ExpectThemeOfWeb({{"default.htm", "x 1, default"}, {"index.htm", "y 1, default"}}, "y");
+    ExpectThemeOfWeb({{"index.htm", "own 1"}, {"a.htm", "x 1, default"}}, "x");
+    ExpectThemeOfWeb({{"index.htm", "none, default"}, {"a.htm", "x 1, default"}}, "");
+    ExpectThemeOfWeb({{"a.htm", "x 1, default"},
+                      {"b.asp", "y 1, default"},
+                      {"c.html", "y 1, default"},
+                      {"d.htm", "z 1"},
+                      {"e.htm", "none, default"},
+                      {"f.txt", "x 1, default"},
+                      {"sub/g.htm", "x 1, default"}},
+                     "y");
 }
 
 }  // namespace
