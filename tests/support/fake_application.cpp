@@ -83,19 +83,14 @@ class FakeWebFolder : public WebFolder {
     }
     std::unique_ptr<WebFolder> AddFolder(std::string_view name) override {
         host_.webFiles.CreateFolder(PathOfUrl(Below(name)));
-        host_.webCalls.push_back("AddFolder " + Below(name));
         return std::make_unique<FakeWebFolder>(host_, Below(name));
     }
     void AddFile(std::string_view localPath, bool overwrite) override {
-        const std::string url = Below(FileNameOf(localPath));
-        if (!overwrite && host_.webFiles.HasFile(PathOfUrl(url))) Refuse("The file exists");
-        host_.webFiles.CopyFile(localPath, PathOfUrl(url));
-        host_.webCalls.push_back("AddFile " + url);
+        const std::string file = PathOfUrl(Below(FileNameOf(localPath)));
+        if (!overwrite && host_.webFiles.HasFile(file)) Refuse("The file exists");
+        host_.webFiles.CopyFile(localPath, file);
     }
-    void Delete() override {
-        host_.webFiles.DeleteFolder(PathOfUrl(url_));
-        host_.webCalls.push_back("Delete " + url_);
-    }
+    void Delete() override { host_.webFiles.DeleteFolder(PathOfUrl(url_)); }
 
   private:
     std::string Below(std::string_view name) const {
@@ -127,9 +122,7 @@ class FakeWeb : public Web {
         return FakeWebFolder(host_, {}).FindFolder(url);
     }
     std::optional<std::string> Property(std::string_view key) const override {
-        const auto property = host_.web->properties.find(std::string(key));
-        if (property == host_.web->properties.end()) return std::nullopt;
-        return property->second;
+        return key == "vti_showhiddenpages" ? host_.web->showsHiddenPages : std::nullopt;
     }
     // The page index.htm, if there is one, then names the theme.
     void ApplyTheme(std::string_view themeName) override {
@@ -153,11 +146,11 @@ class FakeWeb : public Web {
 
 class FakeLanguages : public LanguageSettings {
   public:
-    explicit FakeLanguages(std::map<LanguageUse, int> ids) : ids_(std::move(ids)) {}
-    int LanguageId(LanguageUse use) const override { return ids_.at(use); }
+    explicit FakeLanguages(const FakeApplication& host) : host_(host) {}
+    int LanguageId(LanguageUse use) const override { return host_.languages.at(use); }
 
   private:
-    std::map<LanguageUse, int> ids_;
+    const FakeApplication& host_;
 };
 
 }  // namespace
@@ -167,7 +160,7 @@ std::unique_ptr<Web> FakeApplication::ActiveWeb() {
 }
 
 std::unique_ptr<LanguageSettings> FakeApplication::Languages() const {
-    return std::make_unique<FakeLanguages>(languages);
+    return std::make_unique<FakeLanguages>(*this);
 }
 
 }  // namespace morpho::test

@@ -21,7 +21,7 @@ class FakeApplication : public Application {
     struct WebData {
         std::vector<Theme> themes;
         std::string themeOfWeb;
-        std::map<std::string, std::string> properties;
+        std::optional<std::string> showsHiddenPages;  // the property of that name
         std::vector<OpenPage> pages;
     };
     static constexpr std::string_view kWebFolder = "C:\\Web";
@@ -37,9 +37,8 @@ class FakeApplication : public Application {
     bool refusesPages = false;  // opening a blank page throws kAutomation
     int openedPages = 0;        // blank ones, ever
     int openPages = 0;          // and not closed yet
-    // What was done with the web, in order: "AddFolder _themes/a", "AddFile _themes/a/b.gif",
-    // "Delete _themes/a", "ApplyTheme a", "ApplyTheme a to index.htm", "Refresh",
-    // "RecalcHyperlinks".
+    // What was done with the web, in order: "ApplyTheme a", "ApplyTheme a to index.htm",
+    // "Refresh", "RecalcHyperlinks".
     std::vector<std::string> webCalls;
     FakeFileSystem& webFiles;
 

@@ -1,4 +1,4 @@
-#include "theme_editor/save_world.h"
+#include "theme_editor/theme_world.h"
 
 namespace morpho::test {
 namespace {

@@ -1,7 +1,7 @@
 // What a save leaves behind when any single operation on files fails, or when the program dies
 // there.
 
-#include "theme_editor/save_world.h"
+#include "theme_editor/theme_world.h"
 
 namespace morpho::test {
 namespace {

@@ -1,5 +1,5 @@
-#include "theme_editor/save_world.h"
 #include "theme_editor/theme_package.h"
+#include "theme_editor/theme_world.h"
 
 namespace morpho::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "theme_editor/save_world.h"
+#include "theme_editor/theme_world.h"
 
 namespace morpho::test {
 namespace {
@@ -88,7 +88,7 @@ TEST_F(SaveTheme, AFolderThatTheWebHadBeforeIsNotDeleted) {
 }
 
 TEST_F(SaveTheme, AWebThatHidesItsFoldersGetsThemFromTheExplorer) {
-    world.application.web->properties.clear();
+    world.application.web->showsHiddenPages.reset();
     world.automation.whenCalled = [this](std::string_view method) {
         if (method == "vtiCreateFolder") world.files.PutFolder(kWebThemes + "bay");
     };
