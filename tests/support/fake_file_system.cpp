@@ -79,39 +79,31 @@ std::vector<std::string> FakeFileSystem::FilesBelow(std::string_view folder) con
     return files;
 }
 
-void FakeFileSystem::FailOn(std::string_view path, ErrorNumber number) {
-    failingPaths_[Key(path)] = number;
+void FakeFileSystem::FailOn(std::string_view path) {
+    failingPaths_.insert(Key(path));
 }
 
-void FakeFileSystem::FailAt(int nth, ErrorNumber number) {
-    FailNoMore();
+void FakeFileSystem::FailAt(int nth, bool staysBroken) {
     untilFailure_ = nth;
-    failure_ = number;
-}
-
-void FakeFileSystem::FailFrom(int nth) {
-    FailAt(nth);
-    staysBroken_ = true;
+    staysBroken_ = staysBroken;
 }
 
 void FakeFileSystem::FailNoMore() {
     failingPaths_.clear();
     untilFailure_ = 0;
     failed_ = false;
-    staysBroken_ = false;
 }
 
 void FakeFileSystem::CountDown(std::string_view path) const {
     if (untilFailure_ == 0 || --untilFailure_ > 0) return;
     if (staysBroken_) untilFailure_ = 1;
     failed_ = true;
-    Throw(failure_, path);
+    Throw(ErrorNumber::kPathFileAccess, path);
 }
 
 void FakeFileSystem::Count(std::string_view path) const {
     CountDown(path);
-    const auto failing = failingPaths_.find(Key(path));
-    if (failing != failingPaths_.end()) Throw(failing->second, path);
+    if (failingPaths_.contains(Key(path))) Throw(ErrorNumber::kPathFileAccess, path);
 }
 
 const FakeFileSystem::Node& FakeFileSystem::File(std::string_view path) const {
@@ -136,8 +128,7 @@ void FakeFileSystem::Store(std::string_view path, std::string_view bytes) {
     RequireFolder(ParentOf(normal));
     const auto [node, added] =
         nodes_.try_emplace(Key(path), Node{NameIn(normal), kArchiveAttribute, {}});
-    if (node->second.IsFolder() || (node->second.attributes & kReadOnlyAttribute) != 0)
-        Throw(ErrorNumber::kPathFileAccess, path);
+    if (node->second.IsFolder()) Throw(ErrorNumber::kPathFileAccess, path);
     node->second.bytes = bytes;
 }
 
@@ -189,8 +180,7 @@ void FakeFileSystem::MoveFile(std::string_view source, std::string_view destinat
 
 void FakeFileSystem::DeleteFile(std::string_view path) {
     Count(path);
-    if ((File(path).attributes & kReadOnlyAttribute) != 0)
-        Throw(ErrorNumber::kPathFileAccess, path);
+    File(path);
     nodes_.erase(Key(path));
 }
 

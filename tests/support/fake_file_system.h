@@ -2,6 +2,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,14 +30,13 @@ class FakeFileSystem : public FileSystem {
     std::vector<std::string> FilesBelow(std::string_view folder) const;
 
     // Every operation but Find that names this path (as source or destination) fails from now on.
-    void FailOn(std::string_view path, ErrorNumber number = ErrorNumber::kPathFileAccess);
-    // The nth operation but Find from now on fails, once; 1 is the next. Each file that is copied
-    // or deleted with its folder counts.
-    void FailAt(int nth, ErrorNumber number = ErrorNumber::kPathFileAccess);
-    // The same, and all operations after it fail too, as if the program had died there.
-    void FailFrom(int nth);
+    void FailOn(std::string_view path);
+    // The nth operation but Find from now on fails; 1 is the next. Each file that is copied or
+    // deleted with its folder counts. Where it "stays broken", all operations after it fail too, as
+    // if the program had died there.
+    void FailAt(int nth, bool staysBroken = false);
     void FailNoMore();
-    // Whether the failure that FailAt or FailFrom announced has come.
+    // Whether the failure that FailAt announced has come.
     bool HasFailed() const { return failed_; }
 
     std::optional<FileEntry> Find(std::string_view path) const override;
@@ -70,11 +70,10 @@ class FakeFileSystem : public FileSystem {
     Nodes Below(const std::string& key) const;
 
     Nodes nodes_;
-    std::map<std::string, ErrorNumber> failingPaths_;
+    std::set<std::string> failingPaths_;
     mutable int untilFailure_ = 0;
     mutable bool failed_ = false;
     bool staysBroken_ = false;
-    ErrorNumber failure_ = ErrorNumber::kPathFileAccess;
 };
 
 }  // namespace morpho::test

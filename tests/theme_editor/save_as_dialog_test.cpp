@@ -103,7 +103,7 @@ TEST_F(SaveAsDialog, GivesBackWhatWasEnteredAndNothingWhenCancelled) {
 }
 
 TEST_F(SaveAsDialog, CannotSaveWhenTheInstalledThemesAreUnknown) {
-    world.files.FailOn(kUserThemes, ErrorNumber::kPermissionDenied);
+    world.files.FailOn(kUserThemes);
     Show([&] {
         EXPECT_FALSE(dialog.cmdSave.UserClick());
         dialog.cmdCancel.UserClick();

@@ -43,12 +43,11 @@ bool Holds(const Files& files, const std::string& file, const std::string& bytes
 class FailingSave : public testing::TestWithParam<std::string> {
   protected:
     // Makes the save with a failure at each of its operations in turn, and goes on with `check`.
-    void AtEachOperation(const std::function<void(FakeFileSystem&, int nth)>& fail,
-                         const std::function<void(Attempt&)>& check) const {
+    void AtEachOperation(bool programDies, const std::function<void(Attempt&)>& check) const {
         for (int nth = 1; !HasFailure(); ++nth) {
             SCOPED_TRACE("operation " + std::to_string(nth));
             Attempt attempt(GetParam());
-            fail(attempt.world.files, nth);
+            attempt.world.files.FailAt(nth, programDies);
             attempt.Save();
             if (!attempt.world.files.HasFailed()) {
                 EXPECT_GT(nth, 30) << "a save does more than that";
@@ -108,27 +107,21 @@ class FailingSave : public testing::TestWithParam<std::string> {
 };
 
 TEST_P(FailingSave, LeavesWholeFilesAndAWindowThatSavesTheNextTime) {
-    for (const ErrorNumber error :
-         {ErrorNumber::kDiskFull, ErrorNumber::kPermissionDenied, ErrorNumber::kDeviceIo}) {
-        AtEachOperation([&](FakeFileSystem& files, int nth) { files.FailAt(nth, error); },
-                        [&](Attempt& attempt) {
-                            ExpectOriginals(attempt);
-                            EXPECT_TRUE(attempt.IsUsable());
-                            // The name of a new theme that stands is taken.
-                            if (attempt.asNew && attempt.IsInstalled()) return;
-                            ExpectAsAfter(attempt.Save(), false);
-                        });
-    }
+    AtEachOperation(false, [&](Attempt& attempt) {
+        ExpectOriginals(attempt);
+        EXPECT_TRUE(attempt.IsUsable());
+        if (attempt.asNew && attempt.IsInstalled()) return;  // its name is taken now
+        ExpectAsAfter(attempt.Save(), false);
+    });
 }
 
 TEST_P(FailingSave, ADeadProgramLeavesWholeFilesAndANameThatCanBeSavedAgain) {
-    AtEachOperation([](FakeFileSystem& files, int nth) { files.FailFrom(nth); },
-                    [&](Attempt& attempt) {
-                        if (!attempt.asNew || attempt.IsInstalled()) return;
-                        attempt.OpenAndRecolour();
-                        // What was left of the theme in the web is completed, not taken away.
-                        ExpectAsAfter(attempt.Save(), true);
-                    });
+    AtEachOperation(true, [&](Attempt& attempt) {
+        if (!attempt.asNew || attempt.IsInstalled()) return;
+        attempt.OpenAndRecolour();
+        // What was left of the theme in the web is completed, not taken away.
+        ExpectAsAfter(attempt.Save(), true);
+    });
 }
 
 INSTANTIATE_TEST_SUITE_P(Ways, FailingSave,

@@ -214,8 +214,8 @@ TEST_F(SaveTheme, NamesWhatFailedAndWhere) {
         EXPECT_TRUE(IsModified());
     };
     OpenAndRecolour();
-    world.files.FailOn(kUserThemes + "bay\\bay.elm", ErrorNumber::kDiskFull);
-    expectFailure("3D (Path/File access error: " + kUserThemes + "bay\\bay.elm) occured on line 6");
+    world.files.FailOn(kUserThemes + "bay\\bay.elm");
+    expectFailure("4B (Path/File access error: " + kUserThemes + "bay\\bay.elm) occured on line 6");
     world.files.FailNoMore();
     world.files.FailOn("C:\\Web\\index.htm");
     expectFailure("4B (Path/File access error: C:\\Web\\index.htm) occured on line 7");
