@@ -5,7 +5,7 @@
 namespace morpho {
 
 std::string Apply(const ApplyRequest& request) {
-    Batch batch(request.web, FindUserFolders(EnvironmentVariable));
+    Batch batch(request.web, request.theme, FindUserFolders(EnvironmentVariable));
     batch.ApplyTheme(request.theme);
     std::string warnings;
     for (const std::string& sentence : batch.Reports())

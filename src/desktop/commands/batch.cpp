@@ -15,18 +15,22 @@ std::string Absolute(const std::filesystem::path& web) {
     return std::filesystem::absolute(web).lexically_normal().string();
 }
 
+std::optional<std::string> OnlyTheme(const std::string& name) {
+    return name.empty() ? std::nullopt : std::optional(name);
+}
+
 }  // namespace
 
 Batch::Batch(const std::filesystem::path& web, const std::string& onlyTheme)
     : desktop_(DesktopUse::kBatch, FindUserFolders(EnvironmentVariable), toolkit_, resources_) {
-    const auto theme = onlyTheme.empty() ? std::nullopt : std::optional(onlyTheme);
-    desktop_.FrontPage().Open(Absolute(web), theme);
+    desktop_.FrontPage().Open(Absolute(web), OnlyTheme(onlyTheme));
     component_.application = &desktop_.FrontPage();
 }
 
-Batch::Batch(const std::filesystem::path& web, const UserFolders& folders)
+Batch::Batch(const std::filesystem::path& web, const std::string& onlyTheme,
+             const UserFolders& folders)
     : desktop_(DesktopUse::kBatch, folders, toolkit_, resources_) {
-    desktop_.OpenForSaving(Absolute(web));
+    desktop_.OpenForSaving(Absolute(web), OnlyTheme(onlyTheme));
     component_.application = &desktop_.FrontPage();
 }
 

@@ -16,11 +16,12 @@ namespace morpho {
 // One run of the program without a screen, on one web.
 class Batch {
   public:
-    // Only one theme is made ready: quick, for a batch that does not save.
+    // Only one theme is made ready, or all where its name is empty. Throws RunTimeError when the
+    // web cannot be opened.
     Batch(const std::filesystem::path& web, const std::string& onlyTheme);
-    // All themes are made ready, and saving is possible. Both throw RunTimeError when the web
-    // cannot be opened.
-    Batch(const std::filesystem::path& web, const UserFolders& folders);
+    // The same, and saving into these folders of the user is possible.
+    Batch(const std::filesystem::path& web, const std::string& onlyTheme,
+          const UserFolders& folders);
 
     // All themes of the web, and the one that the web as a whole uses (empty: none).
     const std::vector<Theme>& Themes() { return desktop_.FrontPage().Opened()->themes; }

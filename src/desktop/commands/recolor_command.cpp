@@ -57,7 +57,7 @@ std::string Export(const RecolorRequest& request, std::string& warnings) {
 }
 
 std::string Save(const RecolorRequest& request, const UserFolders& folders, std::string& warnings) {
-    Batch batch(request.web, folders);
+    Batch batch(request.web, request.theme, folders);
     BatchWindow& window = TakeSteps(batch, request);
     warnings = batch.Warnings() + Warnings(window.Window());
     DrawIfAsked(window, request);

@@ -58,6 +58,7 @@ void RefuseCopyIntoItself(const std::string& source, const std::string& destinat
 void CopyOneFile(const DiskFolder& folder, const std::string& name, const std::string& target,
                  Durability durability) {
     const Descriptor file = folder.OpenFile(name);
+    if (HoldsSameBytes(target, file, folder.PathOf(name))) return;
     WholeFile copy(target, durability);
     copy.CopyFrom(file, folder.PathOf(name));
     copy.Commit();

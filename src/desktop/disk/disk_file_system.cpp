@@ -188,7 +188,7 @@ void DiskFileSystem::DeleteFolder(std::string_view path) {
 Durability DiskFileSystem::DurabilityOf(const std::string& diskPath) const {
     const bool scratch =
         !scratchFolder_.empty() && diskPath.starts_with(JoinDiskPath(scratchFolder_, ""));
-    return scratch ? Durability::kScratch : Durability::kFlushed;
+    return scratch ? Durability::kUnflushed : Durability::kFlushed;
 }
 
 }  // namespace morpho

@@ -11,6 +11,7 @@
 
 #include "desktop/disk/disk_path.h"
 #include "desktop/disk/file_error.h"
+#include "platform/ignoring_case.h"
 
 namespace morpho {
 
@@ -67,6 +68,17 @@ std::vector<DiskEntry> DiskFolder::Entries() const {
     std::sort(entries.begin(), entries.end(),
               [](const DiskEntry& a, const DiskEntry& b) { return a.name < b.name; });
     return entries;
+}
+
+std::optional<DiskEntry> DiskFolder::Find(const std::string& name) const {
+    if (!IsEntryName(name)) return {};
+    struct stat status = {};
+    if (::fstatat(Number(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0)
+        return DiskEntry{name, KindOfMode(status.st_mode)};
+    for (DiskEntry& entry : Entries()) {
+        if (EqualIgnoringCase(entry.name, name)) return std::move(entry);
+    }
+    return {};
 }
 
 DiskFolder DiskFolder::Subfolder(const std::string& name) const {

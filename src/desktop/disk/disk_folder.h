@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,9 @@ class DiskFolder {
 
     // Without "." and "..", in byte order of the names.
     std::vector<DiskEntry> Entries() const;
+    // The entry of this name: the one spelled so, else the first that differs in letter case only.
+    // Nothing when there is none.
+    std::optional<DiskEntry> Find(const std::string& name) const;
     DiskFolder Subfolder(const std::string& name) const;
     // A regular file of this folder, for reading; anything else is refused.
     Descriptor OpenFile(const std::string& name) const;

@@ -39,11 +39,20 @@ std::optional<std::vector<std::string>> NamesOf(std::string_view path) {
     return names;
 }
 
+// The path that the first `count` names make.
+std::string PathOf(const std::vector<std::string>& names, std::size_t count) {
+    std::string path = "/";
+    for (std::size_t i = 0; i < count; ++i)
+        path = JoinDiskPath(path, names[i]);
+    return path;
+}
+
 bool Exists(const std::string& diskPath) {
     struct stat status = {};
     return ::lstat(diskPath.c_str(), &status) == 0;
 }
 
+// The entry spelled so, else the first in byte order that differs in letter case only.
 std::optional<std::string> EntryIgnoringCase(const std::string& folder, const std::string& name) {
     const std::unique_ptr<DIR, int (*)(DIR*)> entries(::opendir(folder.c_str()), ::closedir);
     if (!entries) return {};
@@ -51,6 +60,7 @@ std::optional<std::string> EntryIgnoringCase(const std::string& folder, const st
     std::optional<std::string> found;
     while (const dirent* entry = ::readdir(entries.get())) {
         const std::string_view candidate = entry->d_name;
+        if (candidate == name) return name;
         if (candidate.size() != wanted.size() || Lowered(candidate) != wanted) continue;
         if (!found || candidate < *found) found = candidate;
     }
@@ -73,25 +83,22 @@ std::string ToWindowsPath(std::string_view diskPath) {
 std::optional<std::string> ToDiskPath(std::string_view windowsPath) {
     const auto names = NamesOf(windowsPath);
     if (!names) return {};
-    std::string path = "/";
-    for (const std::string& name : *names)
-        path = JoinDiskPath(path, name);
-    return path;
+    return PathOf(*names, names->size());
 }
 
 std::optional<std::string> FindOnDisk(std::string_view windowsPath) {
     const auto names = NamesOf(windowsPath);
     if (!names) return {};
-    std::string path = "/";
+    // Nearly every path exists as spelled, which one look at its end tells.
+    std::size_t asSpelled = names->size();
+    while (asSpelled > 0 && !Exists(PathOf(*names, asSpelled)))
+        --asSpelled;
+    std::string path = PathOf(*names, asSpelled);
     bool exists = true;
-    for (const std::string& name : *names) {
-        std::string next = JoinDiskPath(path, name);
-        if (exists && !Exists(next)) {
-            const auto actual = EntryIgnoringCase(path, name);
-            if (actual) next = JoinDiskPath(path, *actual);
-            exists = actual.has_value();
-        }
-        path = std::move(next);
+    for (std::size_t i = asSpelled; i < names->size(); ++i) {
+        const auto actual = exists ? EntryIgnoringCase(path, (*names)[i]) : std::nullopt;
+        exists = actual.has_value();
+        path = JoinDiskPath(path, actual.value_or((*names)[i]));
     }
     return path;
 }
@@ -127,6 +134,11 @@ std::string NameToDisk(std::string_view name) {
         }
     }
     return diskName;
+}
+
+bool IsEntryName(std::string_view diskName) {
+    return !diskName.empty() && diskName != "." && diskName != ".." &&
+           diskName.find('/') == diskName.npos && diskName.find('\0') == diskName.npos;
 }
 
 std::string ParentFolder(std::string_view diskPath) {

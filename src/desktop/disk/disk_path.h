@@ -26,6 +26,9 @@ std::optional<std::string> FindOnDisk(std::string_view windowsPath);
 std::string NameFromDisk(std::string_view diskName);
 std::string NameToDisk(std::string_view name);
 
+// A name of the disk that means an entry directly in a folder: not empty, "." or "..", no "/".
+bool IsEntryName(std::string_view diskName);
+
 // "/" for what stands in the root.
 std::string ParentFolder(std::string_view diskPath);
 std::string_view LastName(std::string_view diskPath);

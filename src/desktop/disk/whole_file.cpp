@@ -83,6 +83,21 @@ std::string ReadWhole(const Descriptor& file, const std::string& diskPath) {
     return bytes;
 }
 
+bool HoldsSameBytes(const std::string& diskPath, const Descriptor& source,
+                    const std::string& sourcePath) {
+    const int flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    const Descriptor file(::open(diskPath.c_str(), flags));
+    struct stat ours = {};
+    struct stat theirs = {};
+    if (!file.IsOpen() || ::fstat(file.Number(), &ours) != 0 || !S_ISREG(ours.st_mode) ||
+        ::fstat(source.Number(), &theirs) != 0 || ours.st_size != theirs.st_size)
+        return false;
+    const bool same = ReadWhole(file, diskPath) == ReadWhole(source, sourcePath);
+    if (::lseek(source.Number(), 0, SEEK_SET) != 0)
+        throw FileError(errno, sourcePath, "could not be read");
+    return same;
+}
+
 WholeFile::WholeFile(std::string diskPath, Durability durability)
     : path_(std::move(diskPath)), durability_(durability) {
     OpenBeside();

@@ -8,7 +8,7 @@
 namespace morpho {
 
 // Whether what is written must outlive a power failure.
-enum class Durability { kFlushed, kScratch };
+enum class Durability { kFlushed, kUnflushed };
 
 // Replaces a file of the disk as a whole, or creates it: the new contents are written beside it and
 // take its place with Commit. Without Commit the file stays as it was. An existing file's mode is
@@ -39,6 +39,11 @@ class WholeFile {
 bool IsBesideName(std::string_view name);
 // The latter only.
 bool IsAbandonedBesideName(std::string_view name);
+
+// Whether a regular file, not a link to one, stands at this path and holds what there is to read in
+// the open `source`, which is at its beginning and is so again. `sourcePath` is for the error.
+bool HoldsSameBytes(const std::string& diskPath, const Descriptor& source,
+                    const std::string& sourcePath);
 
 // Everything in the open regular file, for reading small ones; `diskPath` is for the error.
 std::string ReadWhole(const Descriptor& file, const std::string& diskPath);

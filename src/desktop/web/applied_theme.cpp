@@ -16,11 +16,49 @@ namespace morpho {
 
 namespace {
 
-void ApplyToPage(const WebSession& web, const DiskFolder& folder, const std::string& name,
-                 const std::string& theme) {
-    const auto page = PageWithTheme(ReadWebFile(folder, name), theme);
-    if (page) web.writer->ReplaceFile(folder.PathOf(name), *page);
-}
+// The pages of a web as they get another theme. They are written some at a time.
+class PageUpdate {
+  public:
+    PageUpdate(WebSession& web, const std::string& theme) : web_(web), theme_(theme) {}
+
+    // `url` is the page's address in the web.
+    void Take(const DiskFolder& folder, const std::string& name, const std::string& url) {
+        try {
+            auto page = PageWithTheme(ReadWebFile(folder, name), theme_);
+            if (!page) return;
+            changes_.push_back({folder.PathOf(name), std::move(*page)});
+            urls_.push_back(url);
+            bytes_ += changes_.back().bytes.size();
+        } catch (const RunTimeError& error) {
+            Report(url, error);
+        }
+        if (changes_.size() >= kMaxPages || bytes_ >= kMaxBytes) Write();
+    }
+
+    void Write() {
+        web_.writer->ReplaceFiles(changes_);
+        for (std::size_t i = 0; i < changes_.size(); ++i) {
+            if (changes_[i].failure) Report(urls_[i], *changes_[i].failure);
+        }
+        changes_.clear();
+        urls_.clear();
+        bytes_ = 0;
+    }
+
+  private:
+    static constexpr std::size_t kMaxPages = 256;
+    static constexpr std::size_t kMaxBytes = 16UL * 1024 * 1024;
+
+    void Report(const std::string& url, const RunTimeError& error) {
+        web_.Report("The page \"" + url + "\" keeps its theme: " + error.what());
+    }
+
+    WebSession& web_;
+    const std::string& theme_;
+    std::vector<FileChange> changes_;
+    std::vector<std::string> urls_;  // of the changes
+    std::size_t bytes_ = 0;          // in the changes
+};
 
 // What a program that died left in the themes' folders.
 void CleanThemes(const WebSession& web) {
@@ -63,16 +101,13 @@ void ApplyThemeToWeb(WebSession& web, const std::string& name) {
     web.reports.clear();
     CleanThemes(web);
     const std::string theme = PutThemeIntoWeb(web, name);
+    PageUpdate pages(web, theme);
     std::set<std::string> cleaned;
     VisitPages(web, [&](const DiskFolder& folder, const std::string& url, const std::string& page) {
         if (cleaned.insert(url).second) RemoveAbandoned(web, folder);
-        try {
-            ApplyToPage(web, folder, page, theme);
-        } catch (const RunTimeError& error) {
-            web.Report("The page \"" + url + NameFromDisk(page) +
-                       "\" keeps its theme: " + error.what());
-        }
+        pages.Take(folder, page, url + NameFromDisk(page));
     });
+    pages.Write();
 }
 
 void LogBrokenThemeAddresses(WebSession& web) {

@@ -81,7 +81,7 @@ class Explorer : public AutomationObject {
         const std::string name = names->back();
         names->pop_back();
         const auto folder = FindFolderInWeb(*Web(), *names);
-        const auto entry = folder ? FindEntry(*folder, name) : std::nullopt;
+        const auto entry = folder ? folder->Find(name) : std::nullopt;
         if (!entry || entry->kind != DiskKind::kFile) return kFalse;
         Web()->writer->ReplaceFile(*target, ReadWebFile(*folder, entry->name));
         return kTrue;

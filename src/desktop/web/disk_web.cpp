@@ -65,7 +65,7 @@ std::unique_ptr<WebFolder> DiskWeb::LocateFolder(std::string_view url) {
 
 std::optional<std::string> DiskWeb::Property(std::string_view key) const {
     const auto folder = FindFolderInWeb(*web_, {"_vti_pvt"});
-    const auto notes = folder ? FindEntry(*folder, "service.cnf") : std::nullopt;
+    const auto notes = folder ? folder->Find("service.cnf") : std::nullopt;
     if (!notes) return {};
     return NotedProperty(ReadWebFile(*folder, notes->name), key);
 }
@@ -76,6 +76,7 @@ void DiskWeb::ApplyTheme(std::string_view themeName) {
 }
 
 void DiskWeb::Refresh() {
+    web_->writer->Flush();
     RefreshThemes(*web_);
 }
 

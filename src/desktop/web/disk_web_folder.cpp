@@ -33,7 +33,7 @@ std::string DiskWebFolder::Url() const {
 }
 
 std::unique_ptr<WebFolder> DiskWebFolder::FindFolder(std::string_view name) {
-    const auto entry = FindEntry(Folder(), NameToDisk(name));
+    const auto entry = Folder().Find(NameToDisk(name));
     if (!entry || entry->kind != DiskKind::kFolder) return nullptr;
     return Inner(entry->name);
 }
@@ -42,7 +42,7 @@ std::unique_ptr<WebFolder> DiskWebFolder::AddFolder(std::string_view name) {
     const DiskFolder folder = Folder();
     const std::string diskName = NameToDisk(name);
     if (!IsEntryName(diskName)) Refuse("\"" + std::string(name) + "\" is no name for a folder.");
-    if (FindEntry(folder, diskName)) Refuse("\"" + folder.PathOf(diskName) + "\" exists already.");
+    if (folder.Find(diskName)) Refuse("\"" + folder.PathOf(diskName) + "\" exists already.");
     web_->writer->MakeFolder(folder.PathOf(diskName));
     return Inner(diskName);
 }
@@ -51,13 +51,12 @@ void DiskWebFolder::AddFile(std::string_view localPath, bool overwrite) {
     const DiskFolder folder = Folder();
     const std::string bytes = ReadLocalFile(localPath);
     const std::size_t separator = localPath.find_last_of("\\/");
-    std::string diskName = NameToDisk(localPath.substr(separator + 1));
-    if (const auto existing = FindEntry(folder, diskName)) {
-        if (!overwrite || existing->kind == DiskKind::kFolder)
-            Refuse("\"" + folder.PathOf(existing->name) + "\" exists already.");
-        diskName = existing->name;
-    }
-    web_->writer->ReplaceFile(folder.PathOf(diskName), bytes);
+    const std::string diskName = NameToDisk(localPath.substr(separator + 1));
+    const auto existing = folder.Find(diskName);
+    if (!existing) return web_->writer->AddFile(folder.PathOf(diskName), bytes);
+    if (!overwrite || existing->kind == DiskKind::kFolder)
+        Refuse("\"" + folder.PathOf(existing->name) + "\" exists already.");
+    web_->writer->ReplaceFile(folder.PathOf(existing->name), bytes);
 }
 
 void DiskWebFolder::Delete() {

@@ -47,7 +47,7 @@ void WriteWhereChanged(const DiskFolder& folder, const std::string& name,
         if (entry.name != name || entry.kind != DiskKind::kFile) continue;
         if (ReadWhole(folder.OpenFile(name), folder.PathOf(name)) == bytes) return;
     }
-    WholeFile file(folder.PathOf(name), Durability::kScratch);
+    WholeFile file(folder.PathOf(name), Durability::kUnflushed);
     file.Write(bytes);
     file.Commit();
 }

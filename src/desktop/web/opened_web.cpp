@@ -60,7 +60,8 @@ class WebOpener {
             if (entry.kind == DiskKind::kFolder && EqualIgnoringCase(entry.name, "_themes"))
                 TakeThemes(entry.name);
         }
-        if (installed_ && !options_.onlyTheme) Readable([&] { return installed_->RemoveOthers(); });
+        if (installed_) Readable([&] { return installed_->RemoveOthers(); });
+        if (!installFailure_.empty()) opened_.skipped.push_back(installFailure_);
         std::stable_sort(
             opened_.themes.begin(), opened_.themes.end(),
             [](const Theme& a, const Theme& b) { return Lowered(a.name) < Lowered(b.name); });
@@ -91,8 +92,16 @@ class WebOpener {
         const auto entries = themes ? Readable([&] { return themes->Entries(); }) : std::nullopt;
         if (!entries) return;
         for (const DiskEntry& entry : *entries) {
-            if (entry.kind == DiskKind::kFolder) TakeTheme(*themes, entry.name);
+            if (entry.kind != DiskKind::kFolder) continue;
+            const std::size_t told = opened_.skipped.size();
+            TakeTheme(*themes, entry.name);
+            if (!IsUnpacked(entry.name)) opened_.skipped.resize(told);
         }
+    }
+
+    bool IsUnpacked(const std::string& diskName) const {
+        return !options_.onlyTheme ||
+               EqualIgnoringCase(*options_.onlyTheme, NameFromDisk(diskName));
     }
 
     // A folder that cannot be read is listed by its name, but not unpacked.
@@ -110,20 +119,22 @@ class WebOpener {
             const auto label =
                 Readable([&] { return LabelOf(*folder, description->name, theme.name); });
             if (label) theme.label = *label;
-            if (!options_.onlyTheme || EqualIgnoringCase(*options_.onlyTheme, theme.name))
-                Unpack(*folder, *entries, diskName);
+            const auto target = IsUnpacked(diskName) ? NewUnpackFolder(diskName) : std::nullopt;
+            if (target || installed_) TakeFiles(*folder, *entries, diskName, target);
         }
         opened_.themes.push_back(std::move(theme));
     }
 
-    void Unpack(const DiskFolder& theme, const std::vector<DiskEntry>& entries,
-                const std::string& diskName) {
+    // Nothing when the theme is unpacked already and stays so.
+    std::optional<DiskFolder> NewUnpackFolder(const std::string& diskName) const {
         const std::string path = JoinDiskPath(options_.unpackFolder, diskName);
-        if (::mkdir(path.c_str(), 0700) != 0) {
-            if (errno == EEXIST && options_.keepUnpacked) return;
-            throw FileError(errno, path, "could not be created");
-        }
-        const DiskFolder target = DiskFolder::Open(path, false);
+        if (::mkdir(path.c_str(), 0700) == 0) return DiskFolder::Open(path, false);
+        if (errno == EEXIST && options_.keepUnpacked) return {};
+        throw FileError(errno, path, "could not be created");
+    }
+
+    void TakeFiles(const DiskFolder& theme, const std::vector<DiskEntry>& entries,
+                   const std::string& diskName, const std::optional<DiskFolder>& target) {
         std::vector<InstalledThemes::File> files;
         std::set<std::string> names;
         for (const DiskEntry& entry : entries) {
@@ -134,12 +145,20 @@ class WebOpener {
             }
             auto bytes = Readable([&] { return ReadWebFile(theme, entry.name); });
             if (!bytes) continue;
-            WriteUnpacked(target, entry.name, *bytes);
+            if (target) WriteUnpacked(*target, entry.name, *bytes);
             if (installed_) files.push_back({NameFromDisk(entry.name), std::move(*bytes)});
         }
-        // Where one cannot be installed, the others cannot either.
-        if (installed_ && !Readable([&] { return installed_->Install(diskName, files); }))
+        if (installed_) Install(diskName, files);
+    }
+
+    // Where one cannot be installed, the others cannot either.
+    void Install(const std::string& diskName, const std::vector<InstalledThemes::File>& files) {
+        try {
+            installed_->Install(diskName, files);
+        } catch (const RunTimeError& error) {
+            installFailure_ = error.what();
             installed_.reset();
+        }
     }
 
     void Skip(const std::string& path, std::string_view reason) {
@@ -150,6 +169,7 @@ class WebOpener {
     DiskFolder web_;
     UnpackOptions options_;
     std::optional<InstalledThemes> installed_;
+    std::string installFailure_;
     std::set<std::string> names_;  // of the themes, in lower case
     OpenedWeb opened_;
 };

@@ -12,15 +12,16 @@ namespace morpho {
 struct OpenedWeb {
     std::string folder;                // a path of the disk
     std::vector<Theme> themes;         // by name, without regard to case
-    std::vector<std::string> skipped;  // what could not be taken from its themes, a sentence each
+    std::vector<std::string> skipped;  // what could not be taken from its themes, a sentence each;
+                                       // of those that were not to be unpacked nothing is told
 };
 
 // Where and how a web's themes are made ready.
 struct UnpackOptions {
     std::string unpackFolder = {};              // the host's copies; a path of the disk
     std::optional<std::string> onlyTheme = {};  // the only one to be unpacked
-    std::string installFolder = {};             // each is installed there for all users; or empty
-    bool keepUnpacked = false;                  // what is unpacked already stays as it is
+    std::string installFolder = {};  // every theme is installed there for all users; or empty
+    bool keepUnpacked = false;       // what is unpacked already stays as it is
 };
 
 // Opens a web folder: lists its themes, the folders in "_themes" that hold "<name>.inf", and

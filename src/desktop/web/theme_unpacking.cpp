@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <set>
 
@@ -22,7 +23,7 @@ namespace {
 using Member = ThemePackage::Member;
 
 std::optional<std::string> FileOf(const DiskFolder& folder, const std::string& name) {
-    const auto entry = FindEntry(folder, name);
+    const auto entry = folder.Find(name);
     if (!entry) return {};
     return ReadWebFile(folder, entry->name);
 }
@@ -33,7 +34,7 @@ std::optional<std::vector<Member>> InstalledIn(const std::string& store, const s
     std::error_code ignored;
     if (store.empty() || !std::filesystem::is_directory(store, ignored)) return {};
     const DiskFolder themes = DiskFolder::Open(store, true);
-    const auto entry = FindEntry(themes, NameToDisk(name));
+    const auto entry = themes.Find(NameToDisk(name));
     if (!entry || entry->kind != DiskKind::kFolder) return {};
     const DiskFolder folder = themes.Subfolder(entry->name);
     const auto description = FileOf(folder, entry->name + ".inf");
@@ -59,7 +60,7 @@ void KeepOwnPictures(std::vector<Member>& members) {
     }
 }
 
-// A folder's files while they are replaced. Unless it is finished, all is put back.
+// Gives a folder the members of a package. Unless all goes well, everything is put back.
 class FolderUpdate {
   public:
     FolderUpdate(WebWriter& writer, const DiskFolder& folder) : writer_(writer), folder_(folder) {
@@ -69,37 +70,39 @@ class FolderUpdate {
         }
     }
     ~FolderUpdate() {
-        if (isFinished_) return;
-        for (const auto& [path, bytes] : earlier_)
-            PutBack(path, bytes);
+        if (!isDone_) PutAllBack();
     }
     FolderUpdate(const FolderUpdate&) = delete;
     FolderUpdate& operator=(const FolderUpdate&) = delete;
 
+    void Write(const std::vector<Member>& members) {
+        for (const Member& member : members)
+            Prepare(member);
+        writer_.ReplaceFiles(replaced_);
+        for (const FileChange& change : replaced_) {
+            if (change.failure) throw RunTimeError(*change.failure);
+        }
+        for (; added_ < new_.size(); ++added_)
+            writer_.AddFile(new_[added_].path, new_[added_].bytes);
+        writer_.Flush();
+        isDone_ = true;
+    }
+
+  private:
     // Refuses, before anything is written, what cannot become a file.
-    void Check(const Member& member) const {
+    void Prepare(const Member& member) {
         const std::string name = NameToDisk(member.name);
         const DiskEntry* existing = Existing(name);
         if (!IsEntryName(name) || (existing && existing->kind != DiskKind::kFile))
             throw FileError(ErrorNumber::kPathFileAccess, folder_.PathOf(name),
                             "could not be written", "something stands there that is no file");
+        if (!existing) return new_.push_back({folder_.PathOf(name), member.bytes});
+        std::string bytes = ReadWebFile(folder_, existing->name);
+        if (bytes == member.bytes) return;
+        replaced_.push_back({folder_.PathOf(existing->name), member.bytes});
+        earlier_.push_back(std::move(bytes));
     }
 
-    void Write(const Member& member) {
-        std::string name = NameToDisk(member.name);
-        std::optional<std::string> bytes;
-        if (const DiskEntry* existing = Existing(name)) {
-            name = existing->name;
-            bytes = ReadWebFile(folder_, name);
-            if (*bytes == member.bytes) return;
-        }
-        writer_.ReplaceFile(folder_.PathOf(name), member.bytes);
-        earlier_.emplace_back(folder_.PathOf(name), std::move(bytes));
-    }
-
-    void Finish() { isFinished_ = true; }
-
-  private:
     // What this name means: the entry spelled so, else one that differs in letter case only.
     const DiskEntry* Existing(const std::string& name) const {
         auto found = entries_.find(name);
@@ -107,14 +110,19 @@ class FolderUpdate {
         return found == entries_.end() ? nullptr : &found->second;
     }
 
-    void PutBack(const std::string& path, const std::optional<std::string>& bytes) const noexcept {
+    void PutAllBack() {
+        for (std::size_t i = 0; i < added_; ++i)
+            AsFarAsPossible([&] { writer_.RemoveFile(new_[i].path); });
+        for (std::size_t i = 0; i < replaced_.size(); ++i) {
+            if (replaced_[i].isDone)
+                AsFarAsPossible([&] { writer_.ReplaceFile(replaced_[i].path, earlier_[i]); });
+        }
+    }
+
+    static void AsFarAsPossible(const std::function<void()>& step) {
         try {
-            if (bytes) {
-                writer_.ReplaceFile(path, *bytes);
-            } else {
-                writer_.RemoveFile(path);
-            }
-        } catch (const std::exception&) {
+            step();
+        } catch (const RunTimeError&) {
             // The others may still go back; the next save of this theme writes it anew.
         }
     }
@@ -122,8 +130,11 @@ class FolderUpdate {
     WebWriter& writer_;
     const DiskFolder& folder_;
     std::map<std::string, DiskEntry> entries_;  // by their names, also in lower case
-    std::vector<std::pair<std::string, std::optional<std::string>>> earlier_;
-    bool isFinished_ = false;
+    std::vector<FileChange> replaced_;
+    std::vector<std::string> earlier_;  // what stood in the replaced
+    std::vector<FileChange> new_;       // in the order of the package
+    std::size_t added_ = 0;             // how many of the new ones are there
+    bool isDone_ = false;
 };
 
 std::optional<DiskFolder> FolderOfTheme(const WebSession& web, const std::string& diskName) {
@@ -133,19 +144,9 @@ std::optional<DiskFolder> FolderOfTheme(const WebSession& web, const std::string
 // "_themes" in the web, created when it is missing.
 DiskFolder ThemesFolder(const WebSession& web) {
     const DiskFolder root = web.Root();
-    const auto entry = FindEntry(root, "_themes");
+    const auto entry = root.Find("_themes");
     if (!entry) web.writer->MakeFolder(root.PathOf("_themes"));
     return root.Subfolder(entry ? entry->name : "_themes");
-}
-
-void WriteMembers(const WebSession& web, const DiskFolder& folder,
-                  const std::vector<Member>& members) {
-    FolderUpdate update(*web.writer, folder);
-    for (const Member& member : members)
-        update.Check(member);
-    for (const Member& member : members)
-        update.Write(member);
-    update.Finish();
 }
 
 void CreateWithMembers(const WebSession& web, const std::string& diskName,
@@ -153,7 +154,8 @@ void CreateWithMembers(const WebSession& web, const std::string& diskName,
     const DiskFolder themes = ThemesFolder(web);
     web.writer->MakeFolder(themes.PathOf(diskName));
     try {
-        WriteMembers(web, themes.Subfolder(diskName), members);
+        const DiskFolder folder = themes.Subfolder(diskName);
+        FolderUpdate(*web.writer, folder).Write(members);
     } catch (const RunTimeError&) {
         // Empty again by now; one that stays is no theme.
         ::rmdir(themes.PathOf(diskName).c_str());
@@ -170,11 +172,11 @@ std::string PutThemeIntoWeb(const WebSession& web, const std::string& name) {
     auto members = InstalledIn(web.stores.ofUser, name);
     if (!members) members = InstalledIn(web.stores.forWeb, name);
     const auto folder = FolderOfTheme(web, diskName);
-    if (!members && (!folder || !FindEntry(*folder, diskName + ".inf")))
+    if (!members && (!folder || !folder->Find(diskName + ".inf")))
         throw RunTimeError(ErrorNumber::kAutomation,
                            "There is no theme \"" + name + "\" to be applied.");
     if (members) KeepOwnPictures(*members);
-    if (folder && members) WriteMembers(web, *folder, *members);
+    if (folder && members) FolderUpdate(*web.writer, *folder).Write(*members);
     if (!folder) CreateWithMembers(web, diskName, *members);
     return folder ? NameFromDisk(LastName(folder->Path())) : name;
 }

@@ -7,9 +7,9 @@
 namespace morpho {
 
 // Unpacks the theme of this name (see ApplyThemeToWeb) into the web's "_themes/<name>/" and returns
-// that folder's name (UTF-8). Each file is replaced as a whole, the theme's description comes last,
-// files that are no part of the package stay. Throws RunTimeError when that fails; then the folder
-// is as it was, as far as the disk allows.
+// that folder's name (UTF-8). Each file is replaced as a whole, the description of a theme that is
+// new comes last, files that are no part of the package stay. Throws RunTimeError when that fails;
+// then the folder is as it was, as far as the disk allows.
 std::string PutThemeIntoWeb(const WebSession& web, const std::string& name);
 
 }  // namespace morpho

@@ -71,25 +71,11 @@ std::optional<std::vector<std::string>> NamesInWeb(const WebSession& web, std::s
     return names;
 }
 
-bool IsEntryName(std::string_view diskName) {
-    return !diskName.empty() && diskName != "." && diskName != ".." &&
-           diskName.find('/') == diskName.npos && diskName.find('\0') == diskName.npos;
-}
-
-std::optional<DiskEntry> FindEntry(const DiskFolder& folder, std::string_view diskName) {
-    std::optional<DiskEntry> found;
-    for (const DiskEntry& entry : folder.Entries()) {
-        if (entry.name == diskName) return entry;
-        if (!found && EqualIgnoringCase(entry.name, diskName)) found = entry;
-    }
-    return found;
-}
-
 std::optional<DiskFolder> FindFolderInWeb(const WebSession& web,
                                           const std::vector<std::string>& names) {
     std::optional<DiskFolder> folder = web.Root();
     for (const std::string& name : names) {
-        const auto entry = FindEntry(*folder, name);
+        const auto entry = folder->Find(name);
         if (!entry || entry->kind != DiskKind::kFolder) return {};
         folder = folder->Subfolder(entry->name);
     }

@@ -43,13 +43,6 @@ struct WebSession {
 // ("_themes/blends"); names of the disk, as spelled. Nothing for what leads out of the web.
 std::optional<std::vector<std::string>> NamesInWeb(const WebSession& web, std::string_view url);
 
-// A name of the disk that means an entry directly in a folder: not empty, "." or "..", no "/".
-bool IsEntryName(std::string_view diskName);
-
-// The entry of this name: the one spelled so, else one that differs in letter case only. Nothing
-// when there is none.
-std::optional<DiskEntry> FindEntry(const DiskFolder& folder, std::string_view diskName);
-
 // The folder that these names lead to from the web's own; nothing when there is none, or a link on
 // the way.
 std::optional<DiskFolder> FindFolderInWeb(const WebSession& web,

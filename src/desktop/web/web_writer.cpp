@@ -5,16 +5,47 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <utility>
 
+#include "desktop/disk/at_once.h"
 #include "desktop/disk/file_error.h"
+#include "desktop/disk/flush_files.h"
 #include "desktop/disk/whole_file.h"
 
 namespace morpho {
 
-void WebWriter::ReplaceFile(const std::string& path, std::string_view bytes) {
-    WholeFile file(path, Durability::kFlushed);
+namespace {
+
+void WriteFile(const std::string& path, std::string_view bytes, Durability durability) {
+    WholeFile file(path, durability);
     file.Write(bytes);
     file.Commit();
+}
+
+}  // namespace
+
+void WebWriter::ReplaceFile(const std::string& path, std::string_view bytes) {
+    WriteFile(path, bytes, Durability::kFlushed);
+}
+
+void WebWriter::ReplaceFiles(std::vector<FileChange>& changes) {
+    DoAtOnce(changes.size(), [&](std::size_t i) {
+        try {
+            ReplaceFile(changes[i].path, changes[i].bytes);
+            changes[i].isDone = true;
+        } catch (const RunTimeError& error) {
+            changes[i].failure = error;
+        }
+    });
+}
+
+void WebWriter::AddFile(const std::string& path, std::string_view bytes) {
+    WriteFile(path, bytes, Durability::kUnflushed);
+    unflushed_.push_back(path);
+}
+
+void WebWriter::Flush() {
+    FlushFiles(std::exchange(unflushed_, {}));
 }
 
 void WebWriter::RemoveFile(const std::string& path) {

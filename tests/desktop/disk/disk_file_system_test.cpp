@@ -101,8 +101,12 @@ TEST_F(DiskFileSystemTest, CopyingAFolderLeavesOutLinksAndSpecialFiles) {
     fs::create_directory_symlink(folder_ / "outside", folder_ / "from/folder");
     ::mkfifo((folder_ / "from/pipe").c_str(), 0600);
     folder_.Write("to/A.GIF", "old");
+    folder_.Write("from/same", "3");
+    fs::create_symlink(folder_ / "outside/secret", folder_ / "to/same");
     files_.CopyFolder(Windows("from"), Windows("to"));
-    EXPECT_EQ(folder_.Below("to"), (Tree{{"A.GIF", "1"}, {"sub/", ""}, {"sub/b.gif", "2"}}));
+    EXPECT_EQ(folder_.Below("to"),
+              (Tree{{"A.GIF", "1"}, {"same", "3"}, {"sub/", ""}, {"sub/b.gif", "2"}}));
+    EXPECT_FALSE(fs::is_symlink(folder_ / "to/same"));
     files_.WriteFile(Windows("to/a.gif"), "writable");
 }
 

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <atomic>
+
 #include "desktop/disk/disk_path.h"
 #include "desktop/temporary_folder.h"
 #include "desktop/web/disk_explorer.h"
@@ -21,6 +23,14 @@ class DyingWriter : public WebWriter {
         Count();
         WebWriter::ReplaceFile(path, bytes);
     }
+    void AddFile(const std::string& path, std::string_view bytes) override {
+        Count();
+        WebWriter::AddFile(path, bytes);
+    }
+    void Flush() override {
+        Count();
+        WebWriter::Flush();
+    }
     void RemoveFile(const std::string& path) override {
         Count();
         WebWriter::RemoveFile(path);
@@ -35,7 +45,7 @@ class DyingWriter : public WebWriter {
     void Count() {
         if (--changesLeft_ < 0) throw RunTimeError(ErrorNumber::kDeviceIo, "The disk has died.");
     }
-    int changesLeft_;
+    std::atomic<int> changesLeft_;
 };
 
 const AutomationValue kYes = 1;

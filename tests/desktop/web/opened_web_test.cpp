@@ -95,6 +95,18 @@ TEST_F(OpenedWebTest, SkipsWhatCannotBeReadAndSaysSo) {
     ExpectUnpacked({{"open/", ""}, {"open/open.inf", "[info]"}});
 }
 
+TEST_F(OpenedWebTest, OnlyTheThemeAskedForIsUnpackedAndToldOfButAllAreInstalled) {
+    AddTheme("a");
+    AddTheme("b");
+    folder_.Write("web/_themes/a/x.gif", "1");
+    folder_.Write("web/_themes/a/X.gif", "2");
+    const OpenedWeb web =
+        OpenWebFolder(folder_ / "web", {folder_ / "cache", "B", folder_ / "installed", false});
+    EXPECT_TRUE(web.skipped.empty());
+    ExpectUnpacked({{"b/", ""}, {"b/b.inf", "[info]"}});
+    EXPECT_TRUE(folder_.Has("installed/a/a.elm") && folder_.Has("installed/b/b.elm"));
+}
+
 TEST_F(OpenedWebTest, AWebMustBeAFolderButNeedsNoThemes) {
     folder_.Write("web/index.htm", "");
     ExpectThemes("");
