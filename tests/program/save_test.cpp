@@ -1,7 +1,10 @@
+#include <sys/stat.h>
+
 #include "program.h"
 
 namespace {
 
+namespace fs = std::filesystem;
 using morpho::Tree;
 using nlohmann::json;
 
@@ -78,12 +81,18 @@ TEST_F(Save, RefusesWithTheDialogsOwnWordsAndChangesNothing) {
     expectRefusal("orrery --save-as n --title 'old almanac'", 1, "This theme title is being used");
     expectRefusal("orrery --save --export OUT", 2, "");
     expectRefusal("orrery --save --title T", 2, "title");
+    ExpectRefusal("recolor WEB/nowhere --theme orrery --save --dry-run", 1, "web/nowhere");
     ExpectRefusal("apply WEB --theme nonsense", 1, "nonsense");
 }
 
 TEST_F(Save, ADryRunTellsWhatWouldBeWrittenAndWritesNothing) {
     const Tree before = Web();
-    const Outcome outcome = Run(kRecolour + "--save-as auto --apply-to-web --dry-run");
+    fs::create_symlink("web", home_ / "link");
+    const std::string pipe = home_ / "web/pipe.htm";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    const Outcome outcome =
+        Run(Replaced(kRecolour, "WEB", home_ / "link") + "--save-as auto --apply-to-web --dry-run");
+    fs::remove(pipe);
     ASSERT_EQ(outcome.status, 0) << outcome.err;
     const auto tells = [&](const std::string& line) {
         return outcome.out.find(line) != std::string::npos;

@@ -2,6 +2,13 @@
 
 #include <fstream>
 #include <iterator>
+#include <vector>
+
+#include "desktop/disk/disk_folder.h"
+#include "desktop/disk/file_error.h"
+#include "desktop/disk/whole_file.h"
+#include "desktop/web/theme_of_web.h"
+#include "platform/ignoring_case.h"
 
 namespace morpho {
 
@@ -17,21 +24,48 @@ std::string ReadAll(const fs::path& file) {
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-void CopyTree(const fs::path& source, const fs::path& destination) {
-    fs::create_directories(destination);
-    fs::copy(source, destination, fs::copy_options::recursive | fs::copy_options::copy_symlinks);
+// The web's folder without links; one that cannot be opened is refused as by the save itself.
+fs::path RealFolder(const fs::path& web) {
+    DiskFolder::Open(fs::absolute(web).lexically_normal().string(), true);
+    return fs::canonical(web);
+}
+
+// What a save reads and changes in a web: themes, the web's own settings, pages, and what a save
+// that died left beside those.
+bool IsForSave(const fs::path& name) {
+    const std::string top = name.begin()->string();
+    const std::string file = name.filename().string();
+    return EqualIgnoringCase(top, "_themes") || EqualIgnoringCase(top, "_vti_pvt") ||
+           IsPageName(file) || IsBesideName(file);
+}
+
+// Folders, each before its contents, and regular files: all that may be read. They are listed
+// before anything is copied, for the copy may lie below the same folder.
+std::vector<fs::directory_entry> EntriesBelow(const fs::path& folder) {
+    std::vector<fs::directory_entry> entries;
+    for (const auto& entry :
+         fs::recursive_directory_iterator(folder, fs::directory_options::skip_permission_denied)) {
+        std::error_code ignored;
+        const fs::file_type type = entry.symlink_status(ignored).type();
+        if (type == fs::file_type::directory || type == fs::file_type::regular)
+            entries.push_back(entry);
+    }
+    return entries;
 }
 
 }  // namespace
 
 DryRun::DryRun(const fs::path& web, const UserFolders& folders)
-    : realWeb_(fs::absolute(web).lexically_normal()), realFolders_(folders), stage_(folders.cache) {
-    CopyTree(realWeb_, Web());
-    const fs::path realThemes = fs::path(realFolders_.data) / kUserThemes;
-    fs::create_directories(UserThemes());
-    if (fs::is_directory(realThemes)) CopyTree(realThemes, UserThemes());
-    webBefore_ = ReadTree(Web());
-    themesBefore_ = ReadTree(UserThemes());
+    : realWeb_(RealFolder(web)), realFolders_(folders), stage_(folders.cache) {
+    try {
+        webFiles_ = CopyFiles(realWeb_, Web(), IsForSave);
+        fs::create_directories(UserThemes());
+        if (fs::is_directory(RealUserThemes()))
+            themeFiles_ =
+                CopyFiles(RealUserThemes(), UserThemes(), [](const auto&) { return true; });
+    } catch (const fs::filesystem_error& error) {
+        throw FileError(error.code().value(), realWeb_.string(), "could not be rehearsed on");
+    }
 }
 
 fs::path DryRun::Web() const {
@@ -42,6 +76,10 @@ fs::path DryRun::UserThemes() const {
     return fs::path(Folders().data) / kUserThemes;
 }
 
+fs::path DryRun::RealUserThemes() const {
+    return fs::path(realFolders_.data) / kUserThemes;
+}
+
 UserFolders DryRun::Folders() const {
     UserFolders folders = realFolders_;
     folders.data = stage_.Temporary() + "/data";
@@ -49,33 +87,52 @@ UserFolders DryRun::Folders() const {
 }
 
 std::string DryRun::WouldWrite() const {
-    return Changes(webBefore_, ReadTree(Web()), realWeb_) +
-           Changes(themesBefore_, ReadTree(UserThemes()),
-                   fs::path(realFolders_.data) / kUserThemes);
+    return Changes(realWeb_, Web(), webFiles_) +
+           Changes(RealUserThemes(), UserThemes(), themeFiles_);
 }
 
-DryRun::Tree DryRun::ReadTree(const fs::path& folder) {
-    Tree tree;
-    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-        if (entry.is_regular_file() && !entry.is_symlink()) {
-            tree[entry.path().lexically_relative(folder).string()] = ReadAll(entry.path());
+std::string DryRun::WithRealPlaces(std::string text) const {
+    const std::string copy = Web().string();
+    const std::string real = realWeb_.string();
+    for (auto at = text.find(copy); at != std::string::npos; at = text.find(copy, at + real.size()))
+        text.replace(at, copy.size(), real);
+    return text;
+}
+
+DryRun::Names DryRun::CopyFiles(const fs::path& source, const fs::path& destination,
+                                const IsWanted& isWanted) {
+    Names names;
+    fs::create_directories(destination);
+    for (const fs::directory_entry& entry : EntriesBelow(source)) {
+        const fs::path name = entry.path().lexically_relative(source);
+        if (entry.is_directory()) {
+            fs::create_directories(destination / name);
+        } else if (isWanted(name)) {
+            std::error_code error;
+            fs::copy_file(entry.path(), destination / name, error);
+            if (error == std::errc::permission_denied) continue;
+            if (error) throw FileError(error.value(), entry.path().string(), "could not be copied");
+            names.insert(name);
         }
     }
-    return tree;
+    return names;
 }
 
-std::string DryRun::Changes(const Tree& before, const Tree& after, const fs::path& realFolder) {
+std::string DryRun::Changes(const fs::path& realFolder, const fs::path& copy, const Names& copied) {
     std::string lines;
-    for (const auto& [name, bytes] : after) {
-        const auto earlier = before.find(name);
-        if (earlier == before.end()) {
+    Names now;
+    for (const fs::directory_entry& entry : EntriesBelow(copy)) {
+        if (!entry.is_directory()) now.insert(entry.path().lexically_relative(copy));
+    }
+    for (const fs::path& name : now) {
+        if (!copied.contains(name)) {
             lines += "would create " + (realFolder / name).string() + "\n";
-        } else if (earlier->second != bytes) {
+        } else if (ReadAll(copy / name) != ReadAll(realFolder / name)) {
             lines += "would change " + (realFolder / name).string() + "\n";
         }
     }
-    for (const auto& [name, bytes] : before) {
-        if (!after.contains(name)) lines += "would delete " + (realFolder / name).string() + "\n";
+    for (const fs::path& name : copied) {
+        if (!now.contains(name)) lines += "would delete " + (realFolder / name).string() + "\n";
     }
     return lines;
 }

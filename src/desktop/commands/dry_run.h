@@ -1,7 +1,8 @@
 #pragma once
 
 #include <filesystem>
-#include <map>
+#include <functional>
+#include <set>
 #include <string>
 
 #include "desktop/system/private_folder.h"
@@ -9,11 +10,12 @@
 
 namespace morpho {
 
-// A rehearsal: a private copy of a web and of the user's data, on which a batch may do its work, so
-// that what it would write is what it wrote there.
+// A rehearsal: a private copy of what a save reads and changes in a web and in the user's data, on
+// which a batch may do its work, so that what it would write is what it wrote there.
 class DryRun {
   public:
-    // Throws std::filesystem::filesystem_error when something cannot be copied.
+    // What may not be read is left out. Throws RunTimeError when the web cannot be opened or
+    // something cannot be copied.
     DryRun(const std::filesystem::path& web, const UserFolders& folders);
 
     std::filesystem::path Web() const;
@@ -21,20 +23,26 @@ class DryRun {
     UserFolders Folders() const;
     // What has been written or deleted since, one line for a file, by its real place.
     std::string WouldWrite() const;
+    // A text of the rehearsal with the web's real place in it.
+    std::string WithRealPlaces(std::string text) const;
 
   private:
-    // Files by path below a folder, with their bytes.
-    using Tree = std::map<std::string, std::string>;
+    // Regular files by path below a folder.
+    using Names = std::set<std::filesystem::path>;
+    using IsWanted = std::function<bool(const std::filesystem::path& name)>;
+
     std::filesystem::path UserThemes() const;
-    static Tree ReadTree(const std::filesystem::path& folder);
-    static std::string Changes(const Tree& before, const Tree& after,
-                               const std::filesystem::path& realFolder);
+    std::filesystem::path RealUserThemes() const;
+    static Names CopyFiles(const std::filesystem::path& source,
+                           const std::filesystem::path& destination, const IsWanted& isWanted);
+    static std::string Changes(const std::filesystem::path& realFolder,
+                               const std::filesystem::path& copy, const Names& copied);
 
     std::filesystem::path realWeb_;
     UserFolders realFolders_;
     PrivateFolder stage_;
-    Tree webBefore_;
-    Tree themesBefore_;
+    Names webFiles_;
+    Names themeFiles_;
 };
 
 }  // namespace morpho

@@ -74,18 +74,30 @@ std::string Save(const RecolorRequest& request, const UserFolders& folders, std:
     return Printed(report, request);
 }
 
+// The save, on copies.
+std::string Rehearse(const RecolorRequest& request, const UserFolders& folders,
+                     std::string& warnings) {
+    const DryRun rehearsal(request.web, folders);
+    RecolorRequest there = request;
+    there.web = rehearsal.Web();
+    there.picture.clear();
+    std::string refusal;
+    try {
+        Save(there, rehearsal.Folders(), warnings);
+    } catch (const std::exception& error) {
+        refusal = rehearsal.WithRealPlaces(error.what());
+    }
+    warnings = rehearsal.WithRealPlaces(warnings);
+    if (!refusal.empty()) throw CommandError(CommandError::Status::kRefused, refusal);
+    return rehearsal.WouldWrite();
+}
+
 }  // namespace
 
 std::string Recolor(const RecolorRequest& request, std::string& warnings) {
     if (request.outcome.kind == Outcome::Kind::kExport) return Export(request, warnings);
     const UserFolders folders = FindUserFolders(EnvironmentVariable);
-    if (!request.dryRun) return Save(request, folders, warnings);
-    DryRun rehearsal(request.web, folders);
-    RecolorRequest there = request;
-    there.web = rehearsal.Web();
-    there.picture.clear();
-    Save(there, rehearsal.Folders(), warnings);
-    return rehearsal.WouldWrite();
+    return request.dryRun ? Rehearse(request, folders, warnings) : Save(request, folders, warnings);
 }
 
 }  // namespace morpho
