@@ -177,6 +177,8 @@ class frmThemeMorpho : public LoggedForm {
     std::string WorkFolder() const;
     // What ended the last theme load; empty when it went well.
     const std::string& LoadFailure() const { return loadFailure_; }
+    // What ended the last save; empty when it went well, or said itself why not.
+    const std::string& SaveFailure() const { return saver_.Failure(); }
 
   protected:
     void Form_Load() override;

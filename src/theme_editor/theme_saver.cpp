@@ -59,6 +59,7 @@ struct ThemeSaver::Run {
 };
 
 SaveOutcome ThemeSaver::SaveThemeAs(const LoadedTheme& theme, bool applyFlag) {
+    failure_.clear();
     SaveTarget target{theme.name, theme.label, applyFlag, true};
     const std::string prompt = std::exchange(saveAsPrompt_, "\r\nEnter new theme details:");
     frmSaveAs dialog(program_);
@@ -71,6 +72,7 @@ SaveOutcome ThemeSaver::SaveThemeAs(const LoadedTheme& theme, bool applyFlag) {
 SaveOutcome ThemeSaver::SaveTheme(const LoadedTheme& theme, const SaveTarget& target) {
     const BusySwitch::Guard busy(busySwitch_);
     SaveOutcome outcome = SaveOutcome::kNotSaved;
+    failure_.clear();
     try {
         Run run{theme, target};
         outcome = RunSteps(run);
@@ -292,6 +294,7 @@ bool ThemeSaver::Fail(const std::string& logLine, const std::string& message) {
 }
 
 void ThemeSaver::TellError(const RunTimeError& error) {
+    failure_ = error.what();
     try {
         Log(Hexadecimal(error.Number()) + " (" + error.what() + ") occured on line " +
             std::to_string(line_) + " in function SaveTheme");

@@ -49,6 +49,9 @@ class ThemeSaver {
     SaveOutcome SaveTheme(const LoadedTheme& theme, const SaveTarget& target);
     // Asks for name and title, then saves as a new theme.
     SaveOutcome SaveThemeAs(const LoadedTheme& theme, bool applyFlag);
+    // The error that ended the last save; empty when it went well, or ended with a message that
+    // gives its own reason.
+    const std::string& Failure() const { return failure_; }
 
   private:
     struct Run;
@@ -81,6 +84,7 @@ class ThemeSaver {
     BusySwitch& busySwitch_;
     Label& lblStatus_;
     std::string saveAsPrompt_{"Enter new theme details:"};
+    std::string failure_;
     int line_ = 0;  // of SaveTheme's steps, for the log
 };
 
