@@ -83,6 +83,8 @@ TEST_F(Save, RefusesWithTheDialogsOwnWordsAndChangesNothing) {
     expectRefusal("orrery --save --title T", 2, "title");
     ExpectRefusal("recolor WEB/nowhere --theme orrery --save --dry-run", 1, "web/nowhere");
     ExpectRefusal("apply WEB --theme nonsense", 1, "nonsense");
+    ExpectRefusal("apply WEB --theme ''", 2, "--theme");
+    ExpectRefusal("apply '' --theme orrery", 2, "WEB");
 }
 
 TEST_F(Save, ADryRunTellsWhatWouldBeWrittenAndWritesNothing) {

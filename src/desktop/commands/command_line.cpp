@@ -65,9 +65,16 @@ CLI::Validator NumberFrom(int least, int most) {
     return {refusal, range};
 }
 
-// An empty path is most often a variable of a script that was never set.
+// An empty name is most often a variable of a script that was never set.
 CLI::Validator NotEmpty() {
     return {[](const std::string& text) { return text.empty() ? "nothing is named" : ""; }, ""};
+}
+
+void AddWeb(CLI::App& command, std::filesystem::path& web) {
+    command.add_option("WEB", web, "Folder of the web")
+        ->type_name("")
+        ->check(NotEmpty())
+        ->required();
 }
 
 // The options that are steps, with what each may be given.
@@ -180,20 +187,14 @@ Request ParseCommandLine(int argc, const char* const* argv, const std::string& v
     ThemeRequest theme;
     CLI::App* themeCommand =
         app.add_subcommand("theme", "Open a web's theme in the Theme Morpho window");
-    themeCommand->add_option("WEB", theme.web, "Folder of the web")
-        ->type_name("")
-        ->check(NotEmpty())
-        ->required();
+    AddWeb(*themeCommand, theme.web);
     themeCommand->add_option("--theme", theme.theme, "Theme to open; the web's first if not given")
         ->type_name("NAME")
         ->check(NotEmpty());
 
     ListRequest list;
     CLI::App* listCommand = app.add_subcommand("list", "List a web's themes and their elements");
-    listCommand->add_option("WEB", list.web, "Folder of the web")
-        ->type_name("")
-        ->check(NotEmpty())
-        ->required();
+    AddWeb(*listCommand, list.web);
     listCommand
         ->add_option("--theme", list.theme, "List this theme's elements: key, file, image group")
         ->type_name("NAME")
@@ -203,10 +204,7 @@ Request ParseCommandLine(int argc, const char* const* argv, const std::string& v
     RecolorRequest recolor;
     CLI::App* recolorCommand = app.add_subcommand("recolor", "Recolour a theme in a batch");
     recolorCommand->footer(kSteps);
-    recolorCommand->add_option("WEB", recolor.web, "Folder of the web")
-        ->type_name("")
-        ->check(NotEmpty())
-        ->required();
+    AddWeb(*recolorCommand, recolor.web);
     recolorCommand->add_option("--theme", recolor.theme, "Theme to recolour")
         ->type_name("NAME")
         ->check(NotEmpty())
@@ -226,8 +224,10 @@ Request ParseCommandLine(int argc, const char* const* argv, const std::string& v
 
     ApplyRequest apply;
     CLI::App* applyCommand = app.add_subcommand("apply", "Give a web's pages another theme");
-    applyCommand->add_option("WEB", apply.web, "Folder of the web")->required();
+    AddWeb(*applyCommand, apply.web);
     applyCommand->add_option("--theme", apply.theme, "A theme of the web, or one of the user's own")
+        ->type_name("NAME")
+        ->check(NotEmpty())
         ->required();
 
     try {
