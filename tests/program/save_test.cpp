@@ -69,6 +69,18 @@ TEST_F(Save, OverwritesTheThemeWhereTheWebUsesIt) {
     EXPECT_EQ(WithoutTheme(Web(), "orrery"), WithoutTheme(before, "orrery"));
 }
 
+TEST_F(Save, OfAThemeThatTheWebDoesNotUseIsForTheUserAloneAndSaysSo) {
+    const std::string description = "web/_themes/almanac/almanac.inf";
+    home_.Write(description, Replaced(home_.Read(description), "ReadOnly=true", "ReadOnly=0"));
+    const Tree before = Web();
+    const Outcome outcome = Run("recolor WEB --theme almanac --hue 60 --apply --save --json");
+    ASSERT_EQ(outcome.status, 0) << outcome.err;
+    EXPECT_EQ(json::parse(outcome.out)["saved"]["web"], false);
+    EXPECT_NE(outcome.err.find("does not use \"almanac\""), std::string::npos) << outcome.err;
+    EXPECT_TRUE(home_.Has("data/morpho/AppData/Microsoft/Themes/almanac/almanac.elm"));
+    EXPECT_EQ(Web(), before);
+}
+
 TEST_F(Save, RefusesWithTheDialogsOwnWordsAndChangesNothing) {
     const auto expectRefusal = [this](const std::string& arguments, int status, const char* says) {
         ExpectRefusal("recolor WEB --theme " + arguments, status, says);

@@ -67,8 +67,12 @@ std::string Save(const RecolorRequest& request, const UserFolders& folders, std:
     const bool applied = EqualIgnoringCase(batch.ThemeOfWeb(), saved.name);
     report["saved"] = {{"name", saved.name},
                        {"title", saved.title},
-                       {"web", !asNew || request.outcome.applyToWeb},
+                       {"web", asNew ? request.outcome.applyToWeb : applied},
                        {"applied", applied}};
+    if (!asNew && !applied) {
+        warnings += "The web does not use \"" + saved.name +
+                    "\": it is saved among your own themes only.\n";
+    }
     for (const std::string& sentence : batch.Reports())
         warnings += sentence + "\n";
     return Printed(report, request);
