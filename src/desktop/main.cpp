@@ -14,38 +14,39 @@ namespace {
 
 using namespace morpho;
 
+// Runs the command that a request asks for. What it has to tell besides its result, one sentence a
+// line, is in `warnings` also when it then fails.
 struct Runner {
+    std::string& warnings;
+
     void operator()(const TextRequest& request) const { std::cout << request.text; }
     void operator()(const ThemeRequest& request) const { ShowThemeWindow(request); }
-    void operator()(const ListRequest& request) const {
-        std::string warnings;
-        std::cout << List(request, warnings);
-        std::cerr << warnings;
-    }
-    void operator()(const ApplyRequest& request) const { std::cerr << Apply(request); }
+    void operator()(const ListRequest& request) const { std::cout << List(request, warnings); }
+    void operator()(const ApplyRequest& request) const { warnings = Apply(request); }
     void operator()(const RecolorRequest& request) const {
-        std::string warnings;
         std::cout << Recolor(request, warnings);
-        std::cerr << warnings;
     }
 };
-
-int Fail(const std::string& sentence, int status) {
-    std::cerr << "morpho: " << sentence << "\n";
-    return status;
-}
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    constexpr int kRefused = static_cast<int>(CommandError::Status::kRefused);
+    constexpr CommandError::Status kRefused = CommandError::Status::kRefused;
+    std::string warnings;
+    std::string failure;
+    int status = 0;
     try {
-        std::visit(Runner{}, ParseCommandLine(argc, argv, MORPHO_VERSION));
+        std::visit(Runner{warnings}, ParseCommandLine(argc, argv, MORPHO_VERSION));
         std::cout.flush();
-        return std::cout ? 0 : Fail("Standard output cannot be written.", kRefused);
+        if (!std::cout) throw CommandError(kRefused, "Standard output cannot be written.");
     } catch (const CommandError& error) {
-        return Fail(error.what(), error.ExitStatus());
+        failure = error.what();
+        status = error.ExitStatus();
     } catch (const std::exception& error) {
-        return Fail(error.what(), kRefused);
+        failure = error.what();
+        status = static_cast<int>(kRefused);
     }
+    std::cerr << warnings;
+    if (status != 0) std::cerr << "morpho: " << failure << "\n";
+    return status;
 }

@@ -99,6 +99,25 @@ TEST_F(Save, RefusesWithTheDialogsOwnWordsAndChangesNothing) {
     ExpectRefusal("apply '' --theme orrery", 2, "WEB");
 }
 
+TEST_F(Save, TellsWhyItIsRefused) {
+    // The file stands where a folder of the user's data must be.
+    const auto expectTold = [this](const char* file, const char* reason, const char* refusal) {
+        SCOPED_TRACE(file);
+        const Tree before = Web();
+        home_.Write(file, "");
+        const Outcome outcome = Run(kRecolour + "--save");
+        EXPECT_EQ(outcome.status, 1);
+        const auto told = outcome.err.find(reason);
+        EXPECT_NE(told, std::string::npos) << outcome.err;
+        EXPECT_EQ(outcome.err.find(reason, told + 1), std::string::npos) << outcome.err;
+        EXPECT_NE(outcome.err.find(refusal), std::string::npos) << outcome.err;
+        EXPECT_EQ(Web(), before);
+        fs::remove_all(home_ / "data");
+    };
+    expectTold("data/morpho/webs", "a folder is expected there.\n",
+               "\nmorpho: Unable to locate source theme\n");
+}
+
 TEST_F(Save, ADryRunTellsWhatWouldBeWrittenAndWritesNothing) {
     const Tree before = Web();
     fs::create_symlink("web", home_ / "link");

@@ -50,12 +50,10 @@ BatchWindow& Batch::OpenTheme(const std::string& name) {
                            "This web has no theme named \"" + name + "\".");
     const std::string unpacked =
         ToWindowsPath(desktop_.WorkFolder().Cache()) + "\\FrontPageTempDir\\mstheme\\" + name;
-    if (!FolderExists(desktop_.Parts().files, unpacked)) {
-        const std::vector<std::string>& reasons = desktop_.FrontPage().Opened()->skipped;
-        throw CommandError(
-            CommandError::Status::kRefused,
-            reasons.empty() ? "The theme \"" + name + "\" cannot be read." : reasons.front());
-    }
+    // The warnings tell why.
+    if (!FolderExists(desktop_.Parts().files, unpacked))
+        throw CommandError(CommandError::Status::kRefused,
+                           "The theme \"" + name + "\" cannot be read.");
     if (!window_) window_ = std::make_unique<BatchWindow>(program_, toolkit_);
     window_->OpenTheme(name);
     return *window_;

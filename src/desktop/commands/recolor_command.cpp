@@ -47,9 +47,10 @@ std::string Printed(const nlohmann::ordered_json& report, const RecolorRequest& 
 std::string Export(const RecolorRequest& request, std::string& warnings) {
     const ExportFolder exportFolder(request.outcome.exportFolder);
     Batch batch(request.web, request.theme);
+    warnings = batch.Warnings();
     BatchWindow& window = TakeSteps(batch, request);
+    warnings += Warnings(window.Window());
     const std::string source = ToDiskPath(window.Window().WorkFolder()).value();
-    warnings = batch.Warnings() + Warnings(window.Window());
     if (request.dryRun) return exportFolder.WouldFill(source);
     DrawIfAsked(window, request);
     exportFolder.Fill(source);
@@ -58,8 +59,9 @@ std::string Export(const RecolorRequest& request, std::string& warnings) {
 
 std::string Save(const RecolorRequest& request, const UserFolders& folders, std::string& warnings) {
     Batch batch(request.web, request.theme, folders);
+    warnings = batch.Warnings();
     BatchWindow& window = TakeSteps(batch, request);
-    warnings = batch.Warnings() + Warnings(window.Window());
+    warnings += Warnings(window.Window());
     DrawIfAsked(window, request);
     nlohmann::ordered_json report = RecolorReport(window.Window());
     const bool asNew = request.outcome.kind == Outcome::Kind::kSaveAs;

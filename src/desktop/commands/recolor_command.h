@@ -7,8 +7,8 @@
 namespace morpho {
 
 // `morpho recolor`: the text for standard output. Files that were left out and pictures that could
-// not be recoloured are told in `warnings`, one sentence a line. Throws CommandError, and has
-// written nothing then.
+// not be recoloured are told in `warnings`, one sentence a line, also before a refusal. Throws
+// CommandError, and has written nothing then.
 std::string Recolor(const RecolorRequest& request, std::string& warnings);
 
 }  // namespace morpho
