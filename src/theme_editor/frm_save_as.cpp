@@ -5,10 +5,12 @@
 #include <cstdint>
 
 #include "platform/file_system.h"
+#include "platform/ignoring_case.h"
 #include "platform/platform.h"
 #include "platform/profile_files.h"
 #include "shared/mod_shared_code.h"
 #include "theme_editor/installed_theme.h"
+#include "theme_editor/plain_file_name.h"
 #include "theme_editor/product.h"
 
 namespace morpho {
@@ -35,6 +37,11 @@ std::string UniqueSuggestion(std::string_view base, const ListBox& list) {
         candidate = prefix + std::to_string(++counter);
     } while (list.FindExact(candidate) != kNoEntry);
     return candidate;
+}
+
+// A page whose theme is called "none" has no theme.
+bool CanNameATheme(const std::string& name) {
+    return IsValidFileName(name) && IsPlainFileName(name) && !EqualIgnoringCase(name, "none");
 }
 
 }  // namespace
@@ -129,9 +136,7 @@ bool frmSaveAs::AcceptEntries() {
     txtThemeName.SetText(Trim(txtThemeName.Text()));
     const std::string& name = txtThemeName.Text();
     if (name.empty()) return Refuse("You must specify a theme name.", txtThemeName);
-    // The system drops a full stop at a folder's end: the folder would be another theme's.
-    if (!IsValidFileName(name) || name.ends_with('.'))
-        return Refuse("Theme name must be a valid file name.", txtThemeName);
+    if (!CanNameATheme(name)) return Refuse("Theme name must be a valid file name.", txtThemeName);
     txtThemeTitle.SetText(Trim(txtThemeTitle.Text()));
     const std::string& title = txtThemeTitle.Text();
     if (title.empty()) return Refuse("You must specify a theme title.", txtThemeTitle);

@@ -1,7 +1,5 @@
 #include "theme_editor/theme_package.h"
 
-#include <algorithm>
-#include <array>
 #include <charconv>
 #include <cstdint>
 #include <optional>
@@ -13,6 +11,7 @@
 #include "platform/platform.h"
 #include "platform/run_time_error.h"
 #include "shared/mod_shared_code.h"
+#include "theme_editor/plain_file_name.h"
 
 namespace morpho {
 
@@ -42,24 +41,6 @@ std::optional<Number> NumberIn(std::string_view text) {
     const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error != std::errc() || stop != text.data() + text.size()) return std::nullopt;
     return number;
-}
-
-// Names that mean a device of the system in every folder, with any extension.
-bool IsDeviceName(std::string_view name) {
-    const std::string stem = Lowered(Trim(name.substr(0, name.find('.'))));
-    constexpr std::array<std::string_view, 4> kDevices = {"con", "prn", "aux", "nul"};
-    if (std::find(kDevices.begin(), kDevices.end(), stem) != kDevices.end()) return true;
-    return stem.size() == 4 && (stem.starts_with("com") || stem.starts_with("lpt")) &&
-           stem.back() >= '0' && stem.back() <= '9';
-}
-
-// A name that, put behind a folder, means a file directly in that folder on every system.
-bool IsPlainFileName(std::string_view name) {
-    const bool hasControls = std::any_of(
-        name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; });
-    return !name.empty() && !hasControls &&
-           name.find_first_of("\\/:*?<>|\"") == std::string_view::npos && name.back() != '.' &&
-           name.back() != ' ' && name.front() != ' ' && !IsDeviceName(name);
 }
 
 struct Index {

@@ -75,7 +75,7 @@ TEST_F(SaveAsDialog, RefusesWhatCannotBeATheme) {
     TextBox& nameBox = dialog.txtThemeName;
     TextBox& titleBox = dialog.txtThemeTitle;
     ExpectRefused("  ", "", "You must specify a theme name.", nameBox);
-    for (const char* invalid : {"My#Theme", "..\\up", "moor."})
+    for (const char* invalid : {"My#Theme", "..\\up", "moor.", "None", "aux.x", "COM1", "a\nb"})
         ExpectRefused(invalid, "", "Theme name must be a valid file name.", nameBox);
     ExpectRefused("MOOR", "  ", "You must specify a theme title.", titleBox);
     ExpectRefused("MOOR", "x",

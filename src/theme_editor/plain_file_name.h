@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string_view>
+
+namespace morpho {
+
+// Whether the name, put behind a folder, means a file or folder directly in it on every system:
+// no path, no control character, no device such as "nul" or "com1.x", no blank at either end and
+// no full stop at the last.
+bool IsPlainFileName(std::string_view name);
+
+// Whether the byte of an ANSI or UTF-8 text is one of the control characters of ASCII.
+bool IsControl(char c);
+
+}  // namespace morpho
