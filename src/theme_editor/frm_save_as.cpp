@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cstdint>
 
+#include "platform/code_page.h"
 #include "platform/file_system.h"
 #include "platform/ignoring_case.h"
 #include "platform/platform.h"
@@ -39,9 +40,25 @@ std::string UniqueSuggestion(std::string_view base, const ListBox& list) {
     return candidate;
 }
 
+// The text with "_" for all that descriptions and packages of themes cannot hold: characters that
+// their code page lacks, and control characters.
+std::string Storable(const CodePage& codePage, std::string_view text) {
+    std::string storable = codePage.ToText(codePage.ToBytes(text, [](char32_t) { return "_"; }));
+    std::replace_if(storable.begin(), storable.end(), IsControl, '_');
+    return storable;
+}
+
 // A page whose theme is called "none" has no theme.
-bool CanNameATheme(const std::string& name) {
-    return IsValidFileName(name) && IsPlainFileName(name) && !EqualIgnoringCase(name, "none");
+bool CanNameATheme(const CodePage& codePage, const std::string& name) {
+    return IsValidFileName(name) && IsPlainFileName(name) && !EqualIgnoringCase(name, "none") &&
+           Storable(codePage, name) == name;
+}
+
+// Whether a profile file gives back the same title. It takes a pair of quotes away.
+bool CanBeATitle(const CodePage& codePage, const std::string& title) {
+    const bool quoted = title.size() > 1 && title.front() == title.back() &&
+                        (title.front() == '"' || title.front() == '\'');
+    return !quoted && Storable(codePage, title) == title;
 }
 
 }  // namespace
@@ -92,8 +109,9 @@ void frmSaveAs::Form_Load() {
     lstAppThemeTitle.Clear();
     for (const bool shared : {true, false})
         ListThemesOf(GetThemesFolder(TheProgram(), shared));
-    txtThemeTitle.SetText(UniqueSuggestion(title_, lstAppThemeTitle));
-    txtThemeName.SetText(UniqueSuggestion(name_, lstAppThemeName));
+    const CodePage& codePage = ThePlatform().codePage;
+    txtThemeTitle.SetText(UniqueSuggestion(Storable(codePage, title_), lstAppThemeTitle));
+    txtThemeName.SetText(UniqueSuggestion(Storable(codePage, name_), lstAppThemeName));
     chkApplyToWeb.SetValue(applyToWeb_);
 }
 
@@ -133,13 +151,17 @@ void frmSaveAs::cmdSave_Click() {
 }
 
 bool frmSaveAs::AcceptEntries() {
+    const CodePage& codePage = ThePlatform().codePage;
     txtThemeName.SetText(Trim(txtThemeName.Text()));
     const std::string& name = txtThemeName.Text();
     if (name.empty()) return Refuse("You must specify a theme name.", txtThemeName);
-    if (!CanNameATheme(name)) return Refuse("Theme name must be a valid file name.", txtThemeName);
+    if (!CanNameATheme(codePage, name))
+        return Refuse("Theme name must be a valid file name.", txtThemeName);
     txtThemeTitle.SetText(Trim(txtThemeTitle.Text()));
     const std::string& title = txtThemeTitle.Text();
     if (title.empty()) return Refuse("You must specify a theme title.", txtThemeTitle);
+    if (!CanBeATitle(codePage, title))
+        return Refuse("Theme title holds characters that cannot be saved.", txtThemeTitle);
     if (lstAppThemeName.FindExact(name) != kNoEntry)
         return Refuse(
             "This theme name is being used by another theme. Please specify another name.",

@@ -75,15 +75,27 @@ TEST_F(SaveAsDialog, RefusesWhatCannotBeATheme) {
     TextBox& nameBox = dialog.txtThemeName;
     TextBox& titleBox = dialog.txtThemeTitle;
     ExpectRefused("  ", "", "You must specify a theme name.", nameBox);
-    for (const char* invalid : {"My#Theme", "..\\up", "moor.", "None", "aux.x", "COM1", "a\nb"})
+    for (const char* invalid :
+         {"My#Theme", "..\\up", "moor.", "None", "aux.x", "COM1", "a\nb", "Łódź"})
         ExpectRefused(invalid, "", "Theme name must be a valid file name.", nameBox);
     ExpectRefused("MOOR", "  ", "You must specify a theme title.", titleBox);
+    for (const char* unstorable : {"Łódź", "\"Dunes\"", "'x'", "a\r\nb", "\tDunes"})
+        ExpectRefused("MOOR", unstorable, "Theme title holds characters that cannot be saved.",
+                      titleBox);
     ExpectRefused("MOOR", "x",
                   "This theme name is being used by another theme. Please specify another name.",
                   nameBox);
     ExpectRefused("new", " dunes ",
                   "This theme title is being used by another theme. Please specify another title.",
                   titleBox);
+}
+
+TEST_F(SaveAsDialog, SuggestsWhatItAccepts) {
+    name = "Łódź";
+    title = "\"Köln\tŁódź\"";
+    EXPECT_TRUE(Show([&] { dialog.cmdSave.UserClick(); }));
+    EXPECT_EQ(name, "_ód_2");
+    EXPECT_EQ(title, "\"Köln__ód_\"2");
 }
 
 TEST_F(SaveAsDialog, GivesBackWhatWasEnteredAndNothingWhenCancelled) {
