@@ -18,6 +18,7 @@ namespace morpho {
 namespace {
 
 constexpr std::size_t kChunk = 256UL * 1024;
+constexpr uid_t kSameOwner = -1;
 constexpr std::string_view kCannotWrite = "could not be written";
 
 // Reads at most `size` bytes; throws when that fails.
@@ -102,7 +103,7 @@ WholeFile::WholeFile(std::string diskPath, Durability durability)
     : path_(std::move(diskPath)), durability_(durability) {
     OpenBeside();
     try {
-        KeepModeOfExisting();
+        KeepOwnerAndMode();
     } catch (...) {
         ::unlink(besidePath_.c_str());
         throw;
@@ -122,13 +123,17 @@ void WholeFile::OpenBeside() {
     if (!file_.IsOpen()) throw FileError(errno, path_, kCannotWrite);
 }
 
-void WholeFile::KeepModeOfExisting() {
+void WholeFile::KeepOwnerAndMode() {
     struct stat status = {};
     if (::lstat(path_.c_str(), &status) != 0) return;
     if (S_ISDIR(status.st_mode)) throw FileError(EISDIR, path_, kCannotWrite);
     if (!S_ISREG(status.st_mode)) return;
     if ((status.st_mode & S_IWUSR) == 0)
         throw FileError(ErrorNumber::kPathFileAccess, path_, kCannotWrite, "it is read-only");
+    if (::fchown(file_.Number(), status.st_uid, status.st_gid) != 0 &&
+        ::fchown(file_.Number(), kSameOwner, status.st_gid) != 0) {
+        // Then it is the user's own file, as any program's that saves so.
+    }
     ::fchmod(file_.Number(), status.st_mode & 0777U);
 }
 

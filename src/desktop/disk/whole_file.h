@@ -12,7 +12,8 @@ enum class Durability { kFlushed, kUnflushed };
 
 // Replaces a file of the disk as a whole, or creates it: the new contents are written beside it and
 // take its place with Commit. Without Commit the file stays as it was. An existing file's mode is
-// kept; a link is replaced, not followed. Failures throw RunTimeError naming the file.
+// kept, and its owner and group as far as the user may give them; a link is replaced, not followed.
+// Failures throw RunTimeError naming the file.
 class WholeFile {
   public:
     WholeFile(std::string diskPath, Durability durability);
@@ -26,7 +27,7 @@ class WholeFile {
     void Commit();
 
   private:
-    void KeepModeOfExisting();
+    void KeepOwnerAndMode();
     void OpenBeside();
 
     std::string path_;

@@ -16,59 +16,6 @@ namespace morpho {
 
 namespace {
 
-// The pages of a web as they get another theme. They are written some at a time.
-class PageUpdate {
-  public:
-    PageUpdate(WebSession& web, const std::string& theme) : web_(web), theme_(theme) {}
-
-    // `url` is the page's address in the web.
-    void Take(const DiskFolder& folder, const std::string& name, const std::string& url) {
-        try {
-            auto page = PageWithTheme(ReadWebFile(folder, name), theme_);
-            if (!page) return;
-            changes_.push_back({folder.PathOf(name), std::move(*page)});
-            urls_.push_back(url);
-            bytes_ += changes_.back().bytes.size();
-        } catch (const RunTimeError& error) {
-            Report(url, error);
-        }
-        if (changes_.size() >= kMaxPages || bytes_ >= kMaxBytes) Write();
-    }
-
-    void Write() {
-        web_.writer->ReplaceFiles(changes_);
-        for (std::size_t i = 0; i < changes_.size(); ++i) {
-            if (changes_[i].failure) Report(urls_[i], *changes_[i].failure);
-        }
-        changes_.clear();
-        urls_.clear();
-        bytes_ = 0;
-    }
-
-  private:
-    static constexpr std::size_t kMaxPages = 256;
-    static constexpr std::size_t kMaxBytes = 16UL * 1024 * 1024;
-
-    void Report(const std::string& url, const RunTimeError& error) {
-        web_.Report("The page \"" + url + "\" keeps its theme: " + error.what());
-    }
-
-    WebSession& web_;
-    const std::string& theme_;
-    std::vector<FileChange> changes_;
-    std::vector<std::string> urls_;  // of the changes
-    std::size_t bytes_ = 0;          // in the changes
-};
-
-// What a program that died left in the themes' folders.
-void CleanThemes(const WebSession& web) {
-    const auto themes = FindFolderInWeb(web, {"_themes"});
-    if (!themes) return;
-    for (const DiskEntry& entry : themes->Entries()) {
-        if (entry.kind == DiskKind::kFolder) RemoveAbandoned(web, themes->Subfolder(entry.name));
-    }
-}
-
 // The names of the files in each theme's folder, in lower case, listed when first asked for.
 class ThemeFiles {
   public:
@@ -95,11 +42,98 @@ class ThemeFiles {
     std::map<std::string, std::set<std::string>> files_;
 };
 
+// The pages of a web as they get another theme. They are written some at a time.
+class PageUpdate {
+  public:
+    PageUpdate(WebSession& web, const std::string& theme) : web_(web), theme_(theme), files_(web) {}
+
+    // `url` is the page's address in the web.
+    void Take(const DiskFolder& folder, const std::string& name, const std::string& url) {
+        try {
+            auto page =
+                PageWithTheme(ReadWebFile(folder, name), theme_,
+                              [this](const ThemeAddress& address) { return Moves(address); });
+            if (!page) return;
+            changes_.push_back({folder.PathOf(name), std::move(*page)});
+            urls_.push_back(url);
+            bytes_ += changes_.back().bytes.size();
+        } catch (const RunTimeError& error) {
+            Report(url, error);
+        }
+        if (changes_.size() >= kMaxPages || bytes_ >= kMaxBytes) Write();
+    }
+
+    // Writes what is left, and tells what the person should know.
+    void Finish() {
+        Write();
+        if (ThemeOfWeb(web_.Root()).empty())
+            web_.Report("No page takes the web's theme, so none shows \"" + theme_ + "\".");
+        if (kept_.empty()) return;
+        std::string files;
+        for (const std::string& file : kept_)
+            files += (files.empty() ? "" : ", ") + file;
+        web_.Report("The theme \"" + theme_ +
+                    "\" does not have all files that the pages use; their addresses still lead to "
+                    "the earlier theme: " +
+                    files + ".");
+    }
+
+  private:
+    static constexpr std::size_t kMaxPages = 256;
+    static constexpr std::size_t kMaxBytes = 16UL * 1024 * 1024;
+
+    // An address stays where it would lead nowhere in the new theme.
+    bool Moves(const ThemeAddress& address) {
+        const bool stays =
+            !files_.Has(theme_, address.file) && files_.Has(address.theme, address.file);
+        if (stays) kept_.insert(address.file);
+        return !stays;
+    }
+
+    void Write() {
+        web_.writer->ReplaceFiles(changes_);
+        for (std::size_t i = 0; i < changes_.size(); ++i) {
+            if (changes_[i].failure) Report(urls_[i], *changes_[i].failure);
+        }
+        changes_.clear();
+        urls_.clear();
+        bytes_ = 0;
+    }
+
+    void Report(const std::string& url, const RunTimeError& error) {
+        web_.Report("The page \"" + url + "\" keeps its theme: " + error.what());
+    }
+
+    WebSession& web_;
+    const std::string& theme_;
+    ThemeFiles files_;
+    std::set<std::string> kept_;  // files of the earlier theme that the new one does not have
+    std::vector<FileChange> changes_;
+    std::vector<std::string> urls_;  // of the changes
+    std::size_t bytes_ = 0;          // in the changes
+};
+
+// Whether it goes well or not, the web's themes are whole when it ends.
+struct NoteRelease {
+    ThemeChangeNote& note;
+    ~NoteRelease() { note.Release(); }
+};
+
+// What a program that died left in the themes' folders.
+void CleanThemes(const WebSession& web) {
+    const auto themes = FindFolderInWeb(web, {"_themes"});
+    if (!themes) return;
+    for (const DiskEntry& entry : themes->Entries()) {
+        if (entry.kind == DiskKind::kFolder) RemoveAbandoned(web, themes->Subfolder(entry.name));
+    }
+}
+
 }  // namespace
 
 void ApplyThemeToWeb(WebSession& web, const std::string& name) {
     web.reports.clear();
     CleanThemes(web);
+    const NoteRelease release{web.changeNote};
     const std::string theme = PutThemeIntoWeb(web, name);
     PageUpdate pages(web, theme);
     std::set<std::string> cleaned;
@@ -107,7 +141,7 @@ void ApplyThemeToWeb(WebSession& web, const std::string& name) {
         if (cleaned.insert(url).second) RemoveAbandoned(web, folder);
         pages.Take(folder, page, url + NameFromDisk(page));
     });
-    pages.Write();
+    pages.Finish();
 }
 
 void LogBrokenThemeAddresses(WebSession& web) {

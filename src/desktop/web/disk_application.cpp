@@ -1,7 +1,10 @@
 #include "desktop/web/disk_application.h"
 
 #include "desktop/disk/disk_path.h"
+#include "desktop/web/applied_theme.h"
 #include "desktop/web/disk_web.h"
+#include "desktop/web/theme_of_web.h"
+#include "platform/ignoring_case.h"
 #include "platform/run_time_error.h"
 
 namespace morpho {
@@ -19,12 +22,42 @@ class DiskLanguageSettings : public LanguageSettings {
 void CleanStore(const WebSession& web) {
     try {
         const DiskFolder store = DiskFolder::Open(web.stores.ofUser, true);
+        RemoveAbandoned(web, store);
         for (const DiskEntry& entry : store.Entries()) {
             if (entry.kind == DiskKind::kFolder) RemoveAbandoned(web, store.Subfolder(entry.name));
         }
     } catch (const RunTimeError&) {
         // There is no such folder yet, or it cannot be read; saving will tell.
     }
+}
+
+void RemoveUnfinished(const WebSession& web, const std::string& diskName) {
+    const auto folder = FindFolderInWeb(web, {"_themes", diskName});
+    if (!folder || EqualIgnoringCase(ThemeOfWeb(web.Root()), NameFromDisk(diskName))) return;
+    web.writer->RemoveFolder(folder->Path());
+}
+
+// Puts right what a program that died while it changed the web's themes has left: a theme that it
+// was making goes, one that it was applying is applied.
+void PutRight(WebSession& web) {
+    try {
+        const auto themes = FindFolderInWeb(web, {"_themes"});
+        const auto change = themes ? web.changeNote.TakeOver(themes->Path()) : std::nullopt;
+        if (!change) return;
+        const std::string theme = NameFromDisk(change->theme);
+        if (change->kind == ThemeChange::Kind::kMaking) {
+            RemoveUnfinished(web, change->theme);
+            web.Report("What a program that was stopped had made of the theme \"" + theme +
+                       "\" has been removed.");
+        } else {
+            ApplyThemeToWeb(web, theme);
+            web.Report("A program was stopped while it gave the web the theme \"" + theme +
+                       "\"; that has been completed.");
+        }
+    } catch (const RunTimeError& error) {
+        web.Report(error.what());
+    }
+    web.changeNote.Release();
 }
 
 }  // namespace
@@ -40,7 +73,11 @@ void DiskApplication::Open(const std::string& folder, const std::optional<std::s
     web->stores = stores;
     web->writer = writer_;
     web->log = log_;
+    web->opened.folder = folder;
+    if (!stores.forWeb.empty()) PutRight(*web);
     web->opened = OpenWebFolder(folder, {unpackFolder_, onlyTheme, stores.forWeb});
+    web->opened.skipped.insert(web->opened.skipped.begin(), web->reports.begin(),
+                               web->reports.end());
     if (!stores.ofUser.empty()) CleanStore(*web);
     web_ = std::move(web);
 }

@@ -77,6 +77,7 @@ void DiskWeb::ApplyTheme(std::string_view themeName) {
 
 void DiskWeb::Refresh() {
     web_->writer->Flush();
+    web_->changeNote.Release();
     RefreshThemes(*web_);
 }
 

@@ -2,6 +2,7 @@
 
 #include "desktop/disk/disk_path.h"
 #include "desktop/disk/file_error.h"
+#include "platform/ignoring_case.h"
 #include "platform/run_time_error.h"
 
 namespace morpho {
@@ -43,6 +44,8 @@ std::unique_ptr<WebFolder> DiskWebFolder::AddFolder(std::string_view name) {
     const std::string diskName = NameToDisk(name);
     if (!IsEntryName(diskName)) Refuse("\"" + std::string(name) + "\" is no name for a folder.");
     if (folder.Find(diskName)) Refuse("\"" + folder.PathOf(diskName) + "\" exists already.");
+    const bool isTheme = names_.size() == 1 && EqualIgnoringCase(names_.front(), "_themes");
+    if (isTheme) web_->changeNote.Hold(folder.Path(), {ThemeChange::Kind::kMaking, diskName});
     web_->writer->MakeFolder(folder.PathOf(diskName));
     return Inner(diskName);
 }
@@ -62,6 +65,7 @@ void DiskWebFolder::AddFile(std::string_view localPath, bool overwrite) {
 void DiskWebFolder::Delete() {
     if (names_.empty()) Refuse("The web itself cannot be deleted.");
     web_->writer->RemoveFolder(Folder().Path());
+    web_->changeNote.Release();
 }
 
 DiskFolder DiskWebFolder::Folder() const {

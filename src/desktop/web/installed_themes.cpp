@@ -60,15 +60,19 @@ bool InstalledThemes::Install(const std::string& diskName, const std::vector<Fil
         return EqualIgnoringCase(file.name, inf);
     });
     if (description == files.end()) return false;
+    Reserve(diskName);
+    const DiskFolder folder = DiskFolder::Open(JoinDiskPath(folder_, diskName), false);
+    WriteWhereChanged(folder, diskName + ".elm", Packed(files, *description));
+    WriteWhereChanged(folder, diskName + ".inf", description->bytes);
+    return true;
+}
+
+void InstalledThemes::Reserve(const std::string& diskName) {
     names_.insert(diskName);
     const std::string path = JoinDiskPath(folder_, diskName);
     std::error_code error;
     std::filesystem::create_directories(path, error);
     if (error) throw FileError(error.value(), path, "could not be created");
-    const DiskFolder folder = DiskFolder::Open(path, false);
-    WriteWhereChanged(folder, diskName + ".elm", Packed(files, *description));
-    WriteWhereChanged(folder, diskName + ".inf", description->bytes);
-    return true;
 }
 
 int InstalledThemes::RemoveOthers() {

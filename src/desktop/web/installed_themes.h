@@ -21,6 +21,8 @@ class InstalledThemes {
     // files without the theme's description. A file whose name no package can hold is left out.
     // Throws RunTimeError.
     bool Install(const std::string& diskName, const std::vector<File>& files);
+    // Keeps the name of a folder that is no theme from being taken by one. Throws RunTimeError.
+    void Reserve(const std::string& diskName);
     // Removes what is installed and was not among those of this object; how many. Throws
     // RunTimeError.
     int RemoveOthers();

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <functional>
 #include <set>
 
 #include "desktop/disk/disk_folder.h"
@@ -110,7 +111,7 @@ class WebOpener {
         const auto folder = Readable([&] { return themes.Subfolder(diskName); });
         const auto entries = folder ? Readable([&] { return folder->Entries(); }) : std::nullopt;
         const DiskEntry* description = entries ? FindFile(*entries, diskName + ".inf") : nullptr;
-        if (entries && !description) return;
+        if (entries && !description) return WhereInstalling([&] { installed_->Reserve(diskName); });
         if (!names_.insert(Lowered(diskName)).second) {
             Skip(themes.PathOf(diskName), "another theme has that name");
             return;
@@ -148,13 +149,14 @@ class WebOpener {
             if (target) WriteUnpacked(*target, entry.name, *bytes);
             if (installed_) files.push_back({NameFromDisk(entry.name), std::move(*bytes)});
         }
-        if (installed_) Install(diskName, files);
+        WhereInstalling([&] { installed_->Install(diskName, files); });
     }
 
     // Where one cannot be installed, the others cannot either.
-    void Install(const std::string& diskName, const std::vector<InstalledThemes::File>& files) {
+    void WhereInstalling(const std::function<void()>& step) {
+        if (!installed_) return;
         try {
-            installed_->Install(diskName, files);
+            step();
         } catch (const RunTimeError& error) {
             installFailure_ = error.what();
             installed_.reset();

@@ -1,6 +1,5 @@
 #include "desktop/web/page_theme.h"
 
-#include "desktop/web/theme_addresses.h"
 #include "desktop/web/theme_of_web.h"
 #include "desktop/web/web_text.h"
 #include "platform/ignoring_case.h"
@@ -27,7 +26,8 @@ class Replacing {
     std::size_t done_ = 0;
 };
 
-std::string WithTheme(const std::string& page, const ThemeMark& mark, std::string_view theme) {
+std::string WithTheme(const std::string& page, const ThemeMark& mark, std::string_view theme,
+                      const std::function<bool(const ThemeAddress&)>& moves) {
     Replacing result(page);
     const std::string inAddress = EncodedPercents(theme);
     bool marked = false;
@@ -36,7 +36,7 @@ std::string WithTheme(const std::string& page, const ThemeMark& mark, std::strin
         marked = true;
     };
     for (const ThemeAddress& address : ThemeAddresses(page)) {
-        if (!EqualIgnoringCase(address.theme, mark.theme.name)) continue;
+        if (!EqualIgnoringCase(address.theme, mark.theme.name) || !moves(address)) continue;
         if (address.nameBegin > mark.nameBegin) replaceMark();
         result.Replace(address.nameBegin, address.nameLength, inAddress);
     }
@@ -46,12 +46,13 @@ std::string WithTheme(const std::string& page, const ThemeMark& mark, std::strin
 
 }  // namespace
 
-std::optional<std::string> PageWithTheme(std::string_view page, std::string_view theme) {
+std::optional<std::string> PageWithTheme(std::string_view page, std::string_view theme,
+                                         const std::function<bool(const ThemeAddress&)>& moves) {
     const PageText text(page);
     const auto mark = FindThemeMark(text.Text());
     if (!mark || !mark->theme.ofWeb || mark->theme.name.empty()) return {};
     if (EqualIgnoringCase(mark->theme.name, theme)) return {};
-    auto bytes = text.BytesOf(WithTheme(text.Text(), *mark, theme));
+    auto bytes = text.BytesOf(WithTheme(text.Text(), *mark, theme, moves));
     if (!bytes) throw RunTimeError(ErrorNumber::kInvalidFileFormat, "The page is broken UTF-16.");
     return bytes;
 }

@@ -46,7 +46,8 @@ class AddressFinder {
             SearchComments(done, tag->begin);
             Search(tag->begin, tag->end);
             done = tag->end + tag->text.size();
-            if (tag->name == "style" || tag->name == "script") Search(tag->end, done);
+            if (tag->name == "style" || tag->name == "script" || tag->name == "noframes")
+                Search(tag->end, done);
         }
         SearchComments(done, page_.size());
         return std::move(found_);

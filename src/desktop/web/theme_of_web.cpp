@@ -21,8 +21,8 @@ constexpr std::size_t kHeadBytes = 64UL * 1024;
 
 constexpr std::array<std::string_view, 4> kHomePages = {"index.htm", "index.html", "default.htm",
                                                         "default.html"};
-constexpr std::array<std::string_view, 6> kPageExtensions = {".htm", ".html", ".shtml",
-                                                             ".stm", ".asp",  ".php"};
+constexpr std::array<std::string_view, 11> kPageExtensions = {
+    ".htm", ".html", ".shtm", ".shtml", ".stm", ".asp", ".aspx", ".php", ".jsp", ".cfm", ".dwt"};
 
 std::string_view Trimmed(std::string_view text) {
     constexpr std::string_view kBlanks = " \t\r\n";

@@ -149,9 +149,8 @@ DiskFolder ThemesFolder(const WebSession& web) {
     return root.Subfolder(entry ? entry->name : "_themes");
 }
 
-void CreateWithMembers(const WebSession& web, const std::string& diskName,
+void CreateWithMembers(const WebSession& web, const DiskFolder& themes, const std::string& diskName,
                        const std::vector<Member>& members) {
-    const DiskFolder themes = ThemesFolder(web);
     web.writer->MakeFolder(themes.PathOf(diskName));
     try {
         const DiskFolder folder = themes.Subfolder(diskName);
@@ -165,7 +164,7 @@ void CreateWithMembers(const WebSession& web, const std::string& diskName,
 
 }  // namespace
 
-std::string PutThemeIntoWeb(const WebSession& web, const std::string& name) {
+std::string PutThemeIntoWeb(WebSession& web, const std::string& name) {
     const std::string diskName = NameToDisk(name);
     if (!IsEntryName(diskName))
         throw RunTimeError(ErrorNumber::kAutomation, "\"" + name + "\" is no theme's name.");
@@ -176,8 +175,10 @@ std::string PutThemeIntoWeb(const WebSession& web, const std::string& name) {
         throw RunTimeError(ErrorNumber::kAutomation,
                            "There is no theme \"" + name + "\" to be applied.");
     if (members) KeepOwnPictures(*members);
+    const DiskFolder themes = ThemesFolder(web);
+    web.changeNote.Hold(themes.Path(), {ThemeChange::Kind::kApplying, diskName});
     if (folder && members) FolderUpdate(*web.writer, *folder).Write(*members);
-    if (!folder) CreateWithMembers(web, diskName, *members);
+    if (!folder) CreateWithMembers(web, themes, diskName, *members);
     return folder ? NameFromDisk(LastName(folder->Path())) : name;
 }
 

@@ -7,9 +7,10 @@
 namespace morpho {
 
 // Unpacks the theme of this name (see ApplyThemeToWeb) into the web's "_themes/<name>/" and returns
-// that folder's name (UTF-8). Each file is replaced as a whole, the description of a theme that is
-// new comes last, files that are no part of the package stay. Throws RunTimeError when that fails;
-// then the folder is as it was, as far as the disk allows.
-std::string PutThemeIntoWeb(const WebSession& web, const std::string& name);
+// that folder's name (UTF-8). From the first change on the web's note says that the theme is being
+// applied; the caller releases it. Each file is replaced as a whole, the description of a theme
+// that is new comes last, files that are no part of the package stay. Throws RunTimeError when that
+// fails; then the folder is as it was, as far as the disk allows.
+std::string PutThemeIntoWeb(WebSession& web, const std::string& name);
 
 }  // namespace morpho

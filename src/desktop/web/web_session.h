@@ -9,6 +9,7 @@
 
 #include "desktop/disk/disk_folder.h"
 #include "desktop/web/opened_web.h"
+#include "desktop/web/theme_change_note.h"
 #include "desktop/web/web_writer.h"
 
 namespace morpho {
@@ -27,6 +28,7 @@ struct WebSession {
     std::optional<std::string> onlyTheme;  // see OpenWebFolder
     ThemeStores stores;
     std::shared_ptr<WebWriter> writer;
+    ThemeChangeNote changeNote;
     std::function<void(std::string_view)> log;
     std::vector<std::string> reports;  // what went wrong with single pages, a sentence each
 

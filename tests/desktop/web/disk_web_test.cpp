@@ -263,6 +263,55 @@ TEST_F(DiskWebTest, PagesThatCannotBeWrittenAreReportedAndTheRestGoesOn) {
     EXPECT_EQ(log_, application_.Reports()[0] + "\n");
 }
 
+TEST_F(DiskWebTest, AddressesOfFilesThatTheNewThemeLacksStayAndAreTold) {
+    InstallNew();
+    folder_.Write("web/_themes/old/b.gif", "old b");
+    folder_.Write("web/index.htm", Page("old", "_<b src=_themes/old/B.GIF><b src=_themes/old/c>"));
+    Apply("new");
+    EXPECT_EQ(folder_.Read("web/index.htm"),
+              Page("new", "_<b src=_themes/old/B.GIF><b src=_themes/new/c>"));
+    ASSERT_EQ(application_.Reports().size(), 1U);
+    EXPECT_NE(application_.Reports()[0].find("the earlier theme: B.GIF."), std::string::npos);
+}
+
+TEST_F(DiskWebTest, WhatADeadProgramWasDoingIsPutRightAtTheNextStart) {
+    const std::string note = "web/_themes/.morpho-change.tmp";
+    const auto openAfter = [&](const std::string& text) {
+        folder_.Write(note, text);
+        Open();
+        EXPECT_FALSE(folder_.Has(note));
+        return application_.Opened()->skipped.size();
+    };
+    InstallNew();
+    folder_.Write("web/_themes/half/a.gif", "half");
+    for (const char* text : {"", "making half", "making ../_themes/half\n", "taking half\n"})
+        EXPECT_EQ(openAfter(text), 0U) << text;
+    EXPECT_TRUE(folder_.Has("web/_themes/half/a.gif"));
+    EXPECT_EQ(openAfter("making half\n"), 1U);
+    EXPECT_FALSE(folder_.Has("web/_themes/half"));
+    const Tree before = WebTree();
+    openAfter("making OLD\n");
+    EXPECT_EQ(WebTree(), before) << "pages use it";
+    EXPECT_EQ(openAfter("applying new\n"), 1U);
+    EXPECT_EQ(folder_.Read("web/index.htm"), Page("new", "<img src='_themes/new/a.gif'>"));
+}
+
+TEST_F(DiskWebTest, OneProgramAtATimeChangesTheThemes) {
+    InstallNew();
+    const auto added = OpenedWeb()->LocateFolder("_themes")->AddFolder("mine");
+    DiskApplication other(folder_ / "other cache");
+    other.Open(folder_ / "web", {}, {folder_ / "user", folder_ / "all of other"});
+    EXPECT_TRUE(folder_.Has("web/_themes/mine"));
+    const Tree before = WebTree();
+    const auto web = other.ActiveWeb();
+    EXPECT_THROW(web->ApplyTheme("new"), RunTimeError);
+    EXPECT_THROW(web->LocateFolder("_themes")->AddFolder("other"), RunTimeError);
+    EXPECT_EQ(WebTree(), before);
+    added->Delete();
+    web->ApplyTheme("new");
+    EXPECT_TRUE(folder_.Has("web/_themes/new"));
+}
+
 TEST_F(DiskWebTest, BrokenThemeAddressesAreLogged) {
     folder_.Write("web/sub/broken.htm",
                   "<img src='../_themes/OLD/b c.gif'><img src='none.gif'>"

@@ -100,11 +100,13 @@ TEST_F(OpenedWebTest, OnlyTheThemeAskedForIsUnpackedAndToldOfButAllAreInstalled)
     AddTheme("b");
     folder_.Write("web/_themes/a/x.gif", "1");
     folder_.Write("web/_themes/a/X.gif", "2");
+    folder_.Write("web/_themes/a theme no more/x.gif", "its name is not free");
     const OpenedWeb web =
         OpenWebFolder(folder_ / "web", {folder_ / "cache", "B", folder_ / "installed", false});
     EXPECT_TRUE(web.skipped.empty());
     ExpectUnpacked({{"b/", ""}, {"b/b.inf", "[info]"}});
-    EXPECT_TRUE(folder_.Has("installed/a/a.elm") && folder_.Has("installed/b/b.elm"));
+    for (const char* const name : {"a/a.elm", "b/b.elm", "a theme no more"})
+        EXPECT_TRUE(folder_.Has(std::string("installed/") + name)) << name;
 }
 
 TEST_F(OpenedWebTest, AWebMustBeAFolderButNeedsNoThemes) {
