@@ -7,6 +7,7 @@
 
 #include "desktop/commands/batch_window.h"
 #include "desktop/host/desktop_platform.h"
+#include "desktop/web/theme_unpacking.h"
 #include "forms/headless_toolkit.h"
 #include "resources/embedded_resources.h"
 #include "shared/component.h"
@@ -30,8 +31,14 @@ class Batch {
     std::string ThemeOfWeb() {
         return desktop_.FrontPage().ActiveWeb()->ThemeProperties(kThemeNameProperty);
     }
+    // Whether that takes a theme of this name away that the web has, and the user has differently.
+    bool ApplyingReplacesTheme(const std::string& name) {
+        return ReplacesThemeOfWeb(*desktop_.FrontPage().Session(), name);
+    }
     // Gives the web a theme that it has, or one of the user's own. Throws RunTimeError.
     void ApplyTheme(const std::string& name) { desktop_.FrontPage().ActiveWeb()->ApplyTheme(name); }
+    // Whether a page takes the theme that was last applied.
+    bool IsThemeShown() { return desktop_.FrontPage().Session()->isShown; }
     // What the host could not do with single pages or files, one sentence each.
     std::vector<std::string> Reports() { return desktop_.FrontPage().Reports(); }
     // The window with the theme of this name (without regard to case). Throws CommandError.

@@ -230,6 +230,11 @@ Request ParseCommandLine(int argc, const char* const* argv, const std::string& v
         ->check(NotEmpty())
         ->required();
 
+    applyCommand
+        ->add_flag("--overwrite", apply.overwrite,
+                   "Replace the web's own theme of that name by the user's")
+        ->disable_flag_override();
+
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForVersion& call) {

@@ -63,7 +63,8 @@ struct RecolorRequest {
 
 struct ApplyRequest {
     std::filesystem::path web;
-    std::string theme;  // of the web, or the user's own
+    std::string theme;       // of the web, or the user's own
+    bool overwrite = false;  // the user's own replaces another one of that name in the web
 };
 
 // The command line asks for help or the version: `text` is what it gets.

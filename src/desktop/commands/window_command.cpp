@@ -12,6 +12,7 @@
 #include "resources/resource_ids.h"
 #include "shared/log.h"
 #include "theme_editor/frm_theme_morpho.h"
+#include "theme_editor/product.h"
 
 namespace morpho {
 
@@ -51,6 +52,18 @@ void SelectTheme(frmThemeMorpho& window, const std::string& name) {
     window.cmbThemeLabel.UserSelect(index);
 }
 
+// Tells what happened to single pages of the web, the first of them by name.
+void TellReports(Toolkit& toolkit, const std::vector<std::string>& reports) {
+    constexpr std::size_t kMaxTold = 8;
+    if (reports.empty()) return;
+    std::string text;
+    for (std::size_t i = 0; i < std::min(reports.size(), kMaxTold); ++i)
+        text += (i == 0 ? "" : "\r\n") + reports[i];
+    if (reports.size() > kMaxTold)
+        text += "\r\nand " + std::to_string(reports.size() - kMaxTold) + " more.";
+    toolkit.MessageBox(nullptr, text, kOkOnly | kInformationIcon, kThemeProduct);
+}
+
 }  // namespace
 
 void ShowThemeWindow(const ThemeRequest& request) {
@@ -68,6 +81,9 @@ void ShowThemeWindow(const ThemeRequest& request) {
     Component component;
     component.application = &desktop.FrontPage();
     const Program program{desktop.Parts(), component};
+    TellReports(toolkit, desktop.FrontPage().Reports());
+    desktop.FrontPage().SetReporter(
+        [&](const std::vector<std::string>& reports) { TellReports(toolkit, reports); });
     desktop.FrontPage().SetLog([&](std::string_view line) { WriteLog(program, line); });
     frmThemeMorpho window(program);
     if (!request.theme.empty()) SelectTheme(window, request.theme);

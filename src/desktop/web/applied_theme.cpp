@@ -50,10 +50,10 @@ class PageUpdate {
     // `url` is the page's address in the web.
     void Take(const DiskFolder& folder, const std::string& name, const std::string& url) {
         try {
-            auto page =
-                PageWithTheme(ReadWebFile(folder, name), theme_,
-                              [this](const ThemeAddress& address) { return Moves(address); });
-            if (!page) return;
+            const std::string bytes = ReadWebFile(folder, name);
+            auto page = PageWithTheme(
+                bytes, theme_, [this](const ThemeAddress& address) { return Moves(address); });
+            if (!page) return Look(bytes);
             changes_.push_back({folder.PathOf(name), std::move(*page)});
             urls_.push_back(url);
             bytes_ += changes_.back().bytes.size();
@@ -66,8 +66,9 @@ class PageUpdate {
     // Writes what is left, and tells what the person should know.
     void Finish() {
         Write();
-        if (ThemeOfWeb(web_.Root()).empty())
-            web_.Report("No page takes the web's theme, so none shows \"" + theme_ + "\".");
+        if (!web_.isShown)
+            web_.Report("No page takes the theme \"" + theme_ +
+                        "\": none takes the web's theme, or none could be written.");
         if (kept_.empty()) return;
         std::string files;
         for (const std::string& file : kept_)
@@ -90,9 +91,17 @@ class PageUpdate {
         return !stays;
     }
 
+    // Looks whether the unchanged page has the theme already.
+    void Look(const std::string& page) {
+        if (web_.isShown) return;
+        const auto theme = ThemeOfPage(PageText(page).Text());
+        web_.isShown = theme && theme->ofWeb && EqualIgnoringCase(theme->name, theme_);
+    }
+
     void Write() {
         web_.writer->ReplaceFiles(changes_);
         for (std::size_t i = 0; i < changes_.size(); ++i) {
+            web_.isShown = web_.isShown || changes_[i].isDone;
             if (changes_[i].failure) Report(urls_[i], *changes_[i].failure);
         }
         changes_.clear();
@@ -132,6 +141,7 @@ void CleanThemes(const WebSession& web) {
 
 void ApplyThemeToWeb(WebSession& web, const std::string& name) {
     web.reports.clear();
+    web.isShown = false;
     CleanThemes(web);
     const NoteRelease release{web.changeNote};
     const std::string theme = PutThemeIntoWeb(web, name);

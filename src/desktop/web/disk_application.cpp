@@ -92,7 +92,7 @@ void DiskApplication::SetLog(std::function<void(std::string_view)> log) {
 }
 
 std::unique_ptr<Web> DiskApplication::ActiveWeb() {
-    return web_ ? std::make_unique<DiskWeb>(web_) : nullptr;
+    return web_ ? std::make_unique<DiskWeb>(web_, reporter_) : nullptr;
 }
 
 std::unique_ptr<LanguageSettings> DiskApplication::Languages() const {

@@ -24,11 +24,16 @@ class DiskApplication : public Application {
     const OpenedWeb* Opened() const { return web_ ? &web_->opened : nullptr; }
     // The web that is open, for the host's other objects; null when none is.
     const std::shared_ptr<WebSession>& Session() const { return web_; }
-    // What went wrong with single pages when a theme was last applied, a sentence each.
+    // What went wrong with single pages when a theme was last applied, or what was put right when
+    // the web was opened; a sentence each.
     std::vector<std::string> Reports() const;
 
     // Takes the host's own messages from now on: broken hyperlinks, pages that keep their theme.
     void SetLog(std::function<void(std::string_view)> log);
+    // Takes what went wrong with single pages, whenever a theme has been applied and something has.
+    void SetReporter(std::function<void(const std::vector<std::string>&)> reporter) {
+        reporter_ = std::move(reporter);
+    }
     // Makes the changes to webs opened from now on.
     void SetWriter(std::shared_ptr<WebWriter> writer) { writer_ = std::move(writer); }
 
@@ -40,6 +45,7 @@ class DiskApplication : public Application {
     std::string unpackFolder_;
     std::shared_ptr<WebWriter> writer_ = std::make_shared<WebWriter>();
     std::function<void(std::string_view)> log_;
+    std::function<void(const std::vector<std::string>&)> reporter_;
     std::shared_ptr<WebSession> web_;
 };
 

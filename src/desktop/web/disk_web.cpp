@@ -73,6 +73,7 @@ std::optional<std::string> DiskWeb::Property(std::string_view key) const {
 void DiskWeb::ApplyTheme(std::string_view themeName) {
     ApplyThemeToWeb(*web_, std::string(themeName));
     RefreshThemes(*web_);
+    if (reporter_ && !web_->reports.empty()) reporter_(web_->reports);
 }
 
 void DiskWeb::Refresh() {

@@ -9,7 +9,11 @@ namespace morpho {
 // A view of an open web folder.
 class DiskWeb : public Web {
   public:
-    explicit DiskWeb(std::shared_ptr<WebSession> web) : web_(std::move(web)) {}
+    // Takes what is told of single pages.
+    using Reporter = std::function<void(const std::vector<std::string>&)>;
+
+    explicit DiskWeb(std::shared_ptr<WebSession> web, Reporter reporter = {})
+        : web_(std::move(web)), reporter_(std::move(reporter)) {}
 
     int ThemeCount() const override;
     Theme ThemeAt(int index) const override;
@@ -21,7 +25,7 @@ class DiskWeb : public Web {
     std::unique_ptr<WebFolder> LocateFolder(std::string_view url) override;
     // As the web's own notes say, "_vti_pvt/service.cnf".
     std::optional<std::string> Property(std::string_view key) const override;
-    // See ApplyThemeToWeb.
+    // See ApplyThemeToWeb. What there is to be told of pages goes to the reporter.
     void ApplyTheme(std::string_view themeName) override;
     // Lists the web's themes again and unpacks those that have come new.
     void Refresh() override;
@@ -30,6 +34,7 @@ class DiskWeb : public Web {
 
   private:
     std::shared_ptr<WebSession> web_;
+    Reporter reporter_;
 };
 
 }  // namespace morpho

@@ -162,7 +162,23 @@ void CreateWithMembers(const WebSession& web, const DiskFolder& themes, const st
     }
 }
 
+bool Differs(const DiskFolder& folder, const Member& member) {
+    const auto entry = folder.Find(NameToDisk(member.name));
+    return entry && entry->kind == DiskKind::kFile &&
+           ReadWebFile(folder, entry->name) != member.bytes;
+}
+
 }  // namespace
+
+bool ReplacesThemeOfWeb(const WebSession& web, const std::string& name) {
+    const std::string diskName = NameToDisk(name);
+    const auto folder = IsEntryName(diskName) ? FolderOfTheme(web, diskName) : std::nullopt;
+    auto members = folder ? InstalledIn(web.stores.ofUser, name) : std::nullopt;
+    if (!members) return false;
+    KeepOwnPictures(*members);
+    return std::any_of(members->begin(), members->end(),
+                       [&](const Member& member) { return Differs(*folder, member); });
+}
 
 std::string PutThemeIntoWeb(WebSession& web, const std::string& name) {
     const std::string diskName = NameToDisk(name);

@@ -13,4 +13,9 @@ namespace morpho {
 // fails; then the folder is as it was, as far as the disk allows.
 std::string PutThemeIntoWeb(WebSession& web, const std::string& name);
 
+// Whether the user has a theme of this name that differs from the one that the web has: putting it
+// into the web would take the web's own away. Throws RunTimeError for a package that cannot be
+// trusted.
+bool ReplacesThemeOfWeb(const WebSession& web, const std::string& name);
+
 }  // namespace morpho
