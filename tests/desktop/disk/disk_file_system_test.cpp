@@ -59,6 +59,19 @@ TEST_F(DiskFileSystemTest, WritingReplacesALinkAndLeavesWhatItLedTo) {
     EXPECT_EQ(folder_.Below(""), (Tree{{"outside.gif", "outside"}, {"link.gif", "new"}}));
 }
 
+TEST_F(DiskFileSystemTest, WritingKeepsOwnerGroupAndMode) {
+    if (::geteuid() != 0) GTEST_SKIP() << "only root can give files away";
+    const std::string page = folder_.Write("page.htm", "old");
+    ASSERT_EQ(::chown(page.c_str(), 65534, 33), 0);
+    fs::permissions(page, fs::perms(0640));
+    files_.WriteFile(Windows("page.htm"), "new");
+    struct stat status = {};
+    ASSERT_EQ(::stat(page.c_str(), &status), 0);
+    EXPECT_EQ(status.st_uid, 65534U);
+    EXPECT_EQ(status.st_gid, 33U);
+    EXPECT_EQ(status.st_mode & 0777U, 0640U);
+}
+
 TEST_F(DiskFileSystemTest, AFailureNamesTheFileAndLeavesNothingBehind) {
     fs::permissions(folder_.Write("locked.gif", "x"), fs::perms(0444));
     folder_.Write("file", "x");

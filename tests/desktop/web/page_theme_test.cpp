@@ -65,7 +65,10 @@ TEST(PageTheme, AddressesOfTheOldFolderChangeWhereverTheyStand) {
     expectRenamed("<p style=\"background: url(../_themes/", "/a.gif)\">");
     expectRenamed("<style>b{c:url('_themes/", "/a.gif')}</style>");
     expectRenamed("<script>f('/_themes\\", "\\a')</script>");
+    expectRenamed("<noframes><body background=_themes/", "/a.gif></noframes>");
     expectRenamed("<!--webbot U-Src=\"_themes/", "/a.gif\" --><!-- x -->");
+    ExpectBody("<img src=_themes/old/a.gif><img src=_themes/old/lacking.gif>",
+               "<img src=_themes/new/a.gif><img src=_themes/old/lacking.gif>");
     ExpectBody("<img src='_themes/&#111;ld/a.gif'>", "<img src='_themes/new/a.gif'>");
     ExpectPage(
         "<link href='_themes/a%20b%E9/x.css'><meta name='Microsoft Theme' "
