@@ -116,6 +116,8 @@ TEST_F(Save, TellsWhyItIsRefused) {
     };
     expectTold("data/morpho/webs", "a folder is expected there.\n",
                "\nmorpho: Unable to locate source theme\n");
+    expectTold("data/morpho/AppData/Microsoft/Themes", "it exists already.\n",
+               "morpho: Error occured while saving theme. \"");
 }
 
 TEST_F(Save, ADryRunTellsWhatWouldBeWrittenAndWritesNothing) {

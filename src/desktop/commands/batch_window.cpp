@@ -152,7 +152,9 @@ void BatchWindow::RefuseMessages() {
     for (; messagesSeen_ < messages.size(); ++messagesSeen_) {
         const HeadlessToolkit::Message& message = messages[messagesSeen_];
         if (IsQuestion(message.flags)) continue;
-        throw CommandError(CommandError::Status::kRefused, message.text);
+        const std::string& reason = window_.SaveFailure();
+        throw CommandError(CommandError::Status::kRefused,
+                           reason.empty() ? message.text : message.text + " " + reason);
     }
 }
 
