@@ -2,6 +2,7 @@
 
 #include <fstream>
 #include <iterator>
+#include <utility>
 #include <vector>
 
 #include "desktop/disk/disk_folder.h"
@@ -22,6 +23,12 @@ constexpr const char* kUserThemes = "AppData/Microsoft/Themes";
 std::string ReadAll(const fs::path& file) {
     std::ifstream stream(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+std::string Replaced(std::string text, const std::string& from, const std::string& to) {
+    for (auto at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
+        text.replace(at, from.size(), to);
+    return text;
 }
 
 // The web's folder without links; one that cannot be opened is refused as by the save itself.
@@ -92,11 +99,8 @@ std::string DryRun::WouldWrite() const {
 }
 
 std::string DryRun::WithRealPlaces(std::string text) const {
-    const std::string copy = Web().string();
-    const std::string real = realWeb_.string();
-    for (auto at = text.find(copy); at != std::string::npos; at = text.find(copy, at + real.size()))
-        text.replace(at, copy.size(), real);
-    return text;
+    text = Replaced(std::move(text), Web().string(), realWeb_.string());
+    return Replaced(std::move(text), Folders().data, realFolders_.data);
 }
 
 DryRun::Names DryRun::CopyFiles(const fs::path& source, const fs::path& destination,

@@ -23,7 +23,7 @@ class DryRun {
     UserFolders Folders() const;
     // What has been written or deleted since, one line for a file, by its real place.
     std::string WouldWrite() const;
-    // A text of the rehearsal with the web's real place in it.
+    // A text of the rehearsal, with the real places in it instead of the copies'.
     std::string WithRealPlaces(std::string text) const;
 
   private:
