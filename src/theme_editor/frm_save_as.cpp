@@ -13,6 +13,7 @@
 #include "theme_editor/installed_theme.h"
 #include "theme_editor/plain_file_name.h"
 #include "theme_editor/product.h"
+#include "theme_editor/theme_installation.h"
 
 namespace morpho {
 

@@ -18,6 +18,7 @@
 #include "theme_editor/installed_theme.h"
 #include "theme_editor/product.h"
 #include "theme_editor/theme_description.h"
+#include "theme_editor/theme_installation.h"
 #include "theme_editor/web_theme_folder.h"
 
 namespace morpho {
@@ -54,8 +55,14 @@ struct ThemeSaver::Run {
     std::unique_ptr<Web> web = nullptr;
     std::optional<WebThemeFolder> webFolder = {};
     std::optional<FolderBackup> hostThemeBackup = {};
+    std::optional<ThemeInstallation> installation = {};
 
     std::string HostTheme() const { return theme.hostThemes + target.name; }
+    void Keep() {
+        webFolder->Keep();
+        if (hostThemeBackup) hostThemeBackup->KeepChanges();
+        installation->Keep();
+    }
 };
 
 SaveOutcome ThemeSaver::SaveThemeAs(const LoadedTheme& theme, bool applyFlag) {
@@ -162,8 +169,8 @@ bool ThemeSaver::WriteTheme(Run& run) {
     MendWorkCopy(run.theme);
     if (run.target.asNew && !AddToWeb(run)) return false;
     if (run.target.applyFlag) UpdateHostThemes(run);
-    InstallTheme(program_.platform, run.source, run.userThemes, run.target.name, run.target.title,
-                 run.theme.workFolder);
+    run.installation.emplace(program_.platform, run.userThemes, run.target.name);
+    run.installation->Install(run.source, run.target.title, run.theme.workFolder);
     return true;
 }
 
@@ -221,8 +228,7 @@ void ThemeSaver::ShowInWeb(Run& run) {
         Log("SaveAs: Applying theme to web...");
         SetStatus("Applying theme to web...");
         // From now on pages may need the new theme.
-        run.webFolder->Keep();
-        run.hostThemeBackup->KeepChanges();
+        run.Keep();
         run.web->ApplyTheme(run.target.name);
     } else if (EqualIgnoringCase(run.web->ThemeProperties(kThemeNameProperty), run.target.name)) {
         ApplyAgain(run);
@@ -271,8 +277,7 @@ SaveOutcome ThemeSaver::Finish(Run& run) {
     SetStatus("");
     Log("Theme saved.");
     form_.SetCaption(kThemeProduct);
-    run.webFolder->Keep();
-    if (run.hostThemeBackup) run.hostThemeBackup->KeepChanges();
+    run.Keep();
     const bool overOriginals =
         run.target.applyFlag && EqualIgnoringCase(run.target.name, run.theme.name);
     return overOriginals ? SaveOutcome::kSavedOverOriginals : SaveOutcome::kSaved;

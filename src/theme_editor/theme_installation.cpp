@@ -1,0 +1,73 @@
+#include "theme_editor/theme_installation.h"
+
+#include "platform/file_system.h"
+#include "platform/platform.h"
+#include "platform/run_time_error.h"
+#include "shared/mod_shared_code.h"
+#include "theme_editor/installed_theme.h"
+#include "theme_editor/theme_description.h"
+#include "theme_editor/theme_package.h"
+
+namespace morpho {
+
+namespace {
+
+InstalledTheme Installed(const std::string& themesFolder, const std::string& name) {
+    return {WithSeparator(themesFolder) + name, name};
+}
+
+// The description of a theme that is being installed waits beside the theme's folder. No theme can
+// be called so, for "#" is refused in names.
+std::string WaitingInf(const std::string& themesFolder, const std::string& name) {
+    return WithSeparator(themesFolder) + name + "#.inf";
+}
+
+// A user who never had a theme may lack the folders above it too.
+void CreateWithParents(FileSystem& files, const std::string& folder) {
+    if (FolderExists(files, folder)) return;
+    const auto separator = folder.rfind('\\');
+    if (separator != std::string::npos) CreateWithParents(files, folder.substr(0, separator));
+    files.CreateFolder(folder);
+}
+
+}  // namespace
+
+ThemeInstallation::ThemeInstallation(const Platform& platform, const std::string& themesFolder,
+                                     const std::string& name)
+    : platform_(platform), themesFolder_(themesFolder), name_(name) {
+    backup_.emplace(platform.files, Installed(themesFolder, name).folder);
+}
+
+ThemeInstallation::~ThemeInstallation() {
+    backup_.reset();
+    FileSystem& files = platform_.files;
+    const InstalledTheme installed = Installed(themesFolder_, name_);
+    const std::string waiting = WaitingInf(themesFolder_, name_);
+    try {
+        // A folder that could not be taken back needs it to be told apart from a theme.
+        const bool needed = FolderExists(files, installed.folder) && !files.Find(installed.Inf());
+        if (!needed && files.Find(waiting)) files.DeleteFile(waiting);
+    } catch (const RunTimeError&) {
+        // The next installation of that name replaces it.
+    }
+}
+
+void ThemeInstallation::Install(const InstalledTheme& source, const std::string& title,
+                                const std::string& workFolder) {
+    const InstalledTheme installed = Installed(themesFolder_, name_);
+    const std::string waiting = WaitingInf(themesFolder_, name_);
+    CreateWithParents(platform_.files, themesFolder_);
+    // Whoever dies here leaves the earlier description, or a folder without one, which is no theme
+    // and keeps its name free for the next attempt. The waiting file tells that folder apart.
+    WriteThemeDescription(platform_, source.Inf(), waiting, installed.folder, title);
+    RebuildThemePackage(platform_, source.Elm(), installed.Elm(), workFolder);
+    platform_.files.MoveFile(waiting, installed.Inf());
+}
+
+bool IsHalfInstalled(const FileSystem& files, const std::string& themesFolder,
+                     const std::string& name) {
+    return files.Find(WaitingInf(themesFolder, name)) &&
+           !files.Find(Installed(themesFolder, name).Inf());
+}
+
+}  // namespace morpho
