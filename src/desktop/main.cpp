@@ -22,7 +22,7 @@ struct Runner {
     void operator()(const TextRequest& request) const { std::cout << request.text; }
     void operator()(const ThemeRequest& request) const { ShowThemeWindow(request); }
     void operator()(const ListRequest& request) const { std::cout << List(request, warnings); }
-    void operator()(const ApplyRequest& request) const { warnings = Apply(request); }
+    void operator()(const ApplyRequest& request) const { Apply(request, warnings); }
     void operator()(const RecolorRequest& request) const {
         std::cout << Recolor(request, warnings);
     }

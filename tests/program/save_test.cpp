@@ -120,6 +120,37 @@ TEST_F(Save, TellsWhyItIsRefused) {
                "morpho: Error occured while saving theme. \"");
 }
 
+TEST_F(Save, ASaveThatWasKilledIsCompletedAndNotRecolouredTwice) {
+    const Tree before = Web();
+    Report(kRecolour + "--save");
+    const Tree after = Web();
+    for (const char* const name : {"orrbnra.gif", "orrbul1.gif"})
+        home_.Write(std::string("web/_themes/orrery/") + name,
+                    before.at(std::string("_themes/orrery/") + name));
+    home_.Write("web/_themes/.morpho-change.tmp", "applying orrery\n");
+    const Outcome outcome = Run(kRecolour + "--save");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.err.find("that has been completed.\n"), std::string::npos) << outcome.err;
+    EXPECT_EQ(Web(), after);
+}
+
+TEST_F(Save, ApplyingKeepsTheWebsOwnThemeUnlessToldOtherwise) {
+    // Another web's theme of the same name, saved by the same user.
+    Report(kRecolour + "--save");
+    const Tree recoloured = Theme("orrery");
+    fs::rename(home_ / "data", home_ / "data kept");
+    StartAfresh();
+    fs::rename(home_ / "data kept", home_ / "data");
+    ExpectRefusal("apply WEB --theme orrery", 1, "--overwrite");
+    EXPECT_EQ(Run("apply WEB --theme orrery --overwrite").status, 0);
+    ExpectPictures(recoloured, Theme("orrery"));
+    for (const char* const page : {"index.htm", "news.htm", "gallery/index.htm"})
+        home_.Write(std::string("web/") + page, "<p>no theme</p>");
+    const Outcome outcome = Run("apply WEB --theme almanac");
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.err.find("none takes the web's theme"), std::string::npos) << outcome.err;
+}
+
 TEST_F(Save, ADryRunTellsWhatWouldBeWrittenAndWritesNothing) {
     const Tree before = Web();
     fs::create_symlink("web", home_ / "link");

@@ -4,19 +4,18 @@
 
 namespace morpho {
 
-std::string Apply(const ApplyRequest& request) {
+void Apply(const ApplyRequest& request, std::string& warnings) {
     Batch batch(request.web, request.theme, FindUserFolders(EnvironmentVariable));
+    warnings = batch.Warnings();
     if (!request.overwrite && batch.ApplyingReplacesTheme(request.theme))
         throw CommandError(CommandError::Status::kRefused,
                            "The web has another theme \"" + request.theme +
                                "\" than you have; --overwrite replaces it by yours.");
     batch.ApplyTheme(request.theme);
-    std::string warnings = batch.Warnings();
     for (const std::string& sentence : batch.Reports())
         warnings += sentence + "\n";
-    if (batch.IsThemeShown()) return warnings;
-    warnings.pop_back();  // what was reported says why
-    throw CommandError(CommandError::Status::kRefused, warnings);
+    if (!batch.IsThemeShown())
+        throw CommandError(CommandError::Status::kRefused, "The theme could not be applied.");
 }
 
 }  // namespace morpho

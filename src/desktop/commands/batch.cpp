@@ -35,9 +35,12 @@ Batch::Batch(const std::filesystem::path& web, const std::string& onlyTheme,
 }
 
 std::string Batch::Warnings() {
+    const OpenedWeb& web = *desktop_.FrontPage().Opened();
     std::string warnings;
-    for (const std::string& sentence : desktop_.FrontPage().Opened()->skipped)
-        warnings += sentence + "\n";
+    for (const auto& sentences : {web.putRight, web.skipped}) {
+        for (const std::string& sentence : sentences)
+            warnings += sentence + "\n";
+    }
     return warnings;
 }
 

@@ -26,7 +26,7 @@ class Batch {
 
     // All themes of the web, and the one that the web as a whole uses (empty: none).
     const std::vector<Theme>& Themes() { return desktop_.FrontPage().Opened()->themes; }
-    // What could not be taken from them, a sentence a line.
+    // What was put right in them, and what could not be taken from them, a sentence a line.
     std::string Warnings();
     std::string ThemeOfWeb() {
         return desktop_.FrontPage().ActiveWeb()->ThemeProperties(kThemeNameProperty);
@@ -37,6 +37,8 @@ class Batch {
     }
     // Gives the web a theme that it has, or one of the user's own. Throws RunTimeError.
     void ApplyTheme(const std::string& name) { desktop_.FrontPage().ActiveWeb()->ApplyTheme(name); }
+    // The theme that a stopped program was giving the web, which opening it has completed; or none.
+    const std::string& CompletedTheme() { return desktop_.FrontPage().Session()->completedTheme; }
     // Whether a page takes the theme that was last applied.
     bool IsThemeShown() { return desktop_.FrontPage().Session()->isShown; }
     // What the host could not do with single pages or files, one sentence each.

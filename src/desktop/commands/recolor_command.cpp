@@ -60,6 +60,10 @@ std::string Export(const RecolorRequest& request, std::string& warnings) {
 std::string Save(const RecolorRequest& request, const UserFolders& folders, std::string& warnings) {
     Batch batch(request.web, request.theme, folders);
     warnings = batch.Warnings();
+    // The same steps may be in it already; taken once more they would double.
+    if (EqualIgnoringCase(batch.CompletedTheme(), request.theme))
+        throw CommandError(CommandError::Status::kRefused,
+                           "That was all: look at the theme before you recolour it again.");
     BatchWindow& window = TakeSteps(batch, request);
     warnings += Warnings(window.Window());
     DrawIfAsked(window, request);

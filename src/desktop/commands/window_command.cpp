@@ -81,7 +81,7 @@ void ShowThemeWindow(const ThemeRequest& request) {
     Component component;
     component.application = &desktop.FrontPage();
     const Program program{desktop.Parts(), component};
-    TellReports(toolkit, desktop.FrontPage().Reports());
+    TellReports(toolkit, desktop.FrontPage().Opened()->putRight);
     desktop.FrontPage().SetReporter(
         [&](const std::vector<std::string>& reports) { TellReports(toolkit, reports); });
     desktop.FrontPage().SetLog([&](std::string_view line) { WriteLog(program, line); });

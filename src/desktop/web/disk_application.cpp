@@ -51,6 +51,7 @@ void PutRight(WebSession& web) {
                        "\" has been removed.");
         } else {
             ApplyThemeToWeb(web, theme);
+            web.completedTheme = theme;
             web.Report("A program was stopped while it gave the web the theme \"" + theme +
                        "\"; that has been completed.");
         }
@@ -76,8 +77,7 @@ void DiskApplication::Open(const std::string& folder, const std::optional<std::s
     web->opened.folder = folder;
     if (!stores.forWeb.empty()) PutRight(*web);
     web->opened = OpenWebFolder(folder, {unpackFolder_, onlyTheme, stores.forWeb});
-    web->opened.skipped.insert(web->opened.skipped.begin(), web->reports.begin(),
-                               web->reports.end());
+    web->opened.putRight = std::exchange(web->reports, {});
     if (!stores.ofUser.empty()) CleanStore(*web);
     web_ = std::move(web);
 }

@@ -24,8 +24,7 @@ class DiskApplication : public Application {
     const OpenedWeb* Opened() const { return web_ ? &web_->opened : nullptr; }
     // The web that is open, for the host's other objects; null when none is.
     const std::shared_ptr<WebSession>& Session() const { return web_; }
-    // What went wrong with single pages when a theme was last applied, or what was put right when
-    // the web was opened; a sentence each.
+    // What went wrong with single pages when a theme was last applied, a sentence each.
     std::vector<std::string> Reports() const;
 
     // Takes the host's own messages from now on: broken hyperlinks, pages that keep their theme.

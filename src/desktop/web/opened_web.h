@@ -10,10 +10,12 @@ namespace morpho {
 
 // An open web folder.
 struct OpenedWeb {
-    std::string folder;                // a path of the disk
-    std::vector<Theme> themes;         // by name, without regard to case
-    std::vector<std::string> skipped;  // what could not be taken from its themes, a sentence each;
-                                       // of those that were not to be unpacked nothing is told
+    std::string folder;                 // a path of the disk
+    std::vector<Theme> themes;          // by name, without regard to case
+    std::vector<std::string> skipped;   // what could not be taken from its themes, a sentence each;
+                                        // of those that were not to be unpacked nothing is told
+    std::vector<std::string> putRight;  // what was done at opening about what a program that died
+                                        // while it changed the themes had left, a sentence each
 };
 
 // Where and how a web's themes are made ready.

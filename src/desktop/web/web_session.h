@@ -31,7 +31,8 @@ struct WebSession {
     ThemeChangeNote changeNote;
     std::function<void(std::string_view)> log;
     std::vector<std::string> reports;  // what went wrong with single pages, a sentence each
-    bool isShown = false;              // whether a page takes the theme that was last applied
+    std::string completedTheme;  // applied at opening, as a program had died over it; or empty
+    bool isShown = false;        // whether a page takes the theme that was last applied
 
     // The web's own folder.
     DiskFolder Root() const { return DiskFolder::Open(opened.folder, true); }

@@ -280,7 +280,7 @@ TEST_F(DiskWebTest, WhatADeadProgramWasDoingIsPutRightAtTheNextStart) {
         folder_.Write(note, text);
         Open();
         EXPECT_FALSE(folder_.Has(note));
-        return application_.Opened()->skipped.size();
+        return application_.Opened()->putRight.size();
     };
     InstallNew();
     folder_.Write("web/_themes/half/a.gif", "half");
