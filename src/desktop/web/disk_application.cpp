@@ -31,10 +31,21 @@ void CleanStore(const WebSession& web) {
     }
 }
 
-void RemoveUnfinished(const WebSession& web, const std::string& diskName) {
+void RemoveUnfinished(WebSession& web, const std::string& diskName) {
     const auto folder = FindFolderInWeb(web, {"_themes", diskName});
-    if (!folder || EqualIgnoringCase(ThemeOfWeb(web.Root()), NameFromDisk(diskName))) return;
+    const std::string theme = NameFromDisk(diskName);
+    if (!folder || EqualIgnoringCase(ThemeOfWeb(web.Root()), theme)) return;
     web.writer->RemoveFolder(folder->Path());
+    web.Report("What a program that was stopped had made of the theme \"" + theme +
+               "\" has been removed.");
+}
+
+void CompleteApplying(WebSession& web, const std::string& diskName) {
+    const std::string theme = NameFromDisk(diskName);
+    ApplyThemeToWeb(web, theme);
+    web.completedTheme = theme;
+    web.Report("A program was stopped while it gave the web the theme \"" + theme +
+               "\"; that has been completed.");
 }
 
 // Puts right what a program that died while it changed the web's themes has left: a theme that it
@@ -44,17 +55,8 @@ void PutRight(WebSession& web) {
         const auto themes = FindFolderInWeb(web, {"_themes"});
         const auto change = themes ? web.changeNote.TakeOver(themes->Path()) : std::nullopt;
         if (!change) return;
-        const std::string theme = NameFromDisk(change->theme);
-        if (change->kind == ThemeChange::Kind::kMaking) {
-            RemoveUnfinished(web, change->theme);
-            web.Report("What a program that was stopped had made of the theme \"" + theme +
-                       "\" has been removed.");
-        } else {
-            ApplyThemeToWeb(web, theme);
-            web.completedTheme = theme;
-            web.Report("A program was stopped while it gave the web the theme \"" + theme +
-                       "\"; that has been completed.");
-        }
+        const bool isMaking = change->kind == ThemeChange::Kind::kMaking;
+        (isMaking ? RemoveUnfinished : CompleteApplying)(web, change->theme);
     } catch (const RunTimeError& error) {
         web.Report(error.what());
     }

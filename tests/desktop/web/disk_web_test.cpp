@@ -290,7 +290,7 @@ TEST_F(DiskWebTest, WhatADeadProgramWasDoingIsPutRightAtTheNextStart) {
     EXPECT_EQ(openAfter("making half\n"), 1U);
     EXPECT_FALSE(folder_.Has("web/_themes/half"));
     const Tree before = WebTree();
-    openAfter("making OLD\n");
+    EXPECT_EQ(openAfter("making OLD\n"), 0U);
     EXPECT_EQ(WebTree(), before) << "pages use it";
     EXPECT_EQ(openAfter("applying new\n"), 1U);
     EXPECT_EQ(folder_.Read("web/index.htm"), Page("new", "<img src='_themes/new/a.gif'>"));
