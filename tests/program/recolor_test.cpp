@@ -142,7 +142,8 @@ TEST_F(RecolorCommand, ABrokenPictureIsToldAndTheOthersGoOn) {
     const Outcome outcome = Run("recolor WEB --theme orrery --hue 20 --apply --json --export OUT");
     EXPECT_EQ(outcome.status, 0) << outcome.err;
     EXPECT_NE(outcome.err.find("orrbnra.gif"), std::string::npos) << outcome.err;
-    for (const json& element : json::parse(outcome.out)["elements"])
+    const json report = json::parse(outcome.out);
+    for (const json& element : report["elements"])
         EXPECT_EQ(element["recoloured"], element["file"] != "orrbnra.gif") << element["key"];
     EXPECT_EQ(home_.Read("out/orrbnra.gif"), home_.Read(broken));
 }
