@@ -59,8 +59,11 @@ void ThemeChangeNote::Hold(const std::string& themesFolder, const ThemeChange& c
     const std::string text = TextOf(change);
     if (::lseek(file_.Number(), 0, SEEK_SET) != 0 || !WriteAll(file_.Number(), text) ||
         ::ftruncate(file_.Number(), static_cast<off_t>(text.size())) != 0 ||
-        ::fsync(file_.Number()) != 0)
-        throw FileError(errno, path_, "could not be written");
+        ::fsync(file_.Number()) != 0) {
+        const RunTimeError error = FileError(errno, path_, "could not be written");
+        Release();
+        throw error;
+    }
 }
 
 void ThemeChangeNote::Release() {
@@ -85,9 +88,15 @@ bool ThemeChangeNote::Open(const std::string& path, int flags) {
         Descriptor file(
             ::open(path.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC | flags, 0666));
         struct stat status = {};
-        if (!file.IsOpen() || ::fstat(file.Number(), &status) != 0 || !S_ISREG(status.st_mode) ||
-            ::flock(file.Number(), LOCK_EX | LOCK_NB) != 0)
+        if (!file.IsOpen() || ::fstat(file.Number(), &status) != 0 || !S_ISREG(status.st_mode))
             return false;
+        if (::flock(file.Number(), LOCK_EX | LOCK_NB) != 0) {
+            const int reason = errno;
+            // A disk that has no locks gets no note: nobody could tell whose it is.
+            if (reason != EWOULDBLOCK && flags == O_CREAT) ::unlink(path.c_str());
+            errno = reason;
+            return false;
+        }
         if (IsGone(path, status)) continue;
         path_ = path;
         file_ = std::move(file);
