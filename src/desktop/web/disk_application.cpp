@@ -48,19 +48,35 @@ void CompleteApplying(WebSession& web, const std::string& diskName) {
                "\"; that has been completed.");
 }
 
+std::optional<ThemeChange> TakeOverNote(WebSession& web) {
+    try {
+        const auto themes = FindFolderInWeb(web, {"_themes"});
+        return themes ? web.changeNote.TakeOver(themes->Path()) : std::nullopt;
+    } catch (const RunTimeError&) {
+        return {};  // opening the web tells what cannot be read
+    }
+}
+
 // Puts right what a program that died while it changed the web's themes has left: a theme that it
 // was making goes, one that it was applying is applied.
 void PutRight(WebSession& web) {
     try {
-        const auto themes = FindFolderInWeb(web, {"_themes"});
-        const auto change = themes ? web.changeNote.TakeOver(themes->Path()) : std::nullopt;
-        if (!change) return;
-        const bool isMaking = change->kind == ThemeChange::Kind::kMaking;
-        (isMaking ? RemoveUnfinished : CompleteApplying)(web, change->theme);
+        if (const auto change = TakeOverNote(web)) {
+            const bool isMaking = change->kind == ThemeChange::Kind::kMaking;
+            (isMaking ? RemoveUnfinished : CompleteApplying)(web, change->theme);
+        }
     } catch (const RunTimeError& error) {
         web.Report(error.what());
     }
     web.changeNote.Release();
+}
+
+// Where nothing may be written, it is only told.
+void TellUnfinished(WebSession& web) {
+    if (const auto change = TakeOverNote(web))
+        web.Report("A program was stopped while it changed the web's theme \"" +
+                   NameFromDisk(change->theme) + "\"; the next save puts that right.");
+    web.changeNote.Leave();
 }
 
 }  // namespace
@@ -77,7 +93,7 @@ void DiskApplication::Open(const std::string& folder, const std::optional<std::s
     web->writer = writer_;
     web->log = log_;
     web->opened.folder = folder;
-    if (!stores.forWeb.empty()) PutRight(*web);
+    (stores.forWeb.empty() ? TellUnfinished : PutRight)(*web);
     web->opened = OpenWebFolder(folder, {unpackFolder_, onlyTheme, stores.forWeb});
     web->opened.putRight = std::exchange(web->reports, {});
     if (!stores.ofUser.empty()) CleanStore(*web);

@@ -14,8 +14,8 @@ struct OpenedWeb {
     std::vector<Theme> themes;          // by name, without regard to case
     std::vector<std::string> skipped;   // what could not be taken from its themes, a sentence each;
                                         // of those that were not to be unpacked nothing is told
-    std::vector<std::string> putRight;  // what was done at opening about what a program that died
-                                        // while it changed the themes had left, a sentence each
+    std::vector<std::string> putRight;  // what a program that died while it changed the themes had
+                                        // left, and what was done about it, a sentence each
 };
 
 // Where and how a web's themes are made ready.

@@ -75,11 +75,8 @@ void ThemeChangeNote::Release() {
 std::optional<ThemeChange> ThemeChangeNote::TakeOver(const std::string& themesFolder) {
     if (file_.IsOpen() || !Open(PathIn(themesFolder), 0)) return {};
     struct stat status = {};
-    std::optional<ThemeChange> change;
-    if (::fstat(file_.Number(), &status) == 0 && status.st_size <= kMaxBytes)
-        change = ChangeIn(ReadWhole(file_, path_));
-    if (!change) Release();
-    return change;
+    if (::fstat(file_.Number(), &status) != 0 || status.st_size > kMaxBytes) return {};
+    return ChangeIn(ReadWhole(file_, path_));
 }
 
 // Opens and locks the file; otherwise false, with the reason in errno.

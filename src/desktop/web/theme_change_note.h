@@ -31,8 +31,10 @@ class ThemeChangeNote {
     // RunTimeError while another program is at it. Where the folder cannot be written there is no
     // note; whoever wants to write there will fail by itself.
     void Hold(const std::string& themesFolder, const ThemeChange& change);
-    // Takes the file away again, if there is one.
+    // Takes the file away again, if it is held.
     void Release();
+    // Lets go of the file and leaves it where it is.
+    void Leave() { file_.Close(); }
     // Holds the note that a program which died has left, and says what it was doing. Nothing when
     // there is none, when its program is at it, or when it was not written to its end.
     std::optional<ThemeChange> TakeOver(const std::string& themesFolder);

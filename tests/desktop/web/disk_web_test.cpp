@@ -292,6 +292,11 @@ TEST_F(DiskWebTest, WhatADeadProgramWasDoingIsPutRightAtTheNextStart) {
     const Tree before = WebTree();
     EXPECT_EQ(openAfter("making OLD\n"), 0U);
     EXPECT_EQ(WebTree(), before) << "pages use it";
+    folder_.Write(note, "applying new\n");
+    const Tree unfinished = WebTree();
+    application_.Open(folder_ / "web");
+    EXPECT_EQ(application_.Opened()->putRight.size(), 1U) << "told, where nothing may be saved";
+    EXPECT_EQ(WebTree(), unfinished);
     EXPECT_EQ(openAfter("applying new\n"), 1U);
     EXPECT_EQ(folder_.Read("web/index.htm"), Page("new", "<img src='_themes/new/a.gif'>"));
 }
