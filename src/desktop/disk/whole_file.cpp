@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <charconv>
 #include <cstdio>
+#include <fstream>
 #include <memory>
 
 #include "desktop/disk/disk_path.h"
@@ -41,6 +42,15 @@ std::string NameBeside() {
            std::string(kBesideEnd);
 }
 
+bool IsRunning(pid_t program) {
+    if (::kill(program, 0) != 0 && errno == ESRCH) return false;
+    // One that has died is listed, as a zombie, until its parent has taken notice.
+    std::string status;
+    std::getline(std::ifstream("/proc/" + std::to_string(program) + "/stat"), status);
+    const std::size_t state = status.rfind(") ");
+    return state == status.npos || !status.substr(state).starts_with(") Z");
+}
+
 }  // namespace
 
 bool WriteAll(int number, std::string_view bytes) {
@@ -62,8 +72,7 @@ bool IsAbandonedBesideName(std::string_view name) {
     name.remove_prefix(kBesideStart.size());
     pid_t program = 0;
     const auto [stop, error] = std::from_chars(name.data(), name.data() + name.size(), program);
-    return error == std::errc() && *stop == '-' && program > 0 && ::kill(program, 0) != 0 &&
-           errno == ESRCH;
+    return error == std::errc() && *stop == '-' && program > 0 && !IsRunning(program);
 }
 
 std::string ReadWhole(const Descriptor& file, const std::string& diskPath) {
