@@ -25,8 +25,8 @@ class WebWriter {
     // Replaces the file as a whole, or creates it, and flushes it; a link is replaced, not
     // followed.
     virtual void ReplaceFile(const std::string& path, std::string_view bytes);
-    // The same for several files, which takes less time. A failure is kept with its file, and the
-    // others are replaced.
+    // The same for several files, which takes less time: ReplaceFile is called from several
+    // threads. A failure is kept with its file, and the others are replaced.
     void ReplaceFiles(std::vector<FileChange>& changes);
     // Writes a file of a name that is free, as a whole; the next Flush flushes it.
     virtual void AddFile(const std::string& path, std::string_view bytes);
