@@ -16,7 +16,7 @@
 
 #include <jpeglib.h>
 
-#include "colorizer/colorizer.h"
+#include "colorizer/recolorer.h"
 
 namespace fs = std::filesystem;
 

@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "colorizer/colorizer.h"
+#include "colorizer/recolorer.h"
 
 namespace fs = std::filesystem;
 

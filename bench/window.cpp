@@ -10,8 +10,8 @@
 #include <filesystem>
 #include <vector>
 
-#include "desktop/host/desktop_platform.h"
-#include "desktop/qt/qt_toolkit.h"
+#include "program/desktop_platform.h"
+#include "qt/qt_toolkit.h"
 #include "resources/embedded_resources.h"
 #include "shared/component.h"
 #include "theme_editor/frm_theme_morpho.h"

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "about/frm_quick_reference.h"
-#include "frontpage/environment.h"
+#include "frontpage/environment_discovery.h"
 #include "platform/platform.h"
 #include "platform/resources.h"
 #include "resources/resource_ids.h"

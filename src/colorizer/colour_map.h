@@ -1,6 +1,6 @@
 #pragma once
 
-#include "colorizer/colorizer.h"
+#include "colorizer/recolorer.h"
 
 namespace colorizer {
 

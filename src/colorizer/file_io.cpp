@@ -6,7 +6,7 @@
 #include <string>
 #include <thread>
 
-#include "colorizer/colorizer.h"
+#include "colorizer/recolorer.h"
 
 namespace fs = std::filesystem;
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "colorizer/colorizer.h"
+#include "colorizer/recolorer.h"
 
 namespace colorizer {
 

@@ -4,7 +4,7 @@
 #include <array>
 #include <cstring>
 
-#include "colorizer/colorizer.h"
+#include "colorizer/recolorer.h"
 
 namespace colorizer {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "colorizer/colorizer.h"
+#include "colorizer/recolorer.h"
 
 namespace colorizer {
 

@@ -2,9 +2,9 @@
 #include <cstring>
 #include <new>
 
-#include "colorizer/colorizer.h"
 #include "colorizer/jpeg_errors.h"
 #include "colorizer/jpeg_planes.h"
+#include "colorizer/recolorer.h"
 
 #include <jerror.h>
 

@@ -1,10 +1,10 @@
 #include <new>
 #include <variant>
 
-#include "colorizer/colorizer.h"
 #include "colorizer/file_io.h"
 #include "colorizer/gif.h"
 #include "colorizer/jpeg_pass.h"
+#include "colorizer/recolorer.h"
 
 namespace colorizer {
 

@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "forms/control_visitor.h"
-#include "platform/ignoring_case.h"
+#include "text/ignoring_case.h"
 
 namespace morpho {
 

@@ -4,11 +4,11 @@
 #include <initializer_list>
 #include <vector>
 
-#include "frontpage/environment.h"
+#include "frontpage/environment_discovery.h"
 #include "platform/automation.h"
-#include "platform/ignoring_case.h"
 #include "platform/platform.h"
 #include "platform/run_time_error.h"
+#include "text/ignoring_case.h"
 
 namespace morpho {
 

@@ -5,9 +5,10 @@
 #include <utility>
 
 #include "platform/file_system.h"
-#include "platform/ignoring_case.h"
 #include "platform/run_time_error.h"
 #include "platform/shell.h"
+#include "text/ignoring_case.h"
+#include "text/trim.h"
 
 namespace morpho {
 
@@ -131,12 +132,6 @@ std::string FormatText(std::string_view format, const std::vector<std::string>& 
 
 int ShellOpen(Shell& shell, std::string_view file, std::string_view parameters) {
     return shell.ShellExecute("open", file, parameters, kShowNormal);
-}
-
-std::string_view Trim(std::string_view text) {
-    const auto first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 std::string FileNameOf(std::string_view path) {

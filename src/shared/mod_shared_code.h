@@ -40,9 +40,6 @@ std::string FormatText(std::string_view format, const std::vector<std::string>& 
 // Opens a document or an address with its program, in a normal window. Above 32: success.
 int ShellOpen(Shell& shell, std::string_view file, std::string_view parameters);
 
-// The text without spaces at both ends.
-std::string_view Trim(std::string_view text);
-
 // What stands after the last "\" or "/".
 std::string FileNameOf(std::string_view path);
 // The path with one "\" at its end.

@@ -1,7 +1,7 @@
 #include "theme_editor/element_selection.h"
 
-#include "platform/ignoring_case.h"
 #include "shared/log.h"
+#include "text/ignoring_case.h"
 
 namespace morpho {
 

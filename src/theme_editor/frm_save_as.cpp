@@ -4,14 +4,15 @@
 #include <charconv>
 #include <cstdint>
 
+#include "formats/plain_file_name.h"
 #include "platform/code_page.h"
 #include "platform/file_system.h"
-#include "platform/ignoring_case.h"
 #include "platform/platform.h"
 #include "platform/profile_files.h"
 #include "shared/mod_shared_code.h"
+#include "text/ignoring_case.h"
+#include "text/trim.h"
 #include "theme_editor/installed_theme.h"
-#include "theme_editor/plain_file_name.h"
 #include "theme_editor/product.h"
 #include "theme_editor/theme_installation.h"
 

@@ -1,7 +1,7 @@
 // How the Theme Morpho window starts: settings, banner, folders, themes, colour band.
 
 #include "about/frm_quick_reference.h"
-#include "frontpage/environment.h"
+#include "frontpage/environment_discovery.h"
 #include "frontpage/mod_fpole.h"
 #include "platform/platform.h"
 #include "shared/log.h"

@@ -1,6 +1,6 @@
 #include "theme_editor/installed_theme.h"
 
-#include "frontpage/environment.h"
+#include "frontpage/environment_discovery.h"
 #include "platform/front_page.h"
 
 namespace morpho {

@@ -1,10 +1,10 @@
 #include "theme_editor/theme_description.h"
 
 #include "platform/file_system.h"
-#include "platform/ignoring_case.h"
 #include "platform/platform.h"
 #include "platform/profile_files.h"
 #include "shared/mod_shared_code.h"
+#include "text/ignoring_case.h"
 
 namespace morpho {
 

@@ -1,6 +1,6 @@
 #include "theme_editor/theme_discovery.h"
 
-#include "frontpage/environment.h"
+#include "frontpage/environment_discovery.h"
 #include "platform/file_system.h"
 #include "platform/platform.h"
 #include "shared/log.h"

@@ -5,8 +5,8 @@
 #include "platform/run_time_error.h"
 #include "shared/mod_shared_code.h"
 #include "theme_editor/installed_theme.h"
+#include "theme_editor/rebuilt_package.h"
 #include "theme_editor/theme_description.h"
-#include "theme_editor/theme_package.h"
 
 namespace morpho {
 

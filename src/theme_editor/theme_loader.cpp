@@ -1,13 +1,13 @@
 #include "theme_editor/theme_loader.h"
 
+#include "formats/url_value.h"
 #include "platform/code_page.h"
 #include "platform/file_system.h"
-#include "platform/ignoring_case.h"
 #include "platform/platform.h"
 #include "platform/run_time_error.h"
 #include "shared/log.h"
 #include "shared/mod_shared_code.h"
-#include "theme_editor/url_value.h"
+#include "text/ignoring_case.h"
 
 namespace morpho {
 

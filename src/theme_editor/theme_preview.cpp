@@ -2,12 +2,12 @@
 
 #include "platform/code_page.h"
 #include "platform/file_system.h"
-#include "platform/ignoring_case.h"
 #include "platform/platform.h"
 #include "platform/resources.h"
 #include "platform/run_time_error.h"
 #include "resources/resource_ids.h"
 #include "shared/log.h"
+#include "text/ignoring_case.h"
 #include "theme_editor/pointer_guard.h"
 
 namespace morpho {

@@ -5,11 +5,11 @@
 
 #include "frontpage/mod_fpole.h"
 #include "platform/file_system.h"
-#include "platform/ignoring_case.h"
 #include "platform/platform.h"
 #include "platform/run_time_error.h"
 #include "shared/log.h"
 #include "shared/numbers.h"
+#include "text/ignoring_case.h"
 
 namespace morpho {
 

@@ -2,8 +2,8 @@
 
 #include <cstring>
 
-#include "colorizer/colorizer.h"
 #include "colorizer/pictures.h"
+#include "colorizer/recolorer.h"
 
 namespace colorizer {
 namespace {

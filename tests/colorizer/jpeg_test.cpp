@@ -4,8 +4,8 @@
 #include <complex>
 #include <random>
 
-#include "colorizer/colorizer.h"
 #include "colorizer/pictures.h"
+#include "colorizer/recolorer.h"
 
 namespace colorizer {
 namespace {

@@ -1,8 +1,8 @@
 #include <gmock/gmock.h>
 
-#include "colorizer/colorizer.h"
 #include "colorizer/pictures.h"
-#include "desktop/temporary_folder.h"
+#include "colorizer/recolorer.h"
+#include "support/temporary_folder.h"
 
 namespace fs = std::filesystem;
 

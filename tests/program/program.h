@@ -5,7 +5,7 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
-#include "desktop/temporary_folder.h"
+#include "support/temporary_folder.h"
 
 struct Outcome {
     int status = -1;  // the exit status; -1 when it died of a signal

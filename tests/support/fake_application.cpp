@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "desktop/web/disk_page.h"
+#include "formats/blank_page.h"
 #include "platform/run_time_error.h"
 #include "shared/mod_shared_code.h"
 
@@ -18,16 +18,16 @@ std::string PathOfUrl(std::string_view url) {
     return JoinPath(FakeApplication::kWebFolder, {url});
 }
 
-class BlankPage : public DiskPageWindow {
+class ScratchPage : public BlankPageWindow {
   public:
-    explicit BlankPage(FakeApplication& host)
-        : DiskPageWindow(std::make_shared<DiskPage>()), host_(host) {
+    explicit ScratchPage(FakeApplication& host)
+        : BlankPageWindow(std::make_shared<BlankPage>()), host_(host) {
         if (host_.refusesPages) Refuse("The page could not be opened");
         ++host_.openedPages;
         ++host_.openPages;
     }
     void Close(bool forceSave) override {
-        DiskPageWindow::Close(forceSave);
+        BlankPageWindow::Close(forceSave);
         --host_.openPages;
     }
 
@@ -59,7 +59,7 @@ class FakeWebWindow : public WebWindow {
   public:
     explicit FakeWebWindow(FakeApplication& host) : host_(host) {}
     std::unique_ptr<PageWindow> AddPageWindow() override {
-        return std::make_unique<BlankPage>(host_);
+        return std::make_unique<ScratchPage>(host_);
     }
     int PageWindowCount() const override { return static_cast<int>(host_.web->pages.size()); }
     std::unique_ptr<PageWindow> PageWindowAt(int index) override {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/ignoring_case.h"
+#include "text/ignoring_case.h"
 
 namespace morpho::test {
 

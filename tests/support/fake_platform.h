@@ -1,10 +1,10 @@
 #pragma once
 
-#include "desktop/disk/disk_profile_files.h"
-#include "desktop/text/windows_1252.h"
+#include "formats/windows_1252_code_page.h"
 #include "forms/headless_toolkit.h"
 #include "platform/platform.h"
 #include "shared/component.h"
+#include "shared/file_profiles.h"
 #include "support/fake_application.h"
 #include "support/fake_automation.h"
 #include "support/fake_colorizer.h"
@@ -19,7 +19,7 @@ namespace morpho::test {
 struct FakePlatform {
     FakeRegistry registry;
     FakeFileSystem files;
-    Windows1252 codePage;
+    Windows1252CodePage codePage;
     DiskProfileFiles profileFiles{files, codePage};
     FakeShell shell;
     FakeClock clock;

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "desktop/system/memory_registry.h"
+#include "shared/memory_registry.h"
 
 namespace morpho::test {
 

@@ -3,7 +3,7 @@
 #include "about/frm_about.h"
 #include "about/frm_quick_reference.h"
 #include "image_editor/frm_jpeg_qf.h"
-#include "platform/ignoring_case.h"
+#include "text/ignoring_case.h"
 #include "theme_editor/frm_prompt_duplicate.h"
 #include "theme_editor/theme_world.h"
 

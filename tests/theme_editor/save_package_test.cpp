@@ -1,4 +1,5 @@
-#include "theme_editor/theme_package.h"
+#include "formats/theme_package.h"
+#include "theme_editor/rebuilt_package.h"
 #include "theme_editor/theme_world.h"
 
 namespace morpho::test {

@@ -1,0 +1,60 @@
+#include "formats/page_theme.h"
+
+#include "formats/theme_mark.h"
+#include "formats/web_text.h"
+#include "platform/run_time_error.h"
+#include "text/ignoring_case.h"
+
+namespace morpho {
+
+namespace {
+
+// A text in which places, given in their order, are replaced.
+class Replacing {
+  public:
+    explicit Replacing(std::string_view text) : text_(text) {}
+
+    void Replace(std::size_t begin, std::size_t length, std::string_view with) {
+        result_.append(text_.substr(done_, begin - done_)).append(with);
+        done_ = begin + length;
+    }
+    std::string Result() { return result_.append(text_.substr(done_)); }
+
+  private:
+    std::string_view text_;
+    std::string result_;
+    std::size_t done_ = 0;
+};
+
+std::string WithTheme(const std::string& page, const ThemeMark& mark, std::string_view theme,
+                      const std::function<bool(const ThemeAddress&)>& moves) {
+    Replacing result(page);
+    const std::string inAddress = EncodedPercents(theme);
+    bool marked = false;
+    const auto replaceMark = [&] {
+        if (!marked) result.Replace(mark.nameBegin, mark.nameLength, EncodedReferences(theme));
+        marked = true;
+    };
+    for (const ThemeAddress& address : ThemeAddresses(page)) {
+        if (!EqualIgnoringCase(address.theme, mark.theme.name) || !moves(address)) continue;
+        if (address.nameBegin > mark.nameBegin) replaceMark();
+        result.Replace(address.nameBegin, address.nameLength, inAddress);
+    }
+    replaceMark();
+    return result.Result();
+}
+
+}  // namespace
+
+std::optional<std::string> PageWithTheme(std::string_view page, std::string_view theme,
+                                         const std::function<bool(const ThemeAddress&)>& moves) {
+    const PageText text(page);
+    const auto mark = FindThemeMark(text.Text());
+    if (!mark || !mark->theme.ofWeb || mark->theme.name.empty()) return {};
+    if (EqualIgnoringCase(mark->theme.name, theme)) return {};
+    auto bytes = text.BytesOf(WithTheme(text.Text(), *mark, theme, moves));
+    if (!bytes) throw RunTimeError(ErrorNumber::kInvalidFileFormat, "The page is broken UTF-16.");
+    return bytes;
+}
+
+}  // namespace morpho

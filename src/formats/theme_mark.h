@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace morpho {
+
+// What a page's "Microsoft Theme" meta tag says:
+//     <meta name="Microsoft Theme" content="NAME DIGITS, default">
+// DIGITS are the theme's flags; "default" stands where the page takes the theme of the whole web;
+// the name "none" means no theme.
+struct PageTheme {
+    std::string name;  // folder name, UTF-8; empty for none
+    bool ofWeb = false;
+};
+
+// Nothing when the page does not say. `page` may be its first part only.
+std::optional<PageTheme> ThemeOfPage(std::string_view page);
+
+// The same with the place of NAME in the page.
+struct ThemeMark {
+    PageTheme theme;
+    std::size_t nameBegin = 0;
+    std::size_t nameLength = 0;
+};
+std::optional<ThemeMark> FindThemeMark(std::string_view page);
+
+}  // namespace morpho

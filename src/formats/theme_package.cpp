@@ -1,0 +1,104 @@
+#include "formats/theme_package.h"
+
+#include <charconv>
+#include <cstdint>
+#include <optional>
+#include <set>
+
+#include "formats/plain_file_name.h"
+#include "platform/code_page.h"
+#include "platform/run_time_error.h"
+#include "text/ignoring_case.h"
+#include "text/trim.h"
+
+namespace morpho {
+
+namespace {
+
+constexpr std::string_view kMarker = "<==MS-Theme==>";
+
+[[noreturn]] void Refuse(const std::string& reason) {
+    throw RunTimeError(ErrorNumber::kInvalidFileFormat, "The theme package " + reason);
+}
+
+// Takes the next line away from the text.
+std::string_view TakeLine(std::string_view& rest) {
+    const auto end = rest.find('\n');
+    if (end == std::string_view::npos) Refuse("ends within its index");
+    const std::string_view line = rest.substr(0, end);
+    rest.remove_prefix(end + 1);
+    return line;
+}
+
+template <typename Number>
+std::optional<Number> NumberIn(std::string_view text) {
+    if (text.ends_with('\r')) text.remove_suffix(1);
+    text = Trim(text);
+    Number number = 0;
+    const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc() || stop != text.data() + text.size()) return std::nullopt;
+    return number;
+}
+
+void AddMember(const CodePage& codePage, std::string_view line, std::set<std::string>& known,
+               PackageIndex& index) {
+    const auto comma = line.rfind(',');
+    const std::string name = codePage.ToText(line.substr(0, comma));
+    if (!IsPlainFileName(name)) Refuse("names a member that is no plain file: \"" + name + "\"");
+    if (!known.insert(Lowered(name)).second) Refuse("names \"" + name + "\" twice");
+    index.names.push_back(name);
+    index.lengths.push_back(comma == std::string_view::npos ? std::string_view()
+                                                            : line.substr(comma + 1));
+}
+
+std::string_view TakeMember(std::string_view& rest, const std::string& name,
+                            std::string_view lengthText) {
+    const auto length = NumberIn<std::uint64_t>(lengthText);
+    if (!rest.starts_with(kMarker)) Refuse("has no mark before \"" + name + "\"");
+    rest.remove_prefix(kMarker.size());
+    if (!length || *length > rest.size()) Refuse("gives a wrong length for \"" + name + "\"");
+    const std::string_view member = rest.substr(0, static_cast<std::size_t>(*length));
+    rest.remove_prefix(member.size());
+    return member;
+}
+
+}  // namespace
+
+PackageIndex ReadPackageIndex(const CodePage& codePage, std::string_view bytes) {
+    PackageIndex index;
+    index.header = TakeLine(bytes);
+    index.countLine = TakeLine(bytes);
+    const auto count = NumberIn<std::int16_t>(index.countLine);
+    if (!count || *count < 0) Refuse("does not say how many members it has");
+    std::set<std::string> known;
+    for (int i = 0; i < *count; ++i)
+        AddMember(codePage, TakeLine(bytes), known, index);
+    // A count below the truth would silently drop members.
+    if (*count == 0 ? !bytes.empty() : !bytes.starts_with(kMarker))
+        Refuse("has another number of members than it says");
+    index.contents = bytes;
+    return index;
+}
+
+ThemePackage ReadThemePackage(const CodePage& codePage, std::string_view bytes) {
+    const PackageIndex index = ReadPackageIndex(codePage, bytes);
+    ThemePackage package{index.header, index.countLine, {}};
+    std::string_view rest = index.contents;
+    for (std::size_t i = 0; i < index.names.size(); ++i) {
+        const std::string_view member = TakeMember(rest, index.names[i], index.lengths[i]);
+        package.members.push_back({index.names[i], std::string(member)});
+    }
+    if (!rest.empty()) Refuse("goes on behind its last member");
+    return package;
+}
+
+std::string FormatThemePackage(const CodePage& codePage, const ThemePackage& package) {
+    std::string bytes = package.header + '\n' + package.countLine + '\n';
+    for (const ThemePackage::Member& member : package.members)
+        bytes += codePage.ToBytes(member.name) + ',' + std::to_string(member.bytes.size()) + '\n';
+    for (const ThemePackage::Member& member : package.members)
+        bytes.append(kMarker).append(member.bytes);
+    return bytes;
+}
+
+}  // namespace morpho

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace morpho {
+
+class CodePage;
+
+// The packed form of a theme (".elm"), one file beside its description (".inf"): a header line that
+// nothing here interprets, a line with the number of members, a line "name,length in bytes" for
+// each member, and then for each member the marker and its bytes, with nothing between them. A line
+// ends with one line feed; names are in the system's code page.
+struct ThemePackage {
+    struct Member {
+        std::string name;  // a plain file name, UTF-8
+        std::string bytes;
+    };
+    std::string header;     // the first line as it stands in the file
+    std::string countLine;  // the second one, which is carried over too
+    std::vector<Member> members;
+};
+
+// Reads a package as a whole. A package that contradicts itself, or that names a member by anything
+// but a plain file name or twice (also in another letter case), throws RunTimeError
+// (kInvalidFileFormat).
+ThemePackage ReadThemePackage(const CodePage& codePage, std::string_view bytes);
+
+// The package's file. The count line is written as it is, the lengths as they are now.
+std::string FormatThemePackage(const CodePage& codePage, const ThemePackage& package);
+
+// What a package says of its members, read without them.
+struct PackageIndex {
+    std::string header;
+    std::string countLine;
+    std::vector<std::string> names;         // UTF-8
+    std::vector<std::string_view> lengths;  // decimal texts, as they stand in the package
+    std::string_view contents;              // what follows the index
+};
+
+// The index of the package in `bytes`, which must outlive it. Throws like ReadThemePackage, but
+// does not look at lengths and contents beyond the first marker.
+PackageIndex ReadPackageIndex(const CodePage& codePage, std::string_view bytes);
+
+}  // namespace morpho

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+
+#include "linux/whole_file.h"
+#include "platform/file_system.h"
+
+namespace morpho {
+
+// The files of this computer; "Z:\" is "/" (see disk_path.h). Of a link, what it leads to is read,
+// but writing replaces the link itself. Copies belong to the user: they are writable even where
+// their source is not.
+class DiskFileSystem : public FileSystem {
+  public:
+    // What is written below `scratchFolder` (a path of the disk, or empty) need not survive a power
+    // failure and is not flushed.
+    explicit DiskFileSystem(std::string scratchFolder = {});
+
+    std::optional<FileEntry> Find(std::string_view path) const override;
+    std::vector<FileEntry> List(std::string_view folder) const override;
+    std::string ReadFile(std::string_view path) const override;
+    void WriteFile(std::string_view path, std::string_view bytes) override;
+    void AppendFile(std::string_view path, std::string_view bytes) override;
+    void CopyFile(std::string_view source, std::string_view destination) override;
+    void MoveFile(std::string_view source, std::string_view destination) override;
+    void DeleteFile(std::string_view path) override;
+    void CreateFolder(std::string_view path) override;
+    void CopyFolder(std::string_view source, std::string_view destination) override;
+    void DeleteFolder(std::string_view path) override;
+
+  private:
+    Durability DurabilityOf(const std::string& diskPath) const;
+
+    std::string scratchFolder_;
+};
+
+}  // namespace morpho

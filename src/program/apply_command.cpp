@@ -1,0 +1,21 @@
+#include "program/apply_command.h"
+
+#include "program/batch.h"
+
+namespace morpho {
+
+void Apply(const ApplyRequest& request, std::string& warnings) {
+    Batch batch(request.web, request.theme, FindUserFolders(EnvironmentVariable));
+    warnings = batch.Warnings();
+    if (!request.overwrite && batch.ApplyingReplacesTheme(request.theme))
+        throw CommandError(CommandError::Status::kRefused,
+                           "The web has another theme \"" + request.theme +
+                               "\" than you have; --overwrite replaces it by yours.");
+    batch.ApplyTheme(request.theme);
+    for (const std::string& sentence : batch.Reports())
+        warnings += sentence + "\n";
+    if (!batch.IsThemeShown())
+        throw CommandError(CommandError::Status::kRefused, "The theme could not be applied.");
+}
+
+}  // namespace morpho

@@ -1,0 +1,65 @@
+#include "program/batch.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "linux/disk_path.h"
+#include "shared/mod_shared_code.h"
+#include "text/ignoring_case.h"
+
+namespace morpho {
+
+namespace {
+
+std::string Absolute(const std::filesystem::path& web) {
+    return std::filesystem::absolute(web).lexically_normal().string();
+}
+
+std::optional<std::string> OnlyTheme(const std::string& name) {
+    return name.empty() ? std::nullopt : std::optional(name);
+}
+
+}  // namespace
+
+Batch::Batch(const std::filesystem::path& web, const std::string& onlyTheme)
+    : desktop_(DesktopUse::kBatch, FindUserFolders(EnvironmentVariable), toolkit_, resources_) {
+    desktop_.FrontPage().Open(Absolute(web), OnlyTheme(onlyTheme));
+    component_.application = &desktop_.FrontPage();
+}
+
+Batch::Batch(const std::filesystem::path& web, const std::string& onlyTheme,
+             const UserFolders& folders)
+    : desktop_(DesktopUse::kBatch, folders, toolkit_, resources_) {
+    desktop_.OpenForSaving(Absolute(web), OnlyTheme(onlyTheme));
+    component_.application = &desktop_.FrontPage();
+}
+
+std::string Batch::Warnings() {
+    const OpenedWeb& web = *desktop_.FrontPage().Opened();
+    std::string warnings;
+    for (const auto& sentences : {web.putRight, web.skipped}) {
+        for (const std::string& sentence : sentences)
+            warnings += sentence + "\n";
+    }
+    return warnings;
+}
+
+BatchWindow& Batch::OpenTheme(const std::string& name) {
+    const bool known = std::any_of(Themes().begin(), Themes().end(), [&](const Theme& theme) {
+        return EqualIgnoringCase(theme.name, name);
+    });
+    if (!known)
+        throw CommandError(CommandError::Status::kRefused,
+                           "This web has no theme named \"" + name + "\".");
+    const std::string unpacked =
+        ToWindowsPath(desktop_.WorkFolder().Cache()) + "\\FrontPageTempDir\\mstheme\\" + name;
+    // The warnings tell why.
+    if (!FolderExists(desktop_.Parts().files, unpacked))
+        throw CommandError(CommandError::Status::kRefused,
+                           "The theme \"" + name + "\" cannot be read.");
+    if (!window_) window_ = std::make_unique<BatchWindow>(program_, toolkit_);
+    window_->OpenTheme(name);
+    return *window_;
+}
+
+}  // namespace morpho

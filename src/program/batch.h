@@ -1,0 +1,58 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/headless_toolkit.h"
+#include "program/batch_window.h"
+#include "program/desktop_platform.h"
+#include "resources/embedded_resources.h"
+#include "shared/component.h"
+#include "web_host/theme_unpacking.h"
+
+namespace morpho {
+
+// One run of the program without a screen, on one web.
+class Batch {
+  public:
+    // Only one theme is made ready, or all where its name is empty. Throws RunTimeError when the
+    // web cannot be opened.
+    Batch(const std::filesystem::path& web, const std::string& onlyTheme);
+    // The same, and saving into these folders of the user is possible.
+    Batch(const std::filesystem::path& web, const std::string& onlyTheme,
+          const UserFolders& folders);
+
+    // All themes of the web, and the one that the web as a whole uses (empty: none).
+    const std::vector<Theme>& Themes() { return desktop_.FrontPage().Opened()->themes; }
+    // What was put right in them, and what could not be taken from them, a sentence a line.
+    std::string Warnings();
+    std::string ThemeOfWeb() {
+        return desktop_.FrontPage().ActiveWeb()->ThemeProperties(kThemeNameProperty);
+    }
+    // Whether that takes a theme of this name away that the web has, and the user has differently.
+    bool ApplyingReplacesTheme(const std::string& name) {
+        return ReplacesThemeOfWeb(*desktop_.FrontPage().Session(), name);
+    }
+    // Gives the web a theme that it has, or one of the user's own. Throws RunTimeError.
+    void ApplyTheme(const std::string& name) { desktop_.FrontPage().ActiveWeb()->ApplyTheme(name); }
+    // The theme that a stopped program was giving the web, which opening it has completed; or none.
+    const std::string& CompletedTheme() { return desktop_.FrontPage().Session()->completedTheme; }
+    // Whether a page takes the theme that was last applied.
+    bool IsThemeShown() { return desktop_.FrontPage().Session()->isShown; }
+    // What the host could not do with single pages or files, one sentence each.
+    std::vector<std::string> Reports() { return desktop_.FrontPage().Reports(); }
+    // The window with the theme of this name (without regard to case). Throws CommandError.
+    BatchWindow& OpenTheme(const std::string& name);
+
+  private:
+    HeadlessToolkit toolkit_;
+    EmbeddedResources resources_;
+    DesktopPlatform desktop_;
+    Component component_;
+    Program program_{desktop_.Parts(), component_};
+    std::unique_ptr<BatchWindow> window_;
+};
+
+}  // namespace morpho

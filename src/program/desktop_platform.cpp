@@ -1,0 +1,108 @@
+#include "program/desktop_platform.h"
+
+#include <cinttypes>
+#include <cstdio>
+#include <filesystem>
+
+#include "linux/disk_path.h"
+#include "linux/registry_file.h"
+#include "web_host/machine_description.h"
+
+namespace morpho {
+
+namespace {
+
+constexpr int kVersionMajor = MORPHO_VERSION_MAJOR;
+constexpr int kVersionMinor = MORPHO_VERSION_MINOR;
+constexpr int kVersionRevision = MORPHO_VERSION_REVISION;
+
+std::string DesktopFolder(const UserFolders& folders) {
+    const std::string desktop = JoinDiskPath(folders.home, "Desktop");
+    std::error_code ignored;
+    return std::filesystem::is_directory(desktop, ignored) ? desktop : folders.home;
+}
+
+// Settings as after a first start whose greetings were answered.
+RegistryData BatchSettings() {
+    RegistryData settings;
+    for (const std::string application : {"Theme Morpho", "Image Morpho"}) {
+        const std::string key =
+            "HKEY_CURRENT_USER\\Software\\VB and VBA Program Settings\\" + application + "\\Window";
+        for (const char* name : {"Splash", "QuickReference"})
+            settings.Set(key, {name, RegType::kString, "0"});
+    }
+    return settings;
+}
+
+MachineFolders FoldersOfMachine(const UserFolders& folders, const PrivateFolder& workFolder) {
+    MachineFolders machine;
+    machine.cache = workFolder.Cache();
+    machine.appData = JoinDiskPath(folders.data, "AppData");
+    machine.desktop = DesktopFolder(folders);
+    machine.commonFiles = JoinDiskPath(folders.data, "CommonFiles");
+    machine.program = ProgramFolder();
+    return machine;
+}
+
+// A folder name that is always the same for the web at this path: its own name, for people, and the
+// path's 64-bit FNV-1a hash.
+std::string NameOfWeb(const std::string& webFolder) {
+    std::error_code error;
+    const std::string path = std::filesystem::canonical(webFolder, error).string();
+    std::uint64_t hash = 14695981039346656037U;
+    for (const char c : error ? webFolder : path)
+        hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;
+    char digits[24];
+    std::snprintf(digits, sizeof digits, "-%016" PRIx64, hash);
+    return std::string(LastName(path)).substr(0, 100) + digits;
+}
+
+std::unique_ptr<MemoryRegistry> MakeRegistry(DesktopUse use, const UserFolders& folders,
+                                             const MachineFolders& machine) {
+    if (use == DesktopUse::kBatch)
+        return std::make_unique<MemoryRegistry>(DescribeMachine(machine), BatchSettings());
+    // Where it cannot be made, there are no logs; the editors run without.
+    std::error_code ignored;
+    std::filesystem::create_directories(machine.appData, ignored);
+    return std::make_unique<RegistryFile>(JoinDiskPath(folders.data, "registry.reg"),
+                                          DescribeMachine(machine));
+}
+
+// Beside an installed program, and in the sources of one that was only built.
+std::vector<std::string> HelpPages() {
+    const std::string program = ProgramFolder();
+    return {program + "/../share/doc/morpho/help/index.html",
+            program + "/../../../docs/help/index.html"};
+}
+
+}  // namespace
+
+DesktopPlatform::DesktopPlatform(DesktopUse use, const UserFolders& folders, Toolkit& toolkit,
+                                 const Resources& resources)
+    : workFolder_(folders.cache),
+      folders_(folders),
+      registry_(MakeRegistry(use, folders, FoldersOfMachine(folders, workFolder_))),
+      files_(workFolder_.Path()),
+      profileFiles_(files_, codePage_),
+      shell_(HelpPages(), StartDetached),
+      environment_({"Morpho", kVersionMajor, kVersionMinor, kVersionRevision, ""},
+                   workFolder_.Temporary()),
+      frontPage_(workFolder_.Cache()),
+      platform_{*registry_,   files_,    profileFiles_, codePage_, shell_,     clock_,
+                environment_, resources, colorizers_,   toolkit,   automation_} {}
+
+void DesktopPlatform::OpenForSaving(const std::string& folder,
+                                    const std::optional<std::string>& onlyTheme) {
+    MachineFolders machine = FoldersOfMachine(folders_, workFolder_);
+    machine.commonFiles = JoinDiskPath(folders_.data, "webs/" + NameOfWeb(folder));
+    const std::string microsoft = JoinDiskPath(machine.appData, "Microsoft");
+    // Where it cannot be made, saving a theme fails and says so.
+    std::error_code ignored;
+    std::filesystem::create_directories(microsoft, ignored);
+    frontPage_.Open(folder, onlyTheme,
+                    {JoinDiskPath(microsoft, "Themes"),
+                     JoinDiskPath(machine.commonFiles, "Microsoft Shared/Themes11")});
+    registry_->DescribeMachine(DescribeMachine(machine));
+}
+
+}  // namespace morpho

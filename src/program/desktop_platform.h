@@ -1,0 +1,62 @@
+#pragma once
+
+#include <memory>
+
+#include "formats/windows_1252_code_page.h"
+#include "linux/desktop_environment.h"
+#include "linux/desktop_shell.h"
+#include "linux/disk_file_system.h"
+#include "linux/private_folder.h"
+#include "linux/system_clock.h"
+#include "linux/user_folders.h"
+#include "platform/platform.h"
+#include "platform/registry.h"
+#include "program/colorizer_adapter.h"
+#include "shared/file_profiles.h"
+#include "shared/memory_registry.h"
+#include "web_host/disk_application.h"
+#include "web_host/disk_explorer.h"
+
+namespace morpho {
+
+enum class DesktopUse {
+    kWindows,  // settings are kept in the user's registry file
+    kBatch,    // settings start fresh, without splash and quick reference, and are forgotten
+};
+
+// Everything that surrounds the editors on a Linux desktop, for the life of the program.
+class DesktopPlatform {
+  public:
+    // The toolkit and the resources must outlive it. Throws RunTimeError when the private work
+    // folder cannot be had.
+    DesktopPlatform(DesktopUse use, const UserFolders& folders, Toolkit& toolkit,
+                    const Resources& resources);
+
+    Platform& Parts() { return platform_; }
+    // Opens a web (see DiskApplication::Open) whose themes can be saved: its themes are installed
+    // for all users, in a folder of the program's data that belongs to this web, and the user has
+    // a folder for own themes. What cannot be installed is among the web's skipped; the web is open
+    // nevertheless.
+    void OpenForSaving(const std::string& folder, const std::optional<std::string>& onlyTheme = {});
+    // The host; it has no web open yet.
+    DiskApplication& FrontPage() { return frontPage_; }
+    PrivateFolder& WorkFolder() { return workFolder_; }
+    DiskAutomation& Automation() { return automation_; }
+
+  private:
+    PrivateFolder workFolder_;
+    UserFolders folders_;
+    std::unique_ptr<MemoryRegistry> registry_;
+    DiskFileSystem files_;
+    Windows1252CodePage codePage_;
+    DiskProfileFiles profileFiles_;
+    DesktopShell shell_;
+    SystemClock clock_;
+    DesktopEnvironment environment_;
+    ColorizerAdapterFactory colorizers_;
+    DiskApplication frontPage_;
+    DiskAutomation automation_{frontPage_};
+    Platform platform_;
+};
+
+}  // namespace morpho

@@ -1,0 +1,113 @@
+#include "program/window_command.h"
+
+#include <QApplication>
+#include <algorithm>
+#include <iostream>
+
+#include "forms/form.h"
+#include "program/desktop_platform.h"
+#include "qt/qt_toolkit.h"
+#include "resources/embedded_resources.h"
+#include "resources/resource_ids.h"
+#include "shared/log.h"
+#include "text/ignoring_case.h"
+#include "theme_editor/frm_theme_morpho.h"
+#include "theme_editor/product.h"
+
+namespace morpho {
+
+namespace {
+
+// A QApplication wants arguments that outlive it, and none of ours are its.
+struct QtArguments {
+    char name[7] = "morpho";
+    char* values[2] = {name, nullptr};
+    int count = 1;
+};
+
+// Qt's notes on the surroundings ("XDG_RUNTIME_DIR not set") mean nothing to who runs this program.
+void KeepQtQuiet() {
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
+        if (type == QtCriticalMsg || type == QtFatalMsg) std::cerr << text.toStdString() << "\n";
+    });
+}
+
+void RequireTheme(const OpenedWeb& web, const std::string& name) {
+    const bool known = std::any_of(web.themes.begin(), web.themes.end(), [&](const Theme& theme) {
+        return EqualIgnoringCase(theme.name, name);
+    });
+    if (!known)
+        throw CommandError(CommandError::Status::kRefused,
+                           "This web has no theme named \"" + name + "\".");
+}
+
+// Before the window is shown, as if the person had picked it first of all.
+void SelectTheme(frmThemeMorpho& window, const std::string& name) {
+    window.Load();
+    const int index = window.cmbThemeName.FindExact(name);
+    if (index == kNoEntry) {
+        throw CommandError(CommandError::Status::kRefused,
+                           "This web has no theme named \"" + name + "\" that can be opened.");
+    }
+    window.cmbThemeLabel.UserSelect(index);
+}
+
+// Tells what happened to single pages of the web, the first of them by name.
+void TellReports(Toolkit& toolkit, const std::vector<std::string>& reports) {
+    constexpr std::size_t kMaxTold = 8;
+    if (reports.empty()) return;
+    std::string text;
+    for (std::size_t i = 0; i < std::min(reports.size(), kMaxTold); ++i)
+        text += (i == 0 ? "" : "\r\n") + reports[i];
+    if (reports.size() > kMaxTold)
+        text += "\r\nand " + std::to_string(reports.size() - kMaxTold) + " more.";
+    toolkit.MessageBox(nullptr, text, kOkOnly | kInformationIcon, kThemeProduct);
+}
+
+}  // namespace
+
+void ShowThemeWindow(const ThemeRequest& request) {
+    KeepQtQuiet();
+    QtToolkit::Prepare();
+    QtArguments arguments;
+    const QApplication application(arguments.count, arguments.values);
+    const DiskFileSystem pages;
+    const EmbeddedResources resources;
+    QtToolkit toolkit(pages, resources.Bytes(kIconResource, kApplicationIcon128));
+    DesktopPlatform desktop(DesktopUse::kWindows, FindUserFolders(EnvironmentVariable), toolkit,
+                            resources);
+    desktop.OpenForSaving(std::filesystem::absolute(request.web).lexically_normal().string());
+    if (!request.theme.empty()) RequireTheme(*desktop.FrontPage().Opened(), request.theme);
+    Component component;
+    component.application = &desktop.FrontPage();
+    const Program program{desktop.Parts(), component};
+    TellReports(toolkit, desktop.FrontPage().Opened()->putRight);
+    desktop.FrontPage().SetReporter(
+        [&](const std::vector<std::string>& reports) { TellReports(toolkit, reports); });
+    desktop.FrontPage().SetLog([&](std::string_view line) { WriteLog(program, line); });
+    frmThemeMorpho window(program);
+    if (!request.theme.empty()) SelectTheme(window, request.theme);
+    window.ShowModal();
+}
+
+void DrawWindow(Form& form, const std::filesystem::path& picture) {
+    if (qgetenv("QT_QPA_PLATFORM").isEmpty()) qputenv("QT_QPA_PLATFORM", "offscreen");
+    KeepQtQuiet();
+    QtToolkit::Prepare();
+    QtArguments arguments;
+    const QApplication application(arguments.count, arguments.values);
+    const DiskFileSystem pages;
+    QtToolkit toolkit(pages, {});
+    bool drawn = false;
+    toolkit.WhenFormStands([&](Form& standing) {
+        drawn = toolkit.SavePicture(standing, picture.string());
+        standing.Hide();
+    });
+    form.ShowModalOn(toolkit);
+    if (!drawn) {
+        throw CommandError(CommandError::Status::kRefused,
+                           "The picture " + picture.string() + " cannot be written.");
+    }
+}
+
+}  // namespace morpho

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QPushButton>
+
+#include "forms/controls.h"
+#include "qt/control_peer.h"
+
+namespace morpho {
+
+class CommandButtonPeer : public ControlPeer {
+  public:
+    CommandButtonPeer(CommandButton& button, QWidget* parent, const PeerContext& context);
+
+    // Presses the button as the person would; false when it cannot be pressed.
+    bool Press();
+    bool IsCancel() const;
+
+  protected:
+    void WriteOwn(Aspects changed) override;
+
+  private:
+    CommandButton& button_;
+    QPushButton* widget_;
+};
+
+class CheckBoxPeer : public ControlPeer {
+  public:
+    CheckBoxPeer(CheckBox& box, QWidget* parent, const PeerContext& context);
+
+  protected:
+    void WriteOwn(Aspects changed) override;
+
+  private:
+    CheckBox& box_;
+    QCheckBox* widget_;
+};
+
+}  // namespace morpho

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QWidget>
+
+#include "forms/control.h"
+#include "qt/settling.h"
+
+namespace morpho {
+
+class PageServer;
+
+// What the peers of one window share.
+struct PeerContext {
+    Settling& settling;
+    PageServer& pages;
+};
+
+// Base of the peers that have a widget: what all kinds of control have in common. The widget
+// belongs to its parent widget, which outlives the peer.
+class ControlPeer : public Peer {
+  public:
+    ControlPeer(Control& control, QWidget* widget, const PeerContext& context);
+    ~ControlPeer() override;
+    ControlPeer(const ControlPeer&) = delete;
+    ControlPeer& operator=(const ControlPeer&) = delete;
+
+    Control& Model() const { return control_; }
+    QWidget* Widget() const { return widget_; }
+
+  protected:
+    void Write(Aspects changed) final;
+    // The kind's own state: caption, value, entries, picture.
+    virtual void WriteOwn(Aspects changed) = 0;
+
+    // Reports what the person did, unless it is an echo of writing, and then shows the model's
+    // value: it may have refused or changed it.
+    template <typename Function>
+    void Did(Function&& report) {
+        Report([&] {
+            context_.settling.Flush();
+            report();
+            Show(aspect::kValue);
+        });
+    }
+
+    const PeerContext& Context() const { return context_; }
+    // The receiver to connect the widget's signals with: they stop when the peer goes, while a
+    // widget may signal as long as it is being destroyed.
+    QObject* Receiver() { return &receiver_; }
+
+  private:
+    void KeepFocus();
+
+    Control& control_;
+    QWidget* widget_;
+    PeerContext context_;
+    QObject receiver_;
+};
+
+}  // namespace morpho

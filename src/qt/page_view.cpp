@@ -1,0 +1,71 @@
+#include "qt/page_view.h"
+
+#include <QWebEngineHistory>
+#include <QWebEnginePage>
+#include <QWebEngineSettings>
+
+#include "qt/page_server.h"
+
+namespace morpho {
+
+namespace {
+
+// A page whose links lead nowhere.
+class StillPage : public QWebEnginePage {
+  public:
+    using QWebEnginePage::QWebEnginePage;
+
+  protected:
+    bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override {
+        const bool asked = type == NavigationTypeTyped || type == NavigationTypeReload;
+        return PageServer::IsOfScheme(url) && (asked || !isMainFrame);
+    }
+
+    void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel /*level*/,
+                                  const QString& /*message*/, int /*line*/,
+                                  const QString& /*source*/) override {}
+};
+
+void ShowOnly(QWebEngineSettings* settings) {
+    using Setting = QWebEngineSettings;
+    for (const auto unwanted :
+         {Setting::JavascriptEnabled, Setting::PluginsEnabled, Setting::LocalStorageEnabled,
+          Setting::FocusOnNavigationEnabled, Setting::ErrorPageEnabled,
+          Setting::NavigateOnDropEnabled, Setting::LocalContentCanAccessFileUrls}) {
+        settings->setAttribute(unwanted, false);
+    }
+}
+
+// The faces that old pages were made for, or those of the same widths.
+void UseClassicFonts(QWebEngineSettings* settings) {
+    for (const auto family : {QWebEngineSettings::StandardFont, QWebEngineSettings::SerifFont})
+        settings->setFontFamily(family, "Liberation Serif");
+    settings->setFontFamily(QWebEngineSettings::SansSerifFont, "Liberation Sans");
+    settings->setFontFamily(QWebEngineSettings::FixedFont, "Liberation Mono");
+}
+
+}  // namespace
+
+PageView::PageView(QWebEngineProfile* profile, QWidget* parent) : QWebEngineView(parent) {
+    auto* const page = new StillPage(profile, this);
+    ShowOnly(page->settings());
+    UseClassicFonts(page->settings());
+    setPage(page);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setAcceptDrops(false);
+    connect(page, &QWebEnginePage::loadFinished, this, [this] { loading_ = false; });
+}
+
+void PageView::Open(const QUrl& address) {
+    loading_ = true;
+    load(address);
+    history()->clear();
+}
+
+void PageView::Reload() {
+    loading_ = true;
+    // Even a plain refresh must read the pictures again, as nothing tells when they were rewritten.
+    triggerPageAction(QWebEnginePage::ReloadAndBypassCache);
+}
+
+}  // namespace morpho

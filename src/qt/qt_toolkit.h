@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QImage>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/toolkit.h"
+#include "qt/page_server.h"
+
+namespace morpho {
+
+class FormWindow;
+
+// Shows forms with Qt Widgets. A program calls Prepare, makes its QApplication, then one toolkit.
+class QtToolkit : public Toolkit {
+  public:
+    // What must be settled before there is a QApplication: the browser's address scheme and
+    // environment.
+    static void Prepare();
+
+    // Gives the application the look that the forms are laid out for. `icon` holds the program's
+    // icon, an encoded picture, or nothing. `files` serves the browser controls and must outlive
+    // the toolkit.
+    QtToolkit(const FileSystem& files, std::string_view icon);
+    ~QtToolkit() override;
+
+    void RunModal(Form& form) override;
+    Answer MessageBox(Form* owner, std::string_view text, int flags,
+                      std::string_view title) override;
+    Rectangle NormalPlacement(const Form& form) const override;
+    CapturedWindow ReleaseCapture() override;
+    void SetCapture(CapturedWindow window) override;
+
+    // Calls `stands` whenever a form stands on the screen and its first Form_Paint is over: the
+    // place for a script to do what a person would.
+    void WhenFormStands(std::function<void(Form&)> stands) { whenFormStands_ = std::move(stands); }
+    // What the screen shows of a form now, its pages painted, with the dialogs over it if wanted;
+    // a null image when the form is not shown. Works without a screen.
+    QImage PictureOf(const Form& form, bool withDialogs = false);
+    // Writes that picture to a PNG file at this path of the operating system.
+    bool SavePicture(const Form& form, const std::string& file, bool withDialogs = false);
+
+  private:
+    FormWindow* WindowOf(const Form* form) const;
+    QWidget* TopWindow() const;
+
+    PageServer pages_;
+    std::vector<FormWindow*> windows_;  // nested, the innermost last
+    std::function<void(Form&)> whenFormStands_;
+};
+
+}  // namespace morpho

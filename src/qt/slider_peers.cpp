@@ -1,0 +1,71 @@
+#include "qt/slider_peers.h"
+
+#include <QLineEdit>
+
+namespace morpho {
+
+namespace {
+
+// A spin box without the box: the arrows, their keys and the wheel.
+class Arrows : public QSpinBox {
+  public:
+    explicit Arrows(QWidget* parent) : QSpinBox(parent) { lineEdit()->hide(); }
+};
+
+}  // namespace
+
+SliderPeer::SliderPeer(Slider& slider, QWidget* parent, const PeerContext& context)
+    : ControlPeer(slider, new QSlider(Qt::Horizontal, parent), context),
+      slider_(slider),
+      widget_(static_cast<QSlider*>(Widget())) {
+    // Not only what the mouse does: a screen reader sets the value as well. The guard keeps echoes
+    // out.
+    QObject::connect(widget_, &QSlider::valueChanged, Receiver(),
+                     [this](int value) { Report([&] { Moved(value); }); });
+    QObject::connect(widget_, &QSlider::sliderReleased, Receiver(),
+                     [this] { Did([this] { slider_.UserSettle(widget_->value()); }); });
+}
+
+SliderPeer::~SliderPeer() {
+    Context().settling.Drop(this);
+}
+
+void SliderPeer::Moved(int value) {
+    const bool moved = slider_.UserScroll(value);
+    Show(aspect::kValue);
+    if (moved && !widget_->isSliderDown())
+        Context().settling.Hold(this, [this] { return Settle(); });
+}
+
+bool SliderPeer::Settle() {
+    const bool settled = slider_.UserSettle(slider_.Value());
+    Show(aspect::kValue);
+    return settled;
+}
+
+void SliderPeer::WriteOwn(Aspects changed) {
+    if (!(changed & aspect::kValue)) return;
+    const Slider::Range& limits = slider_.Limits();
+    widget_->setRange(limits.minimum, limits.maximum);
+    widget_->setSingleStep(limits.smallChange);
+    widget_->setPageStep(limits.largeChange);
+    widget_->setTickInterval(limits.tickFrequency);
+    widget_->setTickPosition(limits.tickFrequency > 0 ? QSlider::TicksBelow : QSlider::NoTicks);
+    widget_->setValue(slider_.Value());
+}
+
+ScrollBarPeer::ScrollBarPeer(ScrollBar& bar, QWidget* parent, const PeerContext& context)
+    : ControlPeer(bar, new Arrows(parent), context),
+      bar_(bar),
+      widget_(static_cast<QSpinBox*>(Widget())) {
+    QObject::connect(widget_, &QSpinBox::valueChanged, Receiver(),
+                     [this](int value) { Did([&] { bar_.UserSet(value); }); });
+}
+
+void ScrollBarPeer::WriteOwn(Aspects changed) {
+    if (!(changed & aspect::kValue)) return;
+    widget_->setRange(bar_.Minimum(), bar_.Maximum());
+    widget_->setValue(bar_.Value());
+}
+
+}  // namespace morpho

@@ -1,0 +1,28 @@
+#include "qt/web_browser_peer.h"
+
+#include "qt/page_server.h"
+
+namespace morpho {
+
+WebBrowserPeer::WebBrowserPeer(WebBrowser& browser, QWidget* parent, const PeerContext& context)
+    : ControlPeer(browser, new PageView(context.pages.Profile(), parent), context),
+      browser_(browser),
+      view_(static_cast<PageView*>(Widget())),
+      site_(context.pages.NewSite()) {}
+
+WebBrowserPeer::~WebBrowserPeer() {
+    Context().pages.Close(site_);
+}
+
+void WebBrowserPeer::WriteOwn(Aspects changed) {
+    if (browser_.Address().empty()) return;
+    // The address is state too: a browser that is attached late shows the page it was sent to.
+    const bool attaching = (changed & aspect::kAll) == aspect::kAll;
+    if (attaching || (changed & aspect::kNavigate)) {
+        view_->Open(Context().pages.Open(site_, browser_.Address()));
+    } else if (changed & (aspect::kReload | aspect::kReloadCompletely)) {
+        view_->Reload();
+    }
+}
+
+}  // namespace morpho

@@ -1,0 +1,38 @@
+#include "web_host/machine_description.h"
+
+#include "linux/disk_path.h"
+
+namespace morpho {
+
+namespace {
+
+constexpr std::string_view kShellFolders =
+    "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders";
+constexpr std::string_view kOfficeGeneral =
+    "HKEY_CURRENT_USER\\Software\\Microsoft\\Office\\11.0\\Common\\General";
+constexpr std::string_view kWindowsVersion =
+    "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion";
+constexpr std::string_view kExplorerClass = "HKEY_CLASSES_ROOT\\FrontPage.Explorer.6.0\\CLSID";
+constexpr std::string_view kExplorerClassId = "{6F0D3C52-8B1E-4D07-9A6E-51C2D7B84E13}";
+
+}  // namespace
+
+RegistryData DescribeMachine(const MachineFolders& folders) {
+    RegistryData data;
+    const auto setText = [&data](std::string_view key, const char* name, std::string text) {
+        data.Set(key, {name, RegType::kString, std::move(text)});
+    };
+    setText(kShellFolders, "Cache", ToWindowsPath(folders.cache));
+    setText(kShellFolders, "AppData", ToWindowsPath(folders.appData));
+    setText(kShellFolders, "Desktop", ToWindowsPath(folders.desktop));
+    // The name of the user's themes folder below "Microsoft" in AppData.
+    setText(kOfficeGeneral, "Themes", "Themes");
+    setText(kWindowsVersion, "CommonFilesDir", ToWindowsPath(folders.commonFiles));
+    const std::string classId(kExplorerClassId);
+    setText(kExplorerClass, "", classId);
+    setText("HKEY_CLASSES_ROOT\\CLSID\\" + classId + "\\LocalServer32", "",
+            ToWindowsPath(JoinDiskPath(folders.program, "morpho")));
+    return data;
+}
+
+}  // namespace morpho

@@ -1,0 +1,141 @@
+#include "formats/page_theme.h"
+
+#include <gtest/gtest.h>
+
+#include "formats/theme_addresses.h"
+#include "formats/theme_mark.h"
+#include "platform/run_time_error.h"
+#include "text/utf8.h"
+
+namespace morpho {
+namespace {
+
+std::string Meta(const std::string& content) {
+    return "<meta name=\"Microsoft Theme\" content=\"" + content + "\">";
+}
+
+const std::string kMark = Meta("old 1011, default");
+const std::string kNewMark = Meta("new 1011, default");
+
+// The new theme has all files but "lacking.gif".
+std::optional<std::string> Rethemed(const std::string& page, const std::string& theme = "new") {
+    return PageWithTheme(page, theme,
+                         [](const ThemeAddress& address) { return address.file != "lacking.gif"; });
+}
+void ExpectPage(const std::string& page, const std::string& expected,
+                const std::string& theme = "new") {
+    EXPECT_EQ(Rethemed(page, theme).value_or("unchanged"), expected);
+}
+// A page with the theme's mark and this body.
+void ExpectBody(const std::string& body, const std::string& expected) {
+    ExpectPage(kMark + body, kNewMark + expected);
+}
+
+TEST(PageTheme, TheMarksNameChangesAndNothingElseInIt) {
+    ExpectPage("<META content='OLD 011 ,  Default' NAME='microsoft theme'/>",
+               "<META content='new 011 ,  Default' NAME='microsoft theme'/>");
+    ExpectPage("<meta name='Microsoft Theme' content=old,default>",
+               "<meta name='Microsoft Theme' content=a&#32;b,default>", "a b");
+    ExpectPage("<meta name=\"Microsoft Theme\" content=\"B\xF6gen 1, default\">",
+               "<meta name=\"Microsoft Theme\" content=\"&#252;&#32;&#38;&#32;&#34; 1, default\">",
+               "ü & \"");
+    ExpectPage(kMark + "<meta name='x' content='old'>", kNewMark + "<meta name='x' content='old'>");
+}
+
+TEST(PageTheme, PagesThatDoNotTakeTheWebsThemeStay) {
+    for (const std::string content :
+         {"old 1011", "none", "none, default", "NEW 1, default", ", default"})
+        ExpectPage(
+            "<meta name='Microsoft Theme' content='" + content + "'><img src='_themes/old/a.gif'>",
+            "unchanged");
+    ExpectPage("<img src='_themes/old/a.gif'>", "unchanged");
+}
+
+TEST(PageTheme, AddressesOfTheOldFolderChangeWhereverTheyStand) {
+    // What stands around the theme's name in an address.
+    const auto expectRenamed = [](const std::string& before, const std::string& behind) {
+        ExpectBody(before + "old" + behind, before + "new" + behind);
+        ExpectBody(before + "OLD" + behind, before + "new" + behind);
+        ExpectBody(before + "%6fl%64" + behind, before + "new" + behind);
+    };
+    expectRenamed("<img src=\"_themes/", "/a.gif\">");
+    expectRenamed("<td background='../../_THEMES/", "/a.gif'>");
+    expectRenamed("<img src=./_themes/", "/a.gif>");
+    expectRenamed("<p style=\"background: url(../_themes/", "/a.gif)\">");
+    expectRenamed("<style>b{c:url('_themes/", "/a.gif')}</style>");
+    expectRenamed("<script>f('/_themes\\", "\\a')</script>");
+    expectRenamed("<noframes><body background=_themes/", "/a.gif></noframes>");
+    expectRenamed("<!--webbot U-Src=\"_themes/", "/a.gif\" --><!-- x -->");
+    ExpectBody("<img src=_themes/old/a.gif><img src=_themes/old/lacking.gif>",
+               "<img src=_themes/new/a.gif><img src=_themes/old/lacking.gif>");
+    ExpectBody("<img src='_themes/&#111;ld/a.gif'>", "<img src='_themes/new/a.gif'>");
+    ExpectPage(
+        "<link href='_themes/a%20b%E9/x.css'><meta name='Microsoft Theme' "
+        "content='a b\xE9, default'><img src='_themes/a b\xC3\xA9/x.gif'>",
+        "<link href='_themes/%C3%BC%20%28%27/x.css'><meta name='Microsoft Theme' "
+        "content='&#252;&#32;(&#39;, default'><img src='_themes/%C3%BC%20%28%27/x.gif'>",
+        "ü ('");
+}
+
+TEST(PageTheme, WhatIsNotTheOldFolderStays) {
+    for (const std::string body :
+         {"<p>See _themes/old/a.gif</p>", "<img src='http://a.example/_themes/old/a.gif'>",
+          "<img src='//a.example/_themes/old/a.gif'>", "<img src='sub/_themes/old/a.gif'>",
+          "<img src='my_themes/old/a.gif'>", "<img src='_themes/old2/a.gif'>",
+          "<img src='_themes/older'>", "<img src='_themes'>", "<title>_themes/old/</title>",
+          "<img src='_themes/other/old/a.gif'>", "<img src='_themes/old/a.gif"})
+        ExpectBody(body, body);
+}
+
+TEST(PageTheme, EveryOtherByteStays) {
+    const std::string odd("\r\n\n\r\0\xFF\xC3\t<b a = 'x' =>\xEF\xBB\xBF</b", 27);
+    ExpectBody(odd, odd);
+    const std::string marked = "\xEF\xBB\xBF" + kMark + "ü";
+    const std::string newMarked = "\xEF\xBB\xBF" + kNewMark + "ü";
+    ExpectPage(marked, newMarked);
+    ExpectPage(Utf16FromUtf8(marked), Utf16FromUtf8(newMarked));
+    EXPECT_THROW(Rethemed(Utf16FromUtf8(marked) + std::string("\x00\xD8", 2)), RunTimeError);
+}
+
+TEST(ThemeSheets, NameTheirOwnPictures) {
+    const auto expectSheet = [](const std::string& css, const std::string& expected) {
+        const auto isOwn = [](const std::string& file) { return file == "a.gif"; };
+        EXPECT_EQ(WithOwnPictures(css, isOwn), expected);
+    };
+    expectSheet("x{y:url(../old/a.gif)}z{}", "x{y:url(a.gif)}z{}");
+    expectSheet("x{y:URL( '../../_Themes/old/a.gif' );z:url(..\\old\\a.gif)}",
+                "x{y:URL( 'a.gif' );z:url(a.gif)}");
+    for (const std::string css : {"url(a.gif)", "url(../old/b.gif)", "url(images/a.gif)",
+                                  "url(http://a/_themes/old/a.gif)", "url(../../a.gif)", "url("})
+        expectSheet(css, css);
+}
+
+// The theme's name, with "*" behind it where the page takes the web's; "-" when it does not say.
+void ExpectTheme(const std::string& page, const std::string& expected) {
+    const auto theme = ThemeOfPage(page);
+    EXPECT_EQ(theme ? theme->name + (theme->ofWeb ? "*" : "") : "-", expected) << page;
+}
+
+TEST(ThemeOfPage, ReadsTheMetaTag) {
+    ExpectTheme("<head><title>x</title>" + Meta("my theme 1011,DEFAULT "), "my theme*");
+    ExpectTheme(Meta("blends"), "blends");
+    ExpectTheme(Meta("none, default"), "*");
+    ExpectTheme(Meta("B\xF6gen 011"), "Bögen");
+    ExpectTheme("<META content='a 1, default' NAME='microsoft theme'/>", "a*");
+    ExpectTheme("<meta name='Microsoft Theme'content=a>", "a");
+    ExpectTheme(Meta("a>b 1"), "a>b");
+}
+
+TEST(ThemeOfPage, IsNotMisledByWhatIsNoMetaTag) {
+    ExpectTheme("<!-- " + Meta("a 1") + " -->", "-");
+    ExpectTheme("<title>" + Meta("a 1") + "</title>", "-");
+    ExpectTheme("<body>" + Meta("a 1"), "-");
+    ExpectTheme("<p title='" + Meta("a 1") + "'>", "-");
+    ExpectTheme("<meta name='Microsoft Border' content='a'>", "-");
+    ExpectTheme("<meta name=\"Microsoft Theme\" content=\"a", "-");
+    ExpectTheme("< meta", "-");
+    ExpectTheme("<!--><style></styl</style>" + Meta("a 1"), "a");
+}
+
+}  // namespace
+}  // namespace morpho

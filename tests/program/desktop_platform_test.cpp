@@ -1,0 +1,69 @@
+#include "program/desktop_platform.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "forms/headless_toolkit.h"
+#include "frontpage/environment_discovery.h"
+#include "resources/embedded_resources.h"
+#include "shared/settings.h"
+#include "support/temporary_folder.h"
+
+namespace morpho {
+namespace {
+
+class DesktopPlatformTest : public testing::Test {
+  protected:
+    std::unique_ptr<DesktopPlatform> Start(DesktopUse use) {
+        const UserFolders folders{home_ / "", home_ / "cache/morpho", home_ / "data/morpho"};
+        return std::make_unique<DesktopPlatform>(use, folders, toolkit_, resources_);
+    }
+
+    TemporaryFolder home_;
+    HeadlessToolkit toolkit_;
+    EmbeddedResources resources_;
+};
+
+TEST_F(DesktopPlatformTest, WindowsKeepSettingsAndBatchesForgetThem) {
+    const auto splash = [&](DesktopUse use) {
+        return GetSetting(Start(use)->Parts(), "Theme Morpho", kWindowSection, "Splash", "1");
+    };
+    const auto save = [&](DesktopUse use) {
+        SaveSetting(Start(use)->Parts(), "Theme Morpho", kWindowSection, "Splash", "2");
+    };
+    EXPECT_EQ(splash(DesktopUse::kBatch), "0");
+    save(DesktopUse::kBatch);
+    EXPECT_FALSE(home_.Has("data"));
+    EXPECT_EQ(splash(DesktopUse::kWindows), "1");
+    save(DesktopUse::kWindows);
+    EXPECT_EQ(splash(DesktopUse::kWindows), "2");
+}
+
+TEST_F(DesktopPlatformTest, ThemesOfAWebAreInstalledWhereOnlyThisWebFindsThem) {
+    for (const char* const web : {"web", "other"})
+        std::filesystem::copy(MORPHO_SOURCE_DIR "/samples/larkfell", home_ / web,
+                              std::filesystem::copy_options::recursive);
+    const auto installed = [this](const char* web) {
+        const auto desktop = Start(DesktopUse::kBatch);
+        desktop->OpenForSaving(home_ / web);
+        const std::string folder =
+            GetFrontPageFolder(desktop->Parts(), desktop->FrontPage().Version(),
+                               FrontPageFolder::kThemes, "1033", true);
+        std::string names;
+        for (const FileEntry& theme : desktop->Parts().files.List(folder))
+            names += theme.name + " ";
+        return names;
+    };
+    EXPECT_EQ(installed("web"), "almanac orrery ");
+    std::filesystem::remove_all(home_ / "web/_themes/almanac");
+    EXPECT_EQ(installed("web"), "orrery ");
+    EXPECT_EQ(installed("other"), "almanac orrery ");
+    const Tree files = home_.Below("data/morpho/webs");
+    EXPECT_EQ(std::count_if(files.begin(), files.end(),
+                            [](const auto& file) { return file.first.ends_with(".elm"); }),
+              3);
+}
+
+}  // namespace
+}  // namespace morpho

@@ -1,0 +1,46 @@
+#include <gtest/gtest.h>
+
+#include "text/utf8.h"
+#include "text/windows_1252.h"
+
+namespace morpho {
+namespace {
+
+TEST(Windows1252, EveryByteSurvivesARoundTrip) {
+    std::string bytes;
+    for (int byte = 0; byte < 256; ++byte)
+        bytes += static_cast<char>(byte);
+    const std::string text = TextFromWindows1252(bytes);
+    EXPECT_TRUE(IsUtf8(text));
+    EXPECT_EQ(Windows1252FromText(text), bytes);
+}
+
+TEST(Windows1252, WritesTheCharactersThatItHas) {
+    EXPECT_EQ(TextFromWindows1252("Caf\xE9 \x80\x92"), "Café €’");
+    EXPECT_EQ(Windows1252FromText("Grün – ™"), "Gr\xFCn \x96 \x99");
+    EXPECT_EQ(Windows1252FromText("Ω日\xFF"), "???");
+    const auto entity = [](char32_t character) {
+        return "&#" + std::to_string(static_cast<unsigned>(character)) + ";";
+    };
+    EXPECT_EQ(Windows1252FromText("é Ω", entity), "\xE9 &#937;");
+}
+
+TEST(Utf8, KnowsWhatIsNoUtf8) {
+    for (const std::string_view good : {"", "a", "é", "日本", "😀", "\xF4\x8F\xBF\xBF"})
+        EXPECT_TRUE(IsUtf8(good)) << good;
+    for (const std::string_view bad : {"\x80", "\xC3", "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80",
+                                       "\xF0\x80\x80\x80", "\xF4\x90\x80\x80", "\xFF", "a\xE9z"})
+        EXPECT_FALSE(IsUtf8(bad)) << bad;
+    EXPECT_EQ(ValidUtf8("a\xE9z"), "a\xEF\xBF\xBDz");
+}
+
+TEST(Utf16, GoesThereAndBack) {
+    EXPECT_EQ(Utf16FromUtf8("aé😀"), std::string_view("a\0\xE9\0\x3D\xD8\x00\xDE", 8));
+    EXPECT_EQ(Utf8FromUtf16(Utf16FromUtf8("aé😀")), "aé😀");
+    EXPECT_EQ(Utf8FromUtf16(std::string_view("\x3D\xD8\x61\0\x62", 5)),
+              "\xEF\xBF\xBD"
+              "a");
+}
+
+}  // namespace
+}  // namespace morpho
