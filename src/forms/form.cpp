@@ -97,7 +97,7 @@ void Form::RunHandler(std::string_view name, const std::function<void()>& handle
 }
 
 Answer Form::MsgBox(std::string_view text, int flags, std::string_view title) {
-    return toolkit_.MessageBox(this, text, flags, title);
+    return toolkit_.ShowMessage(this, text, flags, title);
 }
 
 void Form::Attach(Peer* window) {

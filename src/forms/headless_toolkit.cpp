@@ -28,8 +28,8 @@ void HeadlessToolkit::RunModal(Form& form) {
     if (form.IsVisible()) form.Hide();
 }
 
-Answer HeadlessToolkit::MessageBox(Form* /*owner*/, std::string_view text, int flags,
-                                   std::string_view title) {
+Answer HeadlessToolkit::ShowMessage(Form* /*owner*/, std::string_view text, int flags,
+                                    std::string_view title) {
     messages_.push_back({std::string(text), flags, std::string(title)});
     if ((flags & kButtonsMask) == kOkOnly) return Answer::kOk;
     if (answers_.empty()) {

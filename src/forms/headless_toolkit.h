@@ -38,8 +38,8 @@ class HeadlessToolkit : public Toolkit {
     const std::vector<std::string>& Unscripted() const { return unscripted_; }
 
     void RunModal(Form& form) override;
-    Answer MessageBox(Form* owner, std::string_view text, int flags,
-                      std::string_view title) override;
+    Answer ShowMessage(Form* owner, std::string_view text, int flags,
+                       std::string_view title) override;
     Rectangle NormalPlacement(const Form& form) const override;
     CapturedWindow ReleaseCapture() override { return nullptr; }
     void SetCapture(CapturedWindow) override {}

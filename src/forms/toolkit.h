@@ -34,8 +34,8 @@ class Toolkit {
     // paint, and returns when the form is hidden or unloaded. Calls may nest.
     virtual void RunModal(Form& form) = 0;
     // Answers closing the box without a button as Cancel where there is one, else as OK or No.
-    virtual Answer MessageBox(Form* owner, std::string_view text, int flags,
-                              std::string_view title) = 0;
+    virtual Answer ShowMessage(Form* owner, std::string_view text, int flags,
+                               std::string_view title) = 0;
 
     // The form's rectangle, in twips, as it is when neither minimised nor maximised.
     virtual Rectangle NormalPlacement(const Form& form) const = 0;

@@ -16,7 +16,7 @@ namespace morpho {
 
 namespace {
 
-// The answers of WinExec and ShellExecute, numbered as the system does.
+// The answers of WinExec and Open, numbered as the system does.
 constexpr int kStarted = 33;
 constexpr int kFileNotFound = 2;
 constexpr int kNoAssociation = 31;
@@ -53,26 +53,25 @@ int DesktopShell::WinExec(std::string_view commandLine, int) {
     if (!command.starts_with(kHelpViewer) || !command.ends_with(kHelpFile)) return kFileNotFound;
     for (const std::string& page : helpPages_) {
         std::error_code ignored;
-        if (std::filesystem::is_regular_file(page, ignored)) return Open(page);
+        if (std::filesystem::is_regular_file(page, ignored)) return OpenTarget(page);
     }
     return kFileNotFound;
 }
 
-int DesktopShell::ShellExecute(std::string_view verb, std::string_view file, std::string_view,
-                               int) {
+int DesktopShell::Open(std::string_view verb, std::string_view file, std::string_view, int) {
     if (!verb.empty() && !EqualIgnoringCase(verb, "open")) return kNoAssociation;
-    if (IsAddress(file)) return Open(std::string(file));
+    if (IsAddress(file)) return OpenTarget(std::string(file));
     const auto diskPath = FindOnDisk(file);
     std::error_code ignored;
     if (!diskPath || !std::filesystem::exists(*diskPath, ignored)) return kFileNotFound;
-    return Open(*diskPath);
+    return OpenTarget(*diskPath);
 }
 
 void DesktopShell::DebugOutput(std::string_view line) {
     WriteAll(STDERR_FILENO, std::string(line) + '\n');
 }
 
-int DesktopShell::Open(const std::string& target) const {
+int DesktopShell::OpenTarget(const std::string& target) const {
     return start_({"xdg-open", target}) ? kStarted : kNoAssociation;
 }
 

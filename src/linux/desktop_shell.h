@@ -20,12 +20,12 @@ class DesktopShell : public Shell {
 
     int WinExec(std::string_view commandLine, int showCommand) override;
     // Opens addresses (http, https, ftp, mailto, file) and Windows paths; the rest is refused.
-    int ShellExecute(std::string_view verb, std::string_view file, std::string_view parameters,
-                     int showCommand) override;
+    int Open(std::string_view verb, std::string_view file, std::string_view parameters,
+             int showCommand) override;
     void DebugOutput(std::string_view line) override;
 
   private:
-    int Open(const std::string& target) const;
+    int OpenTarget(const std::string& target) const;
 
     std::vector<std::string> helpPages_;
     Starter start_;

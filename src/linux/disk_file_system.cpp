@@ -60,7 +60,7 @@ bool IsFolderItself(const std::string& diskPath) {
     return ::lstat(diskPath.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
-void Copy(const std::string& from, const std::string& to, Durability durability) {
+void CopyWhole(const std::string& from, const std::string& to, Durability durability) {
     const Descriptor source = OpenForReading(from);
     WholeFile copy(to, durability);
     copy.CopyFrom(source, from);
@@ -128,12 +128,12 @@ void DiskFileSystem::AppendFile(std::string_view path, std::string_view bytes) {
     if (!file.Close()) throw failure(errno);
 }
 
-void DiskFileSystem::CopyFile(std::string_view source, std::string_view destination) {
+void DiskFileSystem::Copy(std::string_view source, std::string_view destination) {
     const std::string to = Located(destination);
-    Copy(Located(source), to, DurabilityOf(to));
+    CopyWhole(Located(source), to, DurabilityOf(to));
 }
 
-void DiskFileSystem::MoveFile(std::string_view source, std::string_view destination) {
+void DiskFileSystem::Move(std::string_view source, std::string_view destination) {
     const std::string from = Located(source);
     // A name that changes only its letter case finds the file itself; then the new spelling counts.
     std::string to = Located(destination);
@@ -141,7 +141,7 @@ void DiskFileSystem::MoveFile(std::string_view source, std::string_view destinat
     if (IsFolderItself(to)) throw FileError(EISDIR, to, "could not be replaced");
     if (::rename(from.c_str(), to.c_str()) == 0) return;
     if (errno == EXDEV) {
-        Copy(from, to, DurabilityOf(to));
+        CopyWhole(from, to, DurabilityOf(to));
         return Unlink(from);
     }
     const int code = errno;
@@ -150,7 +150,7 @@ void DiskFileSystem::MoveFile(std::string_view source, std::string_view destinat
     throw FileError(code, code == ENOENT && sourceIsThere ? to : from, "could not be moved");
 }
 
-void DiskFileSystem::DeleteFile(std::string_view path) {
+void DiskFileSystem::Delete(std::string_view path) {
     const std::string diskPath = Located(path);
     if (IsFolderItself(diskPath)) throw FileError(EISDIR, diskPath, "could not be deleted");
     Unlink(diskPath);

@@ -21,9 +21,9 @@ class DiskFileSystem : public FileSystem {
     std::string ReadFile(std::string_view path) const override;
     void WriteFile(std::string_view path, std::string_view bytes) override;
     void AppendFile(std::string_view path, std::string_view bytes) override;
-    void CopyFile(std::string_view source, std::string_view destination) override;
-    void MoveFile(std::string_view source, std::string_view destination) override;
-    void DeleteFile(std::string_view path) override;
+    void Copy(std::string_view source, std::string_view destination) override;
+    void Move(std::string_view source, std::string_view destination) override;
+    void Delete(std::string_view path) override;
     void CreateFolder(std::string_view path) override;
     void CopyFolder(std::string_view source, std::string_view destination) override;
     void DeleteFolder(std::string_view path) override;

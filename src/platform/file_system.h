@@ -43,10 +43,10 @@ class FileSystem {
     // Adds to the file's end, creating it when it is missing.
     virtual void AppendFile(std::string_view path, std::string_view bytes) = 0;
     // Replaces the destination as a whole.
-    virtual void CopyFile(std::string_view source, std::string_view destination) = 0;
+    virtual void Copy(std::string_view source, std::string_view destination) = 0;
     // Renames within one folder or moves a file; an existing destination file is replaced.
-    virtual void MoveFile(std::string_view source, std::string_view destination) = 0;
-    virtual void DeleteFile(std::string_view path) = 0;
+    virtual void Move(std::string_view source, std::string_view destination) = 0;
+    virtual void Delete(std::string_view path) = 0;
 
     // The parent must exist. kFileExists when something stands there already.
     virtual void CreateFolder(std::string_view path) = 0;

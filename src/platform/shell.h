@@ -13,8 +13,8 @@ class Shell {
     // above 31 mean success.
     virtual int WinExec(std::string_view commandLine, int showCommand) = 0;
     // Runs `verb` ("open") on a document or an address. Values above 32 mean success.
-    virtual int ShellExecute(std::string_view verb, std::string_view file,
-                             std::string_view parameters, int showCommand) = 0;
+    virtual int Open(std::string_view verb, std::string_view file, std::string_view parameters,
+                     int showCommand) = 0;
     // One line to whoever debugs the program, without a line end.
     virtual void DebugOutput(std::string_view line) = 0;
 };

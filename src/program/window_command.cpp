@@ -61,7 +61,7 @@ void TellReports(Toolkit& toolkit, const std::vector<std::string>& reports) {
         text += (i == 0 ? "" : "\r\n") + reports[i];
     if (reports.size() > kMaxTold)
         text += "\r\nand " + std::to_string(reports.size() - kMaxTold) + " more.";
-    toolkit.MessageBox(nullptr, text, kOkOnly | kInformationIcon, kThemeProduct);
+    toolkit.ShowMessage(nullptr, text, kOkOnly | kInformationIcon, kThemeProduct);
 }
 
 }  // namespace

@@ -106,8 +106,8 @@ void QtToolkit::RunModal(Form& form) {
     windows_.pop_back();
 }
 
-Answer QtToolkit::MessageBox(Form* owner, std::string_view text, int flags,
-                             std::string_view title) {
+Answer QtToolkit::ShowMessage(Form* owner, std::string_view text, int flags,
+                              std::string_view title) {
     QWidget* parent = WindowOf(owner);
     if (parent == nullptr || !parent->isVisible()) parent = TopWindow();
     QMessageBox box(parent);

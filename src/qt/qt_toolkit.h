@@ -28,8 +28,8 @@ class QtToolkit : public Toolkit {
     ~QtToolkit() override;
 
     void RunModal(Form& form) override;
-    Answer MessageBox(Form* owner, std::string_view text, int flags,
-                      std::string_view title) override;
+    Answer ShowMessage(Form* owner, std::string_view text, int flags,
+                       std::string_view title) override;
     Rectangle NormalPlacement(const Form& form) const override;
     CapturedWindow ReleaseCapture() override;
     void SetCapture(CapturedWindow window) override;

@@ -131,7 +131,7 @@ std::string FormatText(std::string_view format, const std::vector<std::string>& 
 }
 
 int ShellOpen(Shell& shell, std::string_view file, std::string_view parameters) {
-    return shell.ShellExecute("open", file, parameters, kShowNormal);
+    return shell.Open("open", file, parameters, kShowNormal);
 }
 
 std::string FileNameOf(std::string_view path) {

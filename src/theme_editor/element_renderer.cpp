@@ -36,7 +36,7 @@ bool ElementRenderer::Rebuild(int row) {
     colorizer->SetAuxParameter1(0.0);
     colorizer->SetAuxParameter2(0.0);
     if (history_.UndoDepth() < 1) {
-        program_.platform.files.CopyFile(colorizer->SourceFile(), colorizer->DestinationFile());
+        program_.platform.files.Copy(colorizer->SourceFile(), colorizer->DestinationFile());
         return false;
     }
     if (IsJpegFile(colorizer->SourceFile()) && askJpegQuality_ == kAsk) AskQuality(*colorizer);

@@ -35,7 +35,7 @@ void SetThemeTitle(const Platform& platform, const std::string& inf, const std::
 void WriteThemeDescription(const Platform& platform, const std::string& sourceInf,
                            const std::string& destinationInf, const std::string& destinationFolder,
                            const std::string& title) {
-    platform.files.CopyFile(sourceInf, destinationInf);
+    platform.files.Copy(sourceInf, destinationInf);
     platform.profileFiles.WriteString(destinationInf, kInfo, "title", title);
     platform.profileFiles.WriteString(destinationInf, kInfo, "readonly", "0");
     WriteTitles(platform, destinationInf, title);

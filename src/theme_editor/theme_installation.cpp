@@ -46,7 +46,7 @@ ThemeInstallation::~ThemeInstallation() {
     try {
         // A folder that could not be taken back needs it to be told apart from a theme.
         const bool needed = FolderExists(files, installed.folder) && !files.Find(installed.Inf());
-        if (!needed && files.Find(waiting)) files.DeleteFile(waiting);
+        if (!needed && files.Find(waiting)) files.Delete(waiting);
     } catch (const RunTimeError&) {
         // The next installation of that name replaces it.
     }
@@ -61,7 +61,7 @@ void ThemeInstallation::Install(const InstalledTheme& source, const std::string&
     // and keeps its name free for the next attempt. The waiting file tells that folder apart.
     WriteThemeDescription(platform_, source.Inf(), waiting, installed.folder, title);
     RebuildThemePackage(platform_, source.Elm(), installed.Elm(), workFolder);
-    platform_.files.MoveFile(waiting, installed.Inf());
+    platform_.files.Move(waiting, installed.Inf());
 }
 
 bool IsHalfInstalled(const FileSystem& files, const std::string& themesFolder,

@@ -181,19 +181,19 @@ void ThemeSaver::MendWorkCopy(const LoadedTheme& theme) {
     const std::string originals = theme.hostThemes + theme.name + '\\';
     const std::string inf = theme.name + ".inf";
     if (!files.Find(theme.workFolder + inf) && files.Find(originals + inf))
-        files.CopyFile(originals + inf, theme.workFolder + inf);
+        files.Copy(originals + inf, theme.workFolder + inf);
     for (const FileEntry& entry : files.List(theme.workFolder)) {
         const bool isDescription = Lowered(entry.name).ends_with(".inf") && !entry.IsFolder();
         if (isDescription && !EqualIgnoringCase(entry.name, inf) &&
             !files.Find(originals + entry.name))
-            files.DeleteFile(theme.workFolder + entry.name);
+            files.Delete(theme.workFolder + entry.name);
     }
 }
 
 bool ThemeSaver::AddToWeb(Run& run) {
     const std::string& work = run.theme.workFolder;
     const std::string inf = work + run.target.name + ".inf";
-    program_.platform.files.MoveFile(work + run.theme.name + ".inf", inf);
+    program_.platform.files.Move(work + run.theme.name + ".inf", inf);
     SetThemeTitle(program_.platform, inf, run.target.title);
 
     Log("Copying theme files to the web...");

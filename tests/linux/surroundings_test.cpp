@@ -45,15 +45,15 @@ TEST_F(DesktopShellTest, OpensTheHelpPageForTheHelpViewer) {
 
 TEST_F(DesktopShellTest, OpensAddressesAndExistingFilesOnly) {
     const auto expectOpened = [this](const std::string& file, const std::string& target) {
-        EXPECT_GT(shell_.ShellExecute("open", file, "", 1), 32) << file;
+        EXPECT_GT(shell_.Open("open", file, "", 1), 32) << file;
         EXPECT_EQ(started_, (std::vector<std::string>{"xdg-open", target}));
     };
     expectOpened("https://example.org/", "https://example.org/");
     expectOpened(ToWindowsPath(folder_ / "HELP/index.HTML"), help_);
     started_.clear();
     for (const char* file : {"--help", "Z:\\no such file", "javascript:x", "calc", ""})
-        EXPECT_LE(shell_.ShellExecute("open", file, "", 1), 32) << file;
-    EXPECT_LE(shell_.ShellExecute("print", "https://example.org/", "", 1), 32);
+        EXPECT_LE(shell_.Open("open", file, "", 1), 32) << file;
+    EXPECT_LE(shell_.Open("print", "https://example.org/", "", 1), 32);
     EXPECT_TRUE(started_.empty());
 }
 

@@ -88,7 +88,7 @@ class FakeWebFolder : public WebFolder {
     void AddFile(std::string_view localPath, bool overwrite) override {
         const std::string file = PathOfUrl(Below(FileNameOf(localPath)));
         if (!overwrite && host_.webFiles.HasFile(file)) Refuse("The file exists");
-        host_.webFiles.CopyFile(localPath, file);
+        host_.webFiles.Copy(localPath, file);
     }
     void Delete() override { host_.webFiles.DeleteFolder(PathOfUrl(url_)); }
 

@@ -163,13 +163,13 @@ void FakeFileSystem::AppendFile(std::string_view path, std::string_view bytes) {
     Store(path, (HasFile(path) ? File(path).bytes : std::string()) + std::string(bytes));
 }
 
-void FakeFileSystem::CopyFile(std::string_view source, std::string_view destination) {
+void FakeFileSystem::Copy(std::string_view source, std::string_view destination) {
     Count(source);
     Count(destination);
     Store(destination, std::string(File(source).bytes));
 }
 
-void FakeFileSystem::MoveFile(std::string_view source, std::string_view destination) {
+void FakeFileSystem::Move(std::string_view source, std::string_view destination) {
     Count(source);
     Count(destination);
     const Node moved = File(source);
@@ -178,7 +178,7 @@ void FakeFileSystem::MoveFile(std::string_view source, std::string_view destinat
     nodes_[Key(destination)] = {NameIn(Normal(destination)), moved.attributes, moved.bytes};
 }
 
-void FakeFileSystem::DeleteFile(std::string_view path) {
+void FakeFileSystem::Delete(std::string_view path) {
     Count(path);
     File(path);
     nodes_.erase(Key(path));

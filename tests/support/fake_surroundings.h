@@ -23,8 +23,8 @@ class FakeShell : public Shell {
         started.emplace_back(commandLine);
         return result;
     }
-    int ShellExecute(std::string_view verb, std::string_view file, std::string_view parameters,
-                     int showCommand) override {
+    int Open(std::string_view verb, std::string_view file, std::string_view parameters,
+             int showCommand) override {
         started.push_back(std::string(verb) + ' ' + std::string(file) + ' ' +
                           std::string(parameters) + ", show " + std::to_string(showCommand));
         return result;

@@ -99,21 +99,21 @@ TYPED_TEST_P(FileSystemContract, CopiesMovesAndDeletesFiles) {
     this->Write("a", "A");
     this->Write("b", "BBB");
     this->Create("sub");
-    files.CopyFile(this->In("a"), this->In("b"));
+    files.Copy(this->In("a"), this->In("b"));
     EXPECT_EQ(this->Read("a") + this->Read("b"), "AA");
     this->Write("sub\\c", "CCC");
-    files.MoveFile(this->In("b"), this->In("sub\\c"));
+    files.Move(this->In("b"), this->In("sub\\c"));
     EXPECT_EQ(this->Read("sub\\c") + this->Found("b"), "A");
-    files.MoveFile(this->In("a"), this->In("A"));
+    files.Move(this->In("a"), this->In("A"));
     EXPECT_EQ(this->Found("a"), "A");  // a new spelling alone is a move, too
 
-    this->ExpectFileNotFound([&] { files.CopyFile(this->In("b"), this->In("d")); });
-    this->ExpectFileNotFound([&] { files.MoveFile(this->In("b"), this->In("d")); });
-    this->ExpectPathNotFound([&] { files.CopyFile(this->In("a"), this->In("g\\d")); });
+    this->ExpectFileNotFound([&] { files.Copy(this->In("b"), this->In("d")); });
+    this->ExpectFileNotFound([&] { files.Move(this->In("b"), this->In("d")); });
+    this->ExpectPathNotFound([&] { files.Copy(this->In("a"), this->In("g\\d")); });
     EXPECT_EQ(this->Found("d"), "");
-    files.DeleteFile(this->In("a"));
+    files.Delete(this->In("a"));
     EXPECT_EQ(this->Found("a"), "");
-    this->ExpectFileNotFound([&] { files.DeleteFile(this->In("a")); });
+    this->ExpectFileNotFound([&] { files.Delete(this->In("a")); });
 }
 
 TYPED_TEST_P(FileSystemContract, CreatesAFolderWhereNothingStands) {
