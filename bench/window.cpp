@@ -75,7 +75,7 @@ int main(int argc, char** argv) {
     QtToolkit toolkit(pages, {});
     DesktopPlatform desktop(DesktopUse::kBatch, FindUserFolders(EnvironmentVariable), toolkit,
                             resources);
-    desktop.FrontPage().Open(std::filesystem::absolute(argv[1]).string());
+    desktop.OpenForReading(std::filesystem::absolute(argv[1]).string());
     Component component;
     component.application = &desktop.FrontPage();
     frmThemeMorpho window({desktop.Parts(), component});

@@ -15,16 +15,10 @@ namespace morpho {
 
 namespace {
 
-constexpr std::string_view kMarker = "<==MS-Theme==>";
-
-[[noreturn]] void Refuse(const std::string& reason) {
-    throw RunTimeError(ErrorNumber::kInvalidFileFormat, "The theme package " + reason);
-}
-
 // Takes the next line away from the text.
 std::string_view TakeLine(std::string_view& rest) {
     const auto end = rest.find('\n');
-    if (end == std::string_view::npos) Refuse("ends within its index");
+    if (end == std::string_view::npos) RefusePackage("ends within its index");
     const std::string_view line = rest.substr(0, end);
     rest.remove_prefix(end + 1);
     return line;
@@ -44,8 +38,9 @@ void AddMember(const CodePage& codePage, std::string_view line, std::set<std::st
                PackageIndex& index) {
     const auto comma = line.rfind(',');
     const std::string name = codePage.ToText(line.substr(0, comma));
-    if (!IsPlainFileName(name)) Refuse("names a member that is no plain file: \"" + name + "\"");
-    if (!known.insert(Lowered(name)).second) Refuse("names \"" + name + "\" twice");
+    if (!IsPlainFileName(name))
+        RefusePackage("names a member that is no plain file: \"" + name + "\"");
+    if (!known.insert(Lowered(name)).second) RefusePackage("names \"" + name + "\" twice");
     index.names.push_back(name);
     index.lengths.push_back(comma == std::string_view::npos ? std::string_view()
                                                             : line.substr(comma + 1));
@@ -54,9 +49,10 @@ void AddMember(const CodePage& codePage, std::string_view line, std::set<std::st
 std::string_view TakeMember(std::string_view& rest, const std::string& name,
                             std::string_view lengthText) {
     const auto length = NumberIn<std::uint64_t>(lengthText);
-    if (!rest.starts_with(kMarker)) Refuse("has no mark before \"" + name + "\"");
-    rest.remove_prefix(kMarker.size());
-    if (!length || *length > rest.size()) Refuse("gives a wrong length for \"" + name + "\"");
+    if (!rest.starts_with(kPackageMarker)) RefusePackage("has no mark before \"" + name + "\"");
+    rest.remove_prefix(kPackageMarker.size());
+    if (!length || *length > rest.size())
+        RefusePackage("gives a wrong length for \"" + name + "\"");
     const std::string_view member = rest.substr(0, static_cast<std::size_t>(*length));
     rest.remove_prefix(member.size());
     return member;
@@ -64,20 +60,30 @@ std::string_view TakeMember(std::string_view& rest, const std::string& name,
 
 }  // namespace
 
+void RefusePackage(const std::string& reason) {
+    throw RunTimeError(ErrorNumber::kInvalidFileFormat, "The theme package " + reason + ".");
+}
+
 PackageIndex ReadPackageIndex(const CodePage& codePage, std::string_view bytes) {
     PackageIndex index;
     index.header = TakeLine(bytes);
     index.countLine = TakeLine(bytes);
     const auto count = NumberIn<std::int16_t>(index.countLine);
-    if (!count || *count < 0) Refuse("does not say how many members it has");
+    if (!count || *count < 0) RefusePackage("does not say how many members it has");
     std::set<std::string> known;
     for (int i = 0; i < *count; ++i)
         AddMember(codePage, TakeLine(bytes), known, index);
     // A count below the truth would silently drop members.
-    if (*count == 0 ? !bytes.empty() : !bytes.starts_with(kMarker))
-        Refuse("has another number of members than it says");
+    if (*count == 0 ? !bytes.empty() : !bytes.starts_with(kPackageMarker))
+        RefusePackage("has another number of members than it says");
     index.contents = bytes;
     return index;
+}
+
+std::uint64_t MemberLength(const PackageIndex& index, std::size_t member) {
+    const auto length = NumberIn<std::uint64_t>(index.lengths[member]);
+    if (!length) RefusePackage("gives a wrong length for \"" + index.names[member] + "\"");
+    return *length;
 }
 
 ThemePackage ReadThemePackage(const CodePage& codePage, std::string_view bytes) {
@@ -88,7 +94,7 @@ ThemePackage ReadThemePackage(const CodePage& codePage, std::string_view bytes) 
         const std::string_view member = TakeMember(rest, index.names[i], index.lengths[i]);
         package.members.push_back({index.names[i], std::string(member)});
     }
-    if (!rest.empty()) Refuse("goes on behind its last member");
+    if (!rest.empty()) RefusePackage("goes on behind its last member");
     return package;
 }
 
@@ -97,7 +103,7 @@ std::string FormatThemePackage(const CodePage& codePage, const ThemePackage& pac
     for (const ThemePackage::Member& member : package.members)
         bytes += codePage.ToBytes(member.name) + ',' + std::to_string(member.bytes.size()) + '\n';
     for (const ThemePackage::Member& member : package.members)
-        bytes.append(kMarker).append(member.bytes);
+        bytes.append(kPackageMarker).append(member.bytes);
     return bytes;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,8 +40,16 @@ struct PackageIndex {
     std::string_view contents;              // what follows the index
 };
 
+// What stands before the bytes of each member.
+inline constexpr std::string_view kPackageMarker = "<==MS-Theme==>";
+
 // The index of the package in `bytes`, which must outlive it. Throws like ReadThemePackage, but
 // does not look at lengths and contents beyond the first marker.
 PackageIndex ReadPackageIndex(const CodePage& codePage, std::string_view bytes);
+// The length in bytes that the index gives the member; throws like ReadThemePackage.
+std::uint64_t MemberLength(const PackageIndex& index, std::size_t member);
+
+// Throws the error for a package that cannot be trusted: "The theme package <reason>".
+[[noreturn]] void RefusePackage(const std::string& reason);
 
 }  // namespace morpho

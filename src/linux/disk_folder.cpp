@@ -2,7 +2,10 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <linux/openat2.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -29,6 +32,17 @@ DiskKind KindOf(int folder, const dirent& entry) {
     struct stat status = {};
     if (::fstatat(folder, entry.d_name, &status, AT_SYMLINK_NOFOLLOW) != 0) return DiskKind::kOther;
     return KindOfMode(status.st_mode);
+}
+
+// Opens an entry of the folder, which no link and no mount leads away from. Kernels before 5.6, and
+// some sandboxes, have no openat2; then O_NOFOLLOW, which the flags hold, does it for the one step.
+int OpenBeneath(int folder, const std::string& name, int flags) {
+    struct open_how how = {};
+    how.flags = static_cast<std::uint64_t>(flags);
+    how.resolve = RESOLVE_BENEATH | RESOLVE_NO_SYMLINKS;
+    const long number = ::syscall(SYS_openat2, folder, name.c_str(), &how, sizeof how);
+    if (number >= 0 || (errno != ENOSYS && errno != EPERM)) return static_cast<int>(number);
+    return ::openat(folder, name.c_str(), flags);
 }
 
 }  // namespace
@@ -83,15 +97,21 @@ std::optional<DiskEntry> DiskFolder::Find(const std::string& name) const {
 
 DiskFolder DiskFolder::Subfolder(const std::string& name) const {
     const int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-    Descriptor folder(::openat(Number(), name.c_str(), flags));
+    Descriptor folder(OpenBeneath(Number(), name, flags));
     if (!folder.IsOpen()) throw FileError(errno, PathOf(name), "could not be opened");
     return DiskFolder(PathOf(name), std::move(folder));
+}
+
+DiskFolder DiskFolder::Again() const {
+    Descriptor folder(::fcntl(Number(), F_DUPFD_CLOEXEC, 0));
+    if (!folder.IsOpen()) throw FileError(errno, path_, "could not be opened");
+    return DiskFolder(path_, std::move(folder));
 }
 
 Descriptor DiskFolder::OpenFile(const std::string& name) const {
     // Without O_NONBLOCK, opening a pipe would wait for a writer.
     const int flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
-    Descriptor file(::openat(Number(), name.c_str(), flags));
+    Descriptor file(OpenBeneath(Number(), name, flags));
     if (!file.IsOpen()) throw FileError(errno, PathOf(name), "could not be opened");
     struct stat status = {};
     if (::fstat(file.Number(), &status) != 0 || !S_ISREG(status.st_mode))

@@ -23,6 +23,7 @@ class DiskFolder {
     static DiskFolder Open(const std::string& diskPath, bool followLastLink);
 
     const std::string& Path() const { return path_; }
+    const Descriptor& Handle() const { return folder_; }
     int Number() const { return folder_.Number(); }
 
     // Without "." and "..", in byte order of the names.
@@ -31,6 +32,8 @@ class DiskFolder {
     // Nothing when there is none.
     std::optional<DiskEntry> Find(const std::string& name) const;
     DiskFolder Subfolder(const std::string& name) const;
+    // The same folder with a descriptor of its own.
+    DiskFolder Again() const;
     // A regular file of this folder, for reading; anything else is refused.
     Descriptor OpenFile(const std::string& name) const;
     std::string PathOf(const std::string& name) const;

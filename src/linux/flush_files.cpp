@@ -3,10 +3,7 @@
 #include <fcntl.h>
 
 #include <cerrno>
-#include <set>
 
-#include "linux/descriptor.h"
-#include "linux/disk_path.h"
 #include "linux/file_error.h"
 #include "linux/parallel.h"
 
@@ -14,26 +11,21 @@ namespace morpho {
 
 namespace {
 
-void Flush(const std::string& diskPath) {
-    const Descriptor file(::open(diskPath.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    if (!file.IsOpen() && errno == ENOENT) return;
-    // Some file systems have no flush for folders, and say EINVAL.
+// Some file systems have no flush for folders, and say EINVAL.
+void Flush(const Descriptor& file, const std::string& path) {
     if (!file.IsOpen() || (::fsync(file.Number()) != 0 && errno != EINVAL))
-        throw FileError(errno, diskPath, "could not be written");
-}
-
-void FlushAll(const std::vector<std::string>& paths) {
-    DoAtOnce(paths.size(), [&](std::size_t i) { Flush(paths[i]); });
+        throw FileError(errno, path, "could not be written");
 }
 
 }  // namespace
 
-void FlushFiles(const std::vector<std::string>& diskPaths) {
-    FlushAll(diskPaths);
-    std::set<std::string> folders;
-    for (const std::string& path : diskPaths)
-        folders.insert(ParentFolder(path));
-    FlushAll({folders.begin(), folders.end()});
+void FlushFiles(const DiskFolder& folder, const std::vector<std::string>& names) {
+    InParallel(names.size(), [&](std::size_t i) {
+        const int flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+        const Descriptor file(::openat(folder.Number(), names[i].c_str(), flags));
+        if (file.IsOpen() || errno != ENOENT) Flush(file, folder.PathOf(names[i]));
+    });
+    Flush(folder.Handle(), folder.Path());
 }
 
 }  // namespace morpho

@@ -3,10 +3,13 @@
 #include <string>
 #include <vector>
 
+#include "linux/disk_folder.h"
+
 namespace morpho {
 
-// Flushes files that were written without, and the folders they stand in; paths of the disk. One
-// that is gone meanwhile is passed over. Throws RunTimeError naming a file that cannot be flushed.
-void FlushFiles(const std::vector<std::string>& diskPaths);
+// Flushes files of an open folder that were written without, and the folder's entries; names are
+// bytes, as on the disk. A file that is gone meanwhile is passed over. Throws RunTimeError naming
+// what cannot be flushed.
+void FlushFiles(const DiskFolder& folder, const std::vector<std::string>& names);
 
 }  // namespace morpho

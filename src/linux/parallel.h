@@ -8,6 +8,6 @@ namespace morpho {
 // Calls `work` with 0 to count - 1, several at a time and in no order: for work that mostly waits
 // for the disk. What a call throws is thrown on, the first of them, when all that had begun are
 // done.
-void DoAtOnce(std::size_t count, const std::function<void(std::size_t)>& work);
+void InParallel(std::size_t count, const std::function<void(std::size_t)>& work);
 
 }  // namespace morpho

@@ -4,11 +4,10 @@
 #include <signal.h>
 #include <sys/stat.h>
 
-#include <atomic>
 #include <cerrno>
-#include <charconv>
 #include <cstdio>
 #include <fstream>
+#include <limits>
 #include <memory>
 
 #include "linux/disk_path.h"
@@ -32,16 +31,6 @@ std::size_t ReadSome(const Descriptor& file, char* into, std::size_t size,
     }
 }
 
-constexpr std::string_view kBesideStart = ".morpho-";
-constexpr std::string_view kBesideEnd = ".tmp";
-
-// A short name, so that it fits beside a file whose own name is as long as can be.
-std::string NameBeside() {
-    static std::atomic<unsigned> serial = 0;
-    return std::string(kBesideStart) + std::to_string(::getpid()) + '-' + std::to_string(++serial) +
-           std::string(kBesideEnd);
-}
-
 bool IsRunning(pid_t program) {
     if (::kill(program, 0) != 0 && errno == ESRCH) return false;
     // One that has died is listed, as a zombie, until its parent has taken notice.
@@ -62,17 +51,10 @@ bool WriteAll(int number, std::string_view bytes) {
     return true;
 }
 
-bool IsBesideName(std::string_view name) {
-    return name.size() > kBesideStart.size() + kBesideEnd.size() &&
-           name.starts_with(kBesideStart) && name.ends_with(kBesideEnd);
-}
-
-bool IsAbandonedBesideName(std::string_view name) {
-    if (!IsBesideName(name)) return false;
-    name.remove_prefix(kBesideStart.size());
-    pid_t program = 0;
-    const auto [stop, error] = std::from_chars(name.data(), name.data() + name.size(), program);
-    return error == std::errc() && *stop == '-' && program > 0 && !IsRunning(program);
+bool IsAbandonedTemporaryName(std::string_view name) {
+    const auto program = ProgramOfTemporaryName(name);
+    return program && *program > 0 && *program <= std::numeric_limits<pid_t>::max() &&
+           !IsRunning(static_cast<pid_t>(*program));
 }
 
 std::string ReadWhole(const Descriptor& file, const std::string& diskPath) {
@@ -109,32 +91,52 @@ bool HoldsSameBytes(const std::string& diskPath, const Descriptor& source,
 }
 
 WholeFile::WholeFile(std::string diskPath, Durability durability)
-    : path_(std::move(diskPath)), durability_(durability) {
-    OpenBeside();
+    : path_(std::move(diskPath)), name_(LastName(path_)), model_(name_), durability_(durability) {
+    // Without read permission on the folder its files can still be replaced.
+    folder_ = Descriptor(::open(ParentFolder(path_).c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    if (!folder_.IsOpen()) throw FileError(errno, path_, kCannotWrite);
+    Open();
+}
+
+WholeFile::WholeFile(const Descriptor& folder, const std::string& folderPath, std::string name,
+                     Durability durability, std::string model)
+    : path_(JoinDiskPath(folderPath, name)),
+      name_(std::move(name)),
+      model_(model.empty() ? name_ : std::move(model)),
+      durability_(durability) {
+    folder_ = Descriptor(::fcntl(folder.Number(), F_DUPFD_CLOEXEC, 0));
+    if (!folder_.IsOpen()) throw FileError(errno, path_, kCannotWrite);
+    Open();
+}
+
+WholeFile::~WholeFile() {
+    if (!temporaryName_.empty()) ::unlinkat(folder_.Number(), temporaryName_.c_str(), 0);
+}
+
+void WholeFile::Open() {
+    OpenTemporary();
     try {
         KeepOwnerAndMode();
     } catch (...) {
-        ::unlink(besidePath_.c_str());
+        ::unlinkat(folder_.Number(), temporaryName_.c_str(), 0);
         throw;
     }
 }
 
-WholeFile::~WholeFile() {
-    if (!besidePath_.empty()) ::unlink(besidePath_.c_str());
-}
-
-void WholeFile::OpenBeside() {
+void WholeFile::OpenTemporary() {
+    const int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
     do {
-        besidePath_ = JoinDiskPath(ParentFolder(path_), NameBeside());
-        file_ =
-            Descriptor(::open(besidePath_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+        temporaryName_ = NewTemporaryName(static_cast<std::uint64_t>(::getpid()));
+        file_ = Descriptor(::openat(folder_.Number(), temporaryName_.c_str(), flags, 0666));
     } while (!file_.IsOpen() && errno == EEXIST);
-    if (!file_.IsOpen()) throw FileError(errno, path_, kCannotWrite);
+    if (file_.IsOpen()) return;
+    temporaryName_.clear();
+    throw FileError(errno, path_, kCannotWrite);
 }
 
 void WholeFile::KeepOwnerAndMode() {
     struct stat status = {};
-    if (::lstat(path_.c_str(), &status) != 0) return;
+    if (::fstatat(folder_.Number(), model_.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) return;
     if (S_ISDIR(status.st_mode)) throw FileError(EISDIR, path_, kCannotWrite);
     if (!S_ISREG(status.st_mode)) return;
     if ((status.st_mode & S_IWUSR) == 0)
@@ -160,9 +162,9 @@ void WholeFile::Commit() {
     if (durability_ == Durability::kFlushed && ::fsync(file_.Number()) != 0)
         throw FileError(errno, path_, kCannotWrite);
     if (!file_.Close()) throw FileError(errno, path_, kCannotWrite);
-    if (::rename(besidePath_.c_str(), path_.c_str()) != 0)
+    if (::renameat(folder_.Number(), temporaryName_.c_str(), folder_.Number(), name_.c_str()) != 0)
         throw FileError(errno, path_, kCannotWrite);
-    besidePath_.clear();
+    temporaryName_.clear();
 }
 
 }  // namespace morpho

@@ -4,42 +4,46 @@
 #include <string_view>
 
 #include "linux/descriptor.h"
+#include "web_host/disk.h"
 
 namespace morpho {
 
-// Whether what is written must outlive a power failure.
-enum class Durability { kFlushed, kUnflushed };
-
-// Replaces a file of the disk as a whole, or creates it: the new contents are written beside it and
-// take its place with Commit. Without Commit the file stays as it was. An existing file's mode is
-// kept, and its owner and group as far as the user may give them; a link is replaced, not followed.
-// Failures throw RunTimeError naming the file.
-class WholeFile {
+// Replaces a file of the disk as a whole, or creates it: the new contents are written to a
+// temporary file in the same folder, which takes the file's name with Commit. Without Commit the
+// file stays as it was. An existing file's mode is kept, and its owner and group as far as the user
+// may give them; a link is replaced, not followed. Failures throw RunTimeError naming the file.
+class WholeFile : public NewFile {
   public:
     WholeFile(std::string diskPath, Durability durability);
-    ~WholeFile();
+    // The same in a folder that is open; names are bytes, as on the disk. Mode and owner are those
+    // of `model`, another file of the folder, where one is given.
+    WholeFile(const Descriptor& folder, const std::string& folderPath, std::string name,
+              Durability durability, std::string model = {});
+    ~WholeFile() override;
     WholeFile(const WholeFile&) = delete;
     WholeFile& operator=(const WholeFile&) = delete;
 
-    void Write(std::string_view bytes);
+    void Write(std::string_view bytes) override;
     // Writes all that is left to read there; `source` is its path, for the error.
     void CopyFrom(const Descriptor& file, const std::string& source);
-    void Commit();
+    void Commit() override;
 
   private:
+    void Open();
+    void OpenTemporary();
     void KeepOwnerAndMode();
-    void OpenBeside();
 
-    std::string path_;
-    std::string besidePath_;
+    std::string path_;  // for messages
+    std::string name_;
+    std::string model_;          // whose mode and owner the file gets
+    std::string temporaryName_;  // empty once there is no such file
     Durability durability_;
+    Descriptor folder_;
     Descriptor file_;
 };
 
-// Whether a file of this name is what a WholeFile is writing, or what one left whose program died.
-bool IsBesideName(std::string_view name);
-// The latter only.
-bool IsAbandonedBesideName(std::string_view name);
+// Whether a file of this name was left by a program that died while it wrote.
+bool IsAbandonedTemporaryName(std::string_view name);
 
 // Whether a regular file, not a link to one, stands at this path and holds what there is to read in
 // the open `source`, which is at its beginning and is so again. `sourcePath` is for the error.

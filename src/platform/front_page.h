@@ -115,6 +115,18 @@ class Web {
     virtual void RecalcHyperlinks() = 0;
 };
 
+// A save of a theme as one change of the web and of the user's own themes: what is done to them
+// from its beginning on holds with Commit, or not at all. Refresh and RecalcHyperlinks wait for
+// Commit.
+class SaveTransaction {
+  public:
+    // Rolls everything back unless it was committed.
+    virtual ~SaveTransaction() = default;
+    // Throws RunTimeError when the changes cannot be made; they are rolled back then. What happens
+    // to single pages after that is no failure of the save.
+    virtual void Commit() = 0;
+};
+
 // Numbers of LanguageSettings::LanguageId.
 enum class LanguageUse {
     kInstall = 1,
@@ -139,6 +151,12 @@ class Application {
     // The open web; null when there is none.
     virtual std::unique_ptr<Web> ActiveWeb() = 0;
     virtual std::unique_ptr<LanguageSettings> Languages() const = 0;
+    // Begins to save a theme of this folder name in the open web. Throws RunTimeError while another
+    // program saves there. Null where the host has no transactions (the real one has none), or no
+    // web is open.
+    virtual std::unique_ptr<SaveTransaction> BeginSave(std::string_view /*themeName*/) {
+        return nullptr;
+    }
 };
 
 }  // namespace morpho

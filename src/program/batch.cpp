@@ -23,7 +23,7 @@ std::optional<std::string> OnlyTheme(const std::string& name) {
 
 Batch::Batch(const std::filesystem::path& web, const std::string& onlyTheme)
     : desktop_(DesktopUse::kBatch, FindUserFolders(EnvironmentVariable), toolkit_, resources_) {
-    desktop_.FrontPage().Open(Absolute(web), OnlyTheme(onlyTheme));
+    desktop_.OpenForReading(Absolute(web), OnlyTheme(onlyTheme));
     component_.application = &desktop_.FrontPage();
 }
 
@@ -35,9 +35,9 @@ Batch::Batch(const std::filesystem::path& web, const std::string& onlyTheme,
 }
 
 std::string Batch::Warnings() {
-    const OpenedWeb& web = *desktop_.FrontPage().Opened();
+    const WebSession& web = *desktop_.FrontPage().Session();
     std::string warnings;
-    for (const auto& sentences : {web.putRight, web.skipped}) {
+    for (const auto& sentences : {web.Repairs(), web.Skipped()}) {
         for (const std::string& sentence : sentences)
             warnings += sentence + "\n";
     }

@@ -10,7 +10,7 @@
 #include "program/desktop_platform.h"
 #include "resources/embedded_resources.h"
 #include "shared/component.h"
-#include "web_host/theme_unpacking.h"
+#include "web_host/web_save_transaction.h"
 
 namespace morpho {
 
@@ -25,24 +25,26 @@ class Batch {
           const UserFolders& folders);
 
     // All themes of the web, and the one that the web as a whole uses (empty: none).
-    const std::vector<Theme>& Themes() { return desktop_.FrontPage().Opened()->themes; }
-    // What was put right in them, and what could not be taken from them, a sentence a line.
+    const std::vector<Theme>& Themes() { return desktop_.FrontPage().Session()->Themes(); }
+    // What was repaired in them, and what could not be taken from them, a sentence a line.
     std::string Warnings();
     std::string ThemeOfWeb() {
         return desktop_.FrontPage().ActiveWeb()->ThemeProperties(kThemeNameProperty);
     }
-    // Whether that takes a theme of this name away that the web has, and the user has differently.
+    // Whether that would overwrite the web's different theme of this name.
     bool ApplyingReplacesTheme(const std::string& name) {
         return ReplacesThemeOfWeb(*desktop_.FrontPage().Session(), name);
     }
     // Gives the web a theme that it has, or one of the user's own. Throws RunTimeError.
     void ApplyTheme(const std::string& name) { desktop_.FrontPage().ActiveWeb()->ApplyTheme(name); }
-    // The theme that a stopped program was giving the web, which opening it has completed; or none.
-    const std::string& CompletedTheme() { return desktop_.FrontPage().Session()->completedTheme; }
+    // The theme whose interrupted save was completed when the web was opened; empty for none.
+    const std::string& CompletedTheme() { return desktop_.FrontPage().Session()->CompletedTheme(); }
     // Whether a page takes the theme that was last applied.
-    bool IsThemeShown() { return desktop_.FrontPage().Session()->isShown; }
+    bool IsThemeShown() { return desktop_.FrontPage().Session()->IsThemeShown(); }
     // What the host could not do with single pages or files, one sentence each.
-    std::vector<std::string> Reports() { return desktop_.FrontPage().Reports(); }
+    const std::vector<std::string>& Reports() {
+        return desktop_.FrontPage().Session()->Reports().Sentences();
+    }
     // The window with the theme of this name (without regard to case). Throws CommandError.
     BatchWindow& OpenTheme(const std::string& name);
 

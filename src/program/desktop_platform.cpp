@@ -4,8 +4,10 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "linux/abandoned_files.h"
 #include "linux/disk_path.h"
 #include "linux/registry_file.h"
+#include "text/digest.h"
 #include "web_host/machine_description.h"
 
 namespace morpho {
@@ -36,11 +38,11 @@ RegistryData BatchSettings() {
 
 MachineFolders FoldersOfMachine(const UserFolders& folders, const PrivateFolder& workFolder) {
     MachineFolders machine;
-    machine.cache = workFolder.Cache();
-    machine.appData = JoinDiskPath(folders.data, "AppData");
-    machine.desktop = DesktopFolder(folders);
-    machine.commonFiles = JoinDiskPath(folders.data, "CommonFiles");
-    machine.program = ProgramFolder();
+    machine.cache = ToWindowsPath(workFolder.Cache());
+    machine.appData = ToWindowsPath(JoinDiskPath(folders.data, "AppData"));
+    machine.desktop = ToWindowsPath(DesktopFolder(folders));
+    machine.commonFiles = ToWindowsPath(JoinDiskPath(folders.data, "CommonFiles"));
+    machine.program = ToWindowsPath(ProgramFolder());
     return machine;
 }
 
@@ -49,11 +51,8 @@ MachineFolders FoldersOfMachine(const UserFolders& folders, const PrivateFolder&
 std::string NameOfWeb(const std::string& webFolder) {
     std::error_code error;
     const std::string path = std::filesystem::canonical(webFolder, error).string();
-    std::uint64_t hash = 14695981039346656037U;
-    for (const char c : error ? webFolder : path)
-        hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;
     char digits[24];
-    std::snprintf(digits, sizeof digits, "-%016" PRIx64, hash);
+    std::snprintf(digits, sizeof digits, "-%016" PRIx64, Fnv1a(error ? webFolder : path));
     return std::string(LastName(path)).substr(0, 100) + digits;
 }
 
@@ -63,7 +62,7 @@ std::unique_ptr<MemoryRegistry> MakeRegistry(DesktopUse use, const UserFolders& 
         return std::make_unique<MemoryRegistry>(DescribeMachine(machine), BatchSettings());
     // Where it cannot be made, there are no logs; the editors run without.
     std::error_code ignored;
-    std::filesystem::create_directories(machine.appData, ignored);
+    std::filesystem::create_directories(JoinDiskPath(folders.data, "AppData"), ignored);
     return std::make_unique<RegistryFile>(JoinDiskPath(folders.data, "registry.reg"),
                                           DescribeMachine(machine));
 }
@@ -87,21 +86,32 @@ DesktopPlatform::DesktopPlatform(DesktopUse use, const UserFolders& folders, Too
       shell_(HelpPages(), StartDetached),
       environment_({"Morpho", kVersionMajor, kVersionMinor, kVersionRevision, ""},
                    workFolder_.Temporary()),
-      frontPage_(workFolder_.Cache()),
+      frontPage_(disk_, files_, ToWindowsPath(workFolder_.Cache())),
       platform_{*registry_,   files_,    profileFiles_, codePage_, shell_,     clock_,
                 environment_, resources, colorizers_,   toolkit,   automation_} {}
+
+void DesktopPlatform::OpenForReading(const std::string& folder,
+                                     const std::optional<std::string>& onlyTheme) {
+    const std::string data = JoinDiskPath(folders_.data, "webs/" + NameOfWeb(folder));
+    ThemeStores stores;
+    stores.saves = ToWindowsPath(JoinDiskPath(data, "save"));
+    frontPage_.Open(ToWindowsPath(folder), onlyTheme, stores);
+}
 
 void DesktopPlatform::OpenForSaving(const std::string& folder,
                                     const std::optional<std::string>& onlyTheme) {
     MachineFolders machine = FoldersOfMachine(folders_, workFolder_);
-    machine.commonFiles = JoinDiskPath(folders_.data, "webs/" + NameOfWeb(folder));
-    const std::string microsoft = JoinDiskPath(machine.appData, "Microsoft");
+    const std::string data = JoinDiskPath(folders_.data, "webs/" + NameOfWeb(folder));
+    machine.commonFiles = ToWindowsPath(data);
+    const std::string microsoft = JoinDiskPath(folders_.data, "AppData/Microsoft");
+    RemoveAbandonedFiles(folders_.data);
     // Where it cannot be made, saving a theme fails and says so.
     std::error_code ignored;
     std::filesystem::create_directories(microsoft, ignored);
-    frontPage_.Open(folder, onlyTheme,
-                    {JoinDiskPath(microsoft, "Themes"),
-                     JoinDiskPath(machine.commonFiles, "Microsoft Shared/Themes11")});
+    frontPage_.Open(ToWindowsPath(folder), onlyTheme,
+                    {ToWindowsPath(JoinDiskPath(microsoft, "Themes")),
+                     ToWindowsPath(JoinDiskPath(data, "Microsoft Shared/Themes11")),
+                     ToWindowsPath(JoinDiskPath(data, "save"))});
     registry_->DescribeMachine(DescribeMachine(machine));
 }
 

@@ -6,6 +6,7 @@
 #include "linux/desktop_environment.h"
 #include "linux/desktop_shell.h"
 #include "linux/disk_file_system.h"
+#include "linux/linux_disk.h"
 #include "linux/private_folder.h"
 #include "linux/system_clock.h"
 #include "linux/user_folders.h"
@@ -33,10 +34,12 @@ class DesktopPlatform {
                     const Resources& resources);
 
     Platform& Parts() { return platform_; }
-    // Opens a web (see DiskApplication::Open) whose themes can be saved: its themes are installed
-    // for all users, in a folder of the program's data that belongs to this web, and the user has
-    // a folder for own themes. What cannot be installed is among the web's skipped; the web is open
-    // nevertheless.
+    // Opens a web to look at; `folder` is a path of the disk. See DiskApplication::Open.
+    void OpenForReading(const std::string& folder,
+                        const std::optional<std::string>& onlyTheme = {});
+    // Opens a web whose themes can be saved: its themes are installed for all users, in a folder of
+    // the program's data that belongs to this web, and the user has a folder for own themes. What
+    // cannot be installed is among the web's skipped; the web is open nevertheless.
     void OpenForSaving(const std::string& folder, const std::optional<std::string>& onlyTheme = {});
     // The host; it has no web open yet.
     DiskApplication& FrontPage() { return frontPage_; }
@@ -54,6 +57,7 @@ class DesktopPlatform {
     SystemClock clock_;
     DesktopEnvironment environment_;
     ColorizerAdapterFactory colorizers_;
+    LinuxDisk disk_;
     DiskApplication frontPage_;
     DiskAutomation automation_{frontPage_};
     Platform platform_;

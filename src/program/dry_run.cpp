@@ -7,9 +7,8 @@
 
 #include "linux/disk_folder.h"
 #include "linux/file_error.h"
-#include "linux/whole_file.h"
 #include "text/ignoring_case.h"
-#include "web_host/theme_of_web.h"
+#include "web_host/page_walk.h"
 
 namespace morpho {
 
@@ -43,7 +42,7 @@ bool IsForSave(const fs::path& name) {
     const std::string top = name.begin()->string();
     const std::string file = name.filename().string();
     return EqualIgnoringCase(top, "_themes") || EqualIgnoringCase(top, "_vti_pvt") ||
-           IsPageName(file) || IsBesideName(file);
+           IsPageName(file) || IsTemporaryName(file);
 }
 
 // Folders, each before its contents, and regular files: all that may be read. They are listed

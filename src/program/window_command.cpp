@@ -32,10 +32,10 @@ void KeepQtQuiet() {
     });
 }
 
-void RequireTheme(const OpenedWeb& web, const std::string& name) {
-    const bool known = std::any_of(web.themes.begin(), web.themes.end(), [&](const Theme& theme) {
-        return EqualIgnoringCase(theme.name, name);
-    });
+void RequireTheme(const WebSession& web, const std::string& name) {
+    const bool known =
+        std::any_of(web.Themes().begin(), web.Themes().end(),
+                    [&](const Theme& theme) { return EqualIgnoringCase(theme.name, name); });
     if (!known)
         throw CommandError(CommandError::Status::kRefused,
                            "This web has no theme named \"" + name + "\".");
@@ -77,11 +77,11 @@ void ShowThemeWindow(const ThemeRequest& request) {
     DesktopPlatform desktop(DesktopUse::kWindows, FindUserFolders(EnvironmentVariable), toolkit,
                             resources);
     desktop.OpenForSaving(std::filesystem::absolute(request.web).lexically_normal().string());
-    if (!request.theme.empty()) RequireTheme(*desktop.FrontPage().Opened(), request.theme);
+    if (!request.theme.empty()) RequireTheme(*desktop.FrontPage().Session(), request.theme);
     Component component;
     component.application = &desktop.FrontPage();
     const Program program{desktop.Parts(), component};
-    TellReports(toolkit, desktop.FrontPage().Opened()->putRight);
+    TellReports(toolkit, desktop.FrontPage().Session()->Repairs());
     desktop.FrontPage().SetReporter(
         [&](const std::vector<std::string>& reports) { TellReports(toolkit, reports); });
     desktop.FrontPage().SetLog([&](std::string_view line) { WriteLog(program, line); });

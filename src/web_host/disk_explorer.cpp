@@ -2,10 +2,11 @@
 
 #include <array>
 
-#include "linux/disk_path.h"
 #include "platform/run_time_error.h"
 #include "text/ignoring_case.h"
 #include "web_host/disk_web_folder.h"
+#include "web_host/limits.h"
+#include "web_host/refusal.h"
 
 namespace morpho {
 
@@ -16,13 +17,9 @@ using Arguments = std::span<const AutomationValue>;
 constexpr std::int32_t kTrue = 1;
 constexpr std::int32_t kFalse = 0;
 
-[[noreturn]] void Refuse(const std::string& sentence) {
-    throw RunTimeError(ErrorNumber::kAutomation, sentence);
-}
-
 const std::string& TextAt(Arguments arguments, std::size_t index) {
     const auto* text = std::get_if<std::string>(&arguments[index]);
-    if (!text) Refuse("A text is expected as argument.");
+    if (!text) RefuseCall("A text is expected as argument.");
     return *text;
 }
 
@@ -35,10 +32,10 @@ class Explorer : public AutomationObject {
         for (const Method& known : kMethods) {
             if (!EqualIgnoringCase(method, known.name)) continue;
             if (arguments.size() != known.argumentCount)
-                Refuse("\"" + std::string(method) + "\" takes another number of arguments.");
+                RefuseCall("\"" + std::string(method) + "\" takes another number of arguments.");
             return (this->*known.run)(arguments);
         }
-        Refuse("The explorer has no method \"" + std::string(method) + "\".");
+        RefuseCall("The explorer has no method \"" + std::string(method) + "\".");
     }
 
   private:
@@ -50,7 +47,7 @@ class Explorer : public AutomationObject {
     static const std::array<Method, 5> kMethods;
 
     const std::shared_ptr<WebSession>& Web() const {
-        if (!host_.Session()) Refuse("No web is open.");
+        if (!host_.Session()) RefuseCall("No web is open.");
         return host_.Session();
     }
 
@@ -61,12 +58,11 @@ class Explorer : public AutomationObject {
 
     // Also the folders above it.
     AutomationValue CreateFolder(Arguments arguments) {
-        const auto names = NamesInWeb(*Web(), TextAt(arguments, 0));
-        if (!names || names->empty()) Refuse("That is no address of a folder in the web.");
+        const auto path = Web()->Files().PathOfUrl(TextAt(arguments, 0));
+        if (!path || path->empty()) RefuseCall("That is no address of a folder in the web.");
         bool created = false;
-        std::unique_ptr<WebFolder> folder = LocateWebFolder(Web(), "");
-        for (const std::string& diskName : *names) {
-            const std::string name = NameFromDisk(diskName);
+        std::unique_ptr<WebFolder> folder = LocateWebFolder(Web(), host_.Files(), "");
+        for (const std::string& name : *path) {
             auto inner = folder->FindFolder(name);
             created = !inner;
             folder = inner ? std::move(inner) : folder->AddFolder(name);
@@ -75,20 +71,20 @@ class Explorer : public AutomationObject {
     }
 
     AutomationValue GetDocToFile(Arguments arguments) {
-        auto names = NamesInWeb(*Web(), TextAt(arguments, 0));
-        const auto target = FindOnDisk(TextAt(arguments, 1));
-        if (!names || names->empty() || !target) return kFalse;
-        const std::string name = names->back();
-        names->pop_back();
-        const auto folder = FindFolderInWeb(*Web(), *names);
+        auto path = Web()->Files().PathOfUrl(TextAt(arguments, 0));
+        if (!path || path->empty()) return kFalse;
+        const std::string name = path->back();
+        path->pop_back();
+        const auto folder = Web()->Files().FindFolder(*path);
         const auto entry = folder ? folder->Find(name) : std::nullopt;
-        if (!entry || entry->kind != DiskKind::kFile) return kFalse;
-        Web()->writer->ReplaceFile(*target, ReadWebFile(*folder, entry->name));
+        if (!entry || entry->kind != EntryKind::kFile) return kFalse;
+        host_.Files().WriteFile(TextAt(arguments, 1),
+                                ReadWholeFile(*folder, entry->name, kMaxFileBytes));
         return kTrue;
     }
 
     AutomationValue IsFolderInWeb(Arguments arguments) {
-        return LocateWebFolder(Web(), TextAt(arguments, 0)) ? kTrue : kFalse;
+        return LocateWebFolder(Web(), host_.Files(), TextAt(arguments, 0)) ? kTrue : kFalse;
     }
 
     // The theme's name and the web's address; the two flags make no difference here, for this host
@@ -96,8 +92,8 @@ class Explorer : public AutomationObject {
     AutomationValue MakeFresh(Arguments arguments) {
         std::string url = TextAt(arguments, 1);
         if (url.ends_with('/')) url.pop_back();
-        if (!EqualIgnoringCase(url, Web()->Url())) return kFalse;
-        return MakeThemeFresh(*Web(), TextAt(arguments, 0)) ? kTrue : kFalse;
+        if (!EqualIgnoringCase(url, Web()->Files().Url())) return kFalse;
+        return Web()->MakeThemeFresh(TextAt(arguments, 0)) ? kTrue : kFalse;
     }
 
     DiskApplication& host_;

@@ -5,20 +5,23 @@
 #include "platform/run_time_error.h"
 #include "text/ignoring_case.h"
 #include "text/windows_1252.h"
-#include "web_host/applied_theme.h"
 #include "web_host/disk_web_folder.h"
 #include "web_host/disk_web_window.h"
+#include "web_host/limits.h"
+#include "web_host/page_update.h"
+#include "web_host/refusal.h"
 #include "web_host/theme_of_web.h"
+#include "web_host/web_save_transaction.h"
 
 namespace morpho {
 
 namespace {
 
-// A property in the host's notes, lines "key:TYPE|value" where TYPE is two letters.
-std::optional<std::string> NotedProperty(std::string_view notes, std::string_view key) {
-    while (!notes.empty()) {
-        const std::string_view line = notes.substr(0, notes.find('\n'));
-        notes.remove_prefix(std::min(line.size() + 1, notes.size()));
+// A property in the host's settings, lines "key:TYPE|value" where TYPE is two letters.
+std::optional<std::string> PropertyIn(std::string_view settings, std::string_view key) {
+    while (!settings.empty()) {
+        const std::string_view line = settings.substr(0, settings.find('\n'));
+        settings.remove_prefix(std::min(line.size() + 1, settings.size()));
         const std::size_t colon = line.find(':');
         const std::size_t bar = line.find('|', colon == line.npos ? line.size() : colon);
         if (bar == line.npos || !EqualIgnoringCase(line.substr(0, colon), key)) continue;
@@ -32,20 +35,18 @@ std::optional<std::string> NotedProperty(std::string_view notes, std::string_vie
 }  // namespace
 
 int DiskWeb::ThemeCount() const {
-    return static_cast<int>(web_->opened.themes.size());
+    return static_cast<int>(web_->Themes().size());
 }
 
 Theme DiskWeb::ThemeAt(int index) const {
-    if (index < 0 || index >= ThemeCount())
-        throw RunTimeError(ErrorNumber::kAutomation, "The web has no such theme.");
-    return web_->opened.themes[static_cast<std::size_t>(index)];
+    if (index < 0 || index >= ThemeCount()) RefuseCall("The web has no such theme.");
+    return web_->Themes()[static_cast<std::size_t>(index)];
 }
 
 std::string DiskWeb::ThemeProperties(int which) const {
-    if (which != kThemeNameProperty)
-        throw RunTimeError(ErrorNumber::kAutomation, "Only the theme's name can be asked for.");
-    std::string name = ThemeOfWeb(web_->Root());
-    for (const Theme& theme : web_->opened.themes) {
+    if (which != kThemeNameProperty) RefuseCall("Only the theme's name can be asked for.");
+    std::string name = ThemeOfWeb(web_->Files().Root());
+    for (const Theme& theme : web_->Themes()) {
         if (EqualIgnoringCase(theme.name, name)) return theme.name;
     }
     return name;
@@ -56,34 +57,40 @@ std::unique_ptr<WebWindow> DiskWeb::ActiveWebWindow() {
 }
 
 std::unique_ptr<WebFolder> DiskWeb::RootFolder() {
-    return LocateWebFolder(web_, "");
+    return LocateWebFolder(web_, files_, "");
 }
 
 std::unique_ptr<WebFolder> DiskWeb::LocateFolder(std::string_view url) {
-    return LocateWebFolder(web_, url);
+    return LocateWebFolder(web_, files_, url);
 }
 
 std::optional<std::string> DiskWeb::Property(std::string_view key) const {
-    const auto folder = FindFolderInWeb(*web_, {"_vti_pvt"});
-    const auto notes = folder ? folder->Find("service.cnf") : std::nullopt;
-    if (!notes) return {};
-    return NotedProperty(ReadWebFile(*folder, notes->name), key);
+    const auto folder = web_->Files().FindFolder({"_vti_pvt"});
+    const auto settings = folder ? folder->Find("service.cnf") : std::nullopt;
+    if (!settings) return {};
+    return PropertyIn(ReadWholeFile(*folder, settings->name, kMaxFileBytes), key);
 }
 
 void DiskWeb::ApplyTheme(std::string_view themeName) {
-    ApplyThemeToWeb(*web_, std::string(themeName));
-    RefreshThemes(*web_);
-    if (reporter_ && !web_->reports.empty()) reporter_(web_->reports);
+    const std::string name(themeName);
+    if (web_->Transaction()) return web_->Transaction()->ApplyTheme(name);
+    WebSaveTransaction change(*web_, name, WebSaveTransaction::Purpose::kApply);
+    change.ApplyTheme(name);
+    change.Commit();
 }
 
 void DiskWeb::Refresh() {
-    web_->writer->Flush();
-    web_->changeNote.Release();
-    RefreshThemes(*web_);
+    if (web_->Transaction()) return web_->Transaction()->RefreshAtCommit();
+    web_->RefreshThemes();
 }
 
 void DiskWeb::RecalcHyperlinks() {
-    LogBrokenThemeAddresses(*web_);
+    if (web_->Transaction()) return web_->Transaction()->RecalcAtCommit();
+    const auto log = [this](const std::string& line) { web_->Reports().WriteLog(line); };
+    PageUpdate pages(web_->TheDisk(), web_->Files(), {}, log);
+    pages.Run();
+    for (const std::string& line : pages.BrokenAddresses())
+        log(line);
 }
 
 }  // namespace morpho

@@ -1,95 +1,112 @@
 #include "web_host/disk_web_folder.h"
 
-#include "linux/disk_path.h"
-#include "linux/file_error.h"
 #include "platform/run_time_error.h"
 #include "text/ignoring_case.h"
+#include "web_host/limits.h"
+#include "web_host/refusal.h"
+#include "web_host/web_save_transaction.h"
 
 namespace morpho {
 
 namespace {
 
-[[noreturn]] void Refuse(const std::string& sentence) {
-    throw RunTimeError(ErrorNumber::kAutomation, sentence);
-}
-
-std::string ReadLocalFile(std::string_view localPath) {
-    const auto path = FindOnDisk(localPath);
-    if (!path) Refuse("\"" + std::string(localPath) + "\" is no path below \"Z:\\\".");
-    const DiskFolder folder = DiskFolder::Open(ParentFolder(*path), true);
-    return ReadWebFile(folder, std::string(LastName(*path)));
+std::string ReadLocalFile(const FileSystem& files, std::string_view path) {
+    const auto entry = files.Find(path);
+    if (entry && entry->size > kMaxFileBytes)
+        RefuseCall("\"" + std::string(path) + "\" is too large for a web's file.");
+    return files.ReadFile(path);
 }
 
 }  // namespace
 
 std::string DiskWebFolder::Name() const {
-    return names_.empty() ? std::string() : NameFromDisk(names_.back());
+    return path_.empty() ? std::string() : path_.back();
 }
 
 std::string DiskWebFolder::Url() const {
-    std::string url = web_->Url();
-    for (const std::string& name : names_)
-        url += '/' + NameFromDisk(name);
+    std::string url = web_->Files().Url();
+    for (const std::string& name : path_)
+        url += '/' + name;
     return url;
 }
 
 std::unique_ptr<WebFolder> DiskWebFolder::FindFolder(std::string_view name) {
-    const auto entry = Folder().Find(NameToDisk(name));
-    if (!entry || entry->kind != DiskKind::kFolder) return nullptr;
-    return Inner(entry->name);
+    WebPath inner = path_;
+    inner.emplace_back(name);
+    if (!web_->Files().FindFolder(inner)) return nullptr;
+    const auto entry = Opened()->Find(name);
+    // The folder of a theme that is being saved has no entry of its name yet.
+    return Inner(entry ? entry->name : std::string(name));
 }
 
 std::unique_ptr<WebFolder> DiskWebFolder::AddFolder(std::string_view name) {
-    const DiskFolder folder = Folder();
-    const std::string diskName = NameToDisk(name);
-    if (!IsEntryName(diskName)) Refuse("\"" + std::string(name) + "\" is no name for a folder.");
-    if (folder.Find(diskName)) Refuse("\"" + folder.PathOf(diskName) + "\" exists already.");
-    const bool isTheme = names_.size() == 1 && EqualIgnoringCase(names_.front(), "_themes");
-    if (isTheme) web_->changeNote.Hold(folder.Path(), {ThemeChange::Kind::kMaking, diskName});
-    web_->writer->MakeFolder(folder.PathOf(diskName));
-    return Inner(diskName);
+    const auto folder = Opened();
+    if (folder->Find(name)) RefuseCall("\"" + folder->PathOf(name) + "\" exists already.");
+    if (web_->Transaction() && IsThemesFolder()) {
+        web_->Transaction()->CreateTheme(std::string(name));
+    } else {
+        folder->Create(name);
+    }
+    return Inner(std::string(name));
 }
 
 void DiskWebFolder::AddFile(std::string_view localPath, bool overwrite) {
-    const DiskFolder folder = Folder();
-    const std::string bytes = ReadLocalFile(localPath);
-    const std::size_t separator = localPath.find_last_of("\\/");
-    const std::string diskName = NameToDisk(localPath.substr(separator + 1));
-    const auto existing = folder.Find(diskName);
-    if (!existing) return web_->writer->AddFile(folder.PathOf(diskName), bytes);
-    if (!overwrite || existing->kind == DiskKind::kFolder)
-        Refuse("\"" + folder.PathOf(existing->name) + "\" exists already.");
-    web_->writer->ReplaceFile(folder.PathOf(existing->name), bytes);
+    const auto folder = Opened();
+    const std::string bytes = ReadLocalFile(files_, localPath);
+    const std::string name(localPath.substr(localPath.find_last_of("\\/") + 1));
+    const auto existing = folder->Find(name);
+    if (existing && (!overwrite || existing->kind == EntryKind::kFolder))
+        RefuseCall("\"" + folder->PathOf(existing->name) + "\" exists already.");
+    if (web_->Transaction() && IsTheme() && !IsCreatedBySave())
+        return web_->Transaction()->ReplaceThemeFile(Name(), name, bytes);
+    // The files of a new theme are flushed together, when the save is committed.
+    const Durability durability = IsCreatedBySave() ? Durability::kUnflushed : Durability::kFlushed;
+    WriteWholeFile(*folder, existing ? existing->name : name, bytes, durability);
 }
 
 void DiskWebFolder::Delete() {
-    if (names_.empty()) Refuse("The web itself cannot be deleted.");
-    web_->writer->RemoveFolder(Folder().Path());
-    web_->changeNote.Release();
+    if (path_.empty()) RefuseCall("The web itself cannot be deleted.");
+    if (IsCreatedBySave()) return web_->Transaction()->DropTheme();
+    if (web_->Transaction()) RefuseCall("While a theme is saved no other folder can be deleted.");
+    Opened();
+    WebPath parent = path_;
+    parent.pop_back();
+    web_->Files().FindFolder(parent)->RemoveFolder(Name());
 }
 
-DiskFolder DiskWebFolder::Folder() const {
-    auto folder = FindFolderInWeb(*web_, names_);
+std::unique_ptr<Folder> DiskWebFolder::Opened() const {
+    auto folder = web_->Files().FindFolder(path_);
     if (!folder)
-        throw FileError(ErrorNumber::kPathNotFound, Url(), "could not be opened",
-                        "the web has no such folder");
-    return std::move(*folder);
+        throw RunTimeError(ErrorNumber::kPathNotFound,
+                           "\"" + Url() + "\" could not be opened: the web has no such folder.");
+    return folder;
 }
 
-std::unique_ptr<WebFolder> DiskWebFolder::Inner(const std::string& diskName) const {
-    std::vector<std::string> names = names_;
-    names.push_back(diskName);
-    return std::make_unique<DiskWebFolder>(web_, std::move(names));
+std::unique_ptr<WebFolder> DiskWebFolder::Inner(const std::string& name) const {
+    WebPath path = path_;
+    path.push_back(name);
+    return std::make_unique<DiskWebFolder>(web_, files_, std::move(path));
+}
+
+bool DiskWebFolder::IsThemesFolder() const {
+    return path_.size() == 1 && EqualIgnoringCase(path_[0], kThemesFolder);
+}
+
+bool DiskWebFolder::IsTheme() const {
+    return path_.size() == 2 && EqualIgnoringCase(path_[0], kThemesFolder);
+}
+
+bool DiskWebFolder::IsCreatedBySave() const {
+    return IsTheme() && web_->Transaction() && web_->Transaction()->HasCreated(Name());
 }
 
 std::unique_ptr<WebFolder> LocateWebFolder(const std::shared_ptr<WebSession>& web,
-                                           std::string_view url) {
-    const auto names = NamesInWeb(*web, url);
-    if (!names) return nullptr;
-    std::unique_ptr<WebFolder> folder =
-        std::make_unique<DiskWebFolder>(web, std::vector<std::string>());
-    for (const std::string& name : *names) {
-        if (folder) folder = folder->FindFolder(NameFromDisk(name));
+                                           const FileSystem& files, std::string_view url) {
+    const auto path = web->Files().PathOfUrl(url);
+    if (!path) return nullptr;
+    std::unique_ptr<WebFolder> folder = std::make_unique<DiskWebFolder>(web, files, WebPath());
+    for (const std::string& name : *path) {
+        if (folder) folder = folder->FindFolder(name);
     }
     return folder;
 }

@@ -2,38 +2,45 @@
 
 #include <memory>
 #include <string>
-#include <vector>
 
+#include "platform/file_system.h"
+#include "platform/front_page.h"
 #include "web_host/web_session.h"
 
 namespace morpho {
 
 // A folder of an open web. It is found by its names each time anew, through real folders only:
-// nothing in the web, no link either, leads outside.
+// nothing in the web, no link either, leads outside. While a save runs, what is done to the web's
+// themes is part of it.
 class DiskWebFolder : public WebFolder {
   public:
-    // `names` lead to it from the web's own folder, as spelled on the disk.
-    DiskWebFolder(std::shared_ptr<WebSession> web, std::vector<std::string> names)
-        : web_(std::move(web)), names_(std::move(names)) {}
+    // `path` leads to it from the web's own folder, as spelled on the disk. `files` has the files
+    // to import.
+    DiskWebFolder(std::shared_ptr<WebSession> web, const FileSystem& files, WebPath path)
+        : web_(std::move(web)), files_(files), path_(std::move(path)) {}
 
     std::string Name() const override;
     std::string Url() const override;
     std::unique_ptr<WebFolder> FindFolder(std::string_view name) override;
     std::unique_ptr<WebFolder> AddFolder(std::string_view name) override;
     void AddFile(std::string_view localPath, bool overwrite) override;
-    // The web's own folder is refused.
+    // The web's own folder is refused, and while a save runs every one that the save did not make.
     void Delete() override;
 
   private:
-    DiskFolder Folder() const;
-    std::unique_ptr<WebFolder> Inner(const std::string& diskName) const;
+    std::unique_ptr<Folder> Opened() const;
+    std::unique_ptr<WebFolder> Inner(const std::string& name) const;
+    bool IsThemesFolder() const;
+    bool IsTheme() const;
+    bool IsCreatedBySave() const;
 
     std::shared_ptr<WebSession> web_;
-    std::vector<std::string> names_;
+    const FileSystem& files_;
+    WebPath path_;
 };
 
 // The folder at an address in the web; null when there is none.
 std::unique_ptr<WebFolder> LocateWebFolder(const std::shared_ptr<WebSession>& web,
-                                           std::string_view url);
+                                           const FileSystem& files, std::string_view url);
 
 }  // namespace morpho

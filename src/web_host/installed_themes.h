@@ -1,34 +1,33 @@
 #pragma once
 
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
 
-#include "formats/theme_package.h"
+#include "web_host/packed_theme.h"
 
 namespace morpho {
 
-// The themes of one web as installed for all users: for each a folder with "<name>.inf" and the
-// packed "<name>.elm". They can be made again from the web at any time.
+// The themes of one web as installed for all users: for each a folder with its description and its
+// package. They can be made again from the web at any time. Everything throws RunTimeError.
 class InstalledThemes {
   public:
-    using File = ThemePackage::Member;
+    // `path` is a Windows path; the folder is created when it is missing.
+    InstalledThemes(Disk& disk, const std::string& path) : folder_(disk.OpenOrCreate(path)) {}
 
-    // `folder` is a path of the disk and need not exist.
-    explicit InstalledThemes(std::string folder) : folder_(std::move(folder)) {}
-
-    // Installs the theme with these files; what is there already is not written again. False for
-    // files without the theme's description. A file whose name no package can hold is left out.
-    // Throws RunTimeError.
-    bool Install(const std::string& diskName, const std::vector<File>& files);
-    // Keeps the name of a folder that is no theme from being taken by one. Throws RunTimeError.
-    void Reserve(const std::string& diskName);
-    // Removes what is installed and was not among those of this object; how many. Throws
-    // RunTimeError.
-    int RemoveOthers();
+    // Installs the theme of this name from its folder, which has these files.
+    void Install(const std::string& name, const Folder& theme, const std::string& descriptionName,
+                 const std::vector<FileToPack>& files);
+    // Keeps the name of a folder that is no theme from being given to one.
+    void Reserve(const std::string& name);
+    // Removes what is installed and was not among those of this object.
+    void RemoveOthers();
 
   private:
-    std::string folder_;
+    std::unique_ptr<Folder> Entered(const std::string& name);
+
+    std::unique_ptr<Folder> folder_;
     std::set<std::string> names_;
 };
 

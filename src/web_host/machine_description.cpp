@@ -1,7 +1,5 @@
 #include "web_host/machine_description.h"
 
-#include "linux/disk_path.h"
-
 namespace morpho {
 
 namespace {
@@ -22,16 +20,16 @@ RegistryData DescribeMachine(const MachineFolders& folders) {
     const auto setText = [&data](std::string_view key, const char* name, std::string text) {
         data.Set(key, {name, RegType::kString, std::move(text)});
     };
-    setText(kShellFolders, "Cache", ToWindowsPath(folders.cache));
-    setText(kShellFolders, "AppData", ToWindowsPath(folders.appData));
-    setText(kShellFolders, "Desktop", ToWindowsPath(folders.desktop));
+    setText(kShellFolders, "Cache", folders.cache);
+    setText(kShellFolders, "AppData", folders.appData);
+    setText(kShellFolders, "Desktop", folders.desktop);
     // The name of the user's themes folder below "Microsoft" in AppData.
     setText(kOfficeGeneral, "Themes", "Themes");
-    setText(kWindowsVersion, "CommonFilesDir", ToWindowsPath(folders.commonFiles));
+    setText(kWindowsVersion, "CommonFilesDir", folders.commonFiles);
     const std::string classId(kExplorerClassId);
     setText(kExplorerClass, "", classId);
     setText("HKEY_CLASSES_ROOT\\CLSID\\" + classId + "\\LocalServer32", "",
-            ToWindowsPath(JoinDiskPath(folders.program, "morpho")));
+            folders.program + "\\morpho");
     return data;
 }
 

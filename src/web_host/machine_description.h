@@ -6,7 +6,8 @@
 
 namespace morpho {
 
-// Folders of the machine that the host and the editors look up in the registry; paths of the disk.
+// Folders of the machine that the host and the editors look up in the registry; Windows paths
+// without a trailing "\".
 struct MachineFolders {
     std::string cache;        // what the host unpacks and downloads
     std::string appData;      // settings and themes of the user

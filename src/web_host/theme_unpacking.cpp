@@ -1,201 +1,213 @@
 #include "web_host/theme_unpacking.h"
 
-#include <unistd.h>
-
 #include <algorithm>
-#include <filesystem>
 #include <functional>
-#include <map>
 #include <set>
 
-#include "formats/theme_addresses.h"
-#include "formats/theme_package.h"
-#include "formats/windows_1252_code_page.h"
-#include "linux/disk_path.h"
-#include "linux/file_error.h"
-#include "platform/run_time_error.h"
+#include "formats/profile_text.h"
 #include "text/ignoring_case.h"
+#include "text/windows_1252.h"
+#include "web_host/installed_themes.h"
+#include "web_host/limits.h"
 
 namespace morpho {
 
 namespace {
 
-using Member = ThemePackage::Member;
-
-std::optional<std::string> FileOf(const DiskFolder& folder, const std::string& name) {
-    const auto entry = folder.Find(name);
-    if (!entry) return {};
-    return ReadWebFile(folder, entry->name);
-}
-
-// The files of the theme as installed in this store, its description last; nothing when it is not
-// there, or not complete.
-std::optional<std::vector<Member>> InstalledIn(const std::string& store, const std::string& name) {
-    std::error_code ignored;
-    if (store.empty() || !std::filesystem::is_directory(store, ignored)) return {};
-    const DiskFolder themes = DiskFolder::Open(store, true);
-    const auto entry = themes.Find(NameToDisk(name));
-    if (!entry || entry->kind != DiskKind::kFolder) return {};
-    const DiskFolder folder = themes.Subfolder(entry->name);
-    const auto description = FileOf(folder, entry->name + ".inf");
-    const auto package = FileOf(folder, entry->name + ".elm");
-    if (!description || !package) return {};
-    std::vector<Member> members = ReadThemePackage(Windows1252CodePage(), *package).members;
-    const std::string descriptionName = name + ".inf";
-    std::erase_if(members, [&](const Member& member) {
-        return EqualIgnoringCase(member.name, descriptionName);
+// The file of this name among the folder's entries.
+const FolderEntry* FindFile(const std::vector<FolderEntry>& entries, const std::string& name) {
+    const auto found = std::find_if(entries.begin(), entries.end(), [&](const FolderEntry& entry) {
+        return entry.kind == EntryKind::kFile && EqualIgnoringCase(entry.name, name);
     });
-    members.push_back({descriptionName, *description});
-    return members;
+    return found == entries.end() ? nullptr : &*found;
 }
 
-void KeepOwnPictures(std::vector<Member>& members) {
-    std::set<std::string> names;
-    for (const Member& member : members)
-        names.insert(Lowered(member.name));
-    for (Member& member : members) {
-        if (!Lowered(member.name).ends_with(".css")) continue;
-        member.bytes = WithOwnPictures(
-            member.bytes, [&](const std::string& file) { return names.contains(Lowered(file)); });
-    }
+// The title that the theme's description gives it, or its name.
+std::string LabelOf(const Folder& folder, const std::string& description, const std::string& name) {
+    const ProfileText profile(ReadWholeFile(folder, description, kMaxThemeFileBytes));
+    const auto title = profile.Value("info", "title");
+    return title && !title->empty() ? TextOfUnknownCoding(*title) : name;
 }
 
-// Gives a folder the members of a package. Unless all goes well, everything is put back.
-class FolderUpdate {
+class ThemeUnpacker {
   public:
-    FolderUpdate(WebWriter& writer, const DiskFolder& folder) : writer_(writer), folder_(folder) {
-        for (const DiskEntry& entry : folder.Entries()) {
-            entries_.emplace(entry.name, entry);
-            entries_.emplace(Lowered(entry.name), entry);
-        }
+    ThemeUnpacker(Disk& disk, const UnpackOptions& options)
+        : options_(options), unpackFolder_(disk.OpenOrCreate(options.unpackFolder)) {
+        if (options.installFolder.empty()) return;
+        WhereInstalling([&] { installed_.emplace(disk, options.installFolder); });
     }
-    ~FolderUpdate() {
-        if (!isDone_) PutAllBack();
-    }
-    FolderUpdate(const FolderUpdate&) = delete;
-    FolderUpdate& operator=(const FolderUpdate&) = delete;
 
-    void Write(const std::vector<Member>& members) {
-        for (const Member& member : members)
-            Prepare(member);
-        writer_.ReplaceFiles(replaced_);
-        for (const FileChange& change : replaced_) {
-            if (change.failure) throw RunTimeError(*change.failure);
+    ListedThemes UnpackAll(const Folder& web) {
+        const std::vector<FolderEntry> entries = web.Entries();
+        if (!options_.keepUnpacked) EmptyUnpackFolder();
+        for (const FolderEntry& entry : entries) {
+            if (entry.kind == EntryKind::kFolder && EqualIgnoringCase(entry.name, kThemesFolder))
+                VisitThemes(web, entry.name);
         }
-        for (; added_ < new_.size(); ++added_)
-            writer_.AddFile(new_[added_].path, new_[added_].bytes);
-        writer_.Flush();
-        isDone_ = true;
+        if (installed_) Readable([&] { return installed_->RemoveOthers(), true; });
+        if (!installFailure_.empty()) listed_.skipped.push_back(installFailure_);
+        std::stable_sort(
+            listed_.themes.begin(), listed_.themes.end(),
+            [](const Theme& a, const Theme& b) { return Lowered(a.name) < Lowered(b.name); });
+        return std::move(listed_);
+    }
+
+    // The theme in this folder alone.
+    bool UnpackOne(const Folder& theme, const std::string& name) {
+        const std::vector<FolderEntry> entries = theme.Entries();
+        if (!FindFile(entries, name + ".inf")) return false;
+        const std::vector<FileToPack> files = FilesOf(theme, entries);
+        if (SizeOf(files) > kMaxThemeBytes) return false;
+        Copy(theme, files, *unpackFolder_->Create(name));
+        return true;
     }
 
   private:
-    // Refuses, before anything is written, what cannot become a file.
-    void Prepare(const Member& member) {
-        const std::string name = NameToDisk(member.name);
-        const DiskEntry* existing = Existing(name);
-        if (!IsEntryName(name) || (existing && existing->kind != DiskKind::kFile))
-            throw FileError(ErrorNumber::kPathFileAccess, folder_.PathOf(name),
-                            "could not be written", "something stands there that is no file");
-        if (!existing) return new_.push_back({folder_.PathOf(name), member.bytes});
-        std::string bytes = ReadWebFile(folder_, existing->name);
-        if (bytes == member.bytes) return;
-        replaced_.push_back({folder_.PathOf(existing->name), member.bytes});
-        earlier_.push_back(std::move(bytes));
+    static std::uint64_t SizeOf(const std::vector<FileToPack>& files) {
+        std::uint64_t bytes = 0;
+        for (const FileToPack& file : files)
+            bytes += file.length;
+        return bytes;
     }
 
-    // What this name means: the entry spelled so, else one that differs in letter case only.
-    const DiskEntry* Existing(const std::string& name) const {
-        auto found = entries_.find(name);
-        if (found == entries_.end()) found = entries_.find(Lowered(name));
-        return found == entries_.end() ? nullptr : &found->second;
-    }
-
-    void PutAllBack() {
-        for (std::size_t i = 0; i < added_; ++i)
-            AsFarAsPossible([&] { writer_.RemoveFile(new_[i].path); });
-        for (std::size_t i = 0; i < replaced_.size(); ++i) {
-            if (replaced_[i].isDone)
-                AsFarAsPossible([&] { writer_.ReplaceFile(replaced_[i].path, earlier_[i]); });
+    void EmptyUnpackFolder() {
+        for (const FolderEntry& entry : unpackFolder_->Entries()) {
+            if (entry.kind == EntryKind::kFolder) {
+                unpackFolder_->RemoveFolder(entry.name);
+            } else {
+                unpackFolder_->Remove(entry.name);
+            }
         }
     }
 
-    static void AsFarAsPossible(const std::function<void()>& step) {
+    // What `read` returns; nothing, with the reason kept, when it fails.
+    template <typename Read>
+    auto Readable(Read read) -> std::optional<decltype(read())> {
+        try {
+            return read();
+        } catch (const RunTimeError& error) {
+            listed_.skipped.emplace_back(error.what());
+            return {};
+        }
+    }
+
+    void VisitThemes(const Folder& web, const std::string& name) {
+        const auto themes = Readable([&] { return web.Open(name); });
+        const auto entries = themes ? Readable([&] { return (*themes)->Entries(); }) : std::nullopt;
+        if (!entries) return;
+        for (const FolderEntry& entry : *entries) {
+            // A theme that is being saved has a temporary name.
+            if (entry.kind != EntryKind::kFolder || IsTemporaryName(entry.name)) continue;
+            const std::size_t told = listed_.skipped.size();
+            VisitTheme(**themes, entry.name);
+            if (!IsUnpacked(entry.name)) listed_.skipped.resize(told);
+        }
+    }
+
+    bool IsUnpacked(const std::string& name) const {
+        return !options_.onlyTheme || EqualIgnoringCase(*options_.onlyTheme, name);
+    }
+
+    // A folder that cannot be read is listed by its name, but not unpacked.
+    void VisitTheme(const Folder& themes, const std::string& name) {
+        Theme theme{name, name};
+        const auto folder = Readable([&] { return themes.Open(name); });
+        const auto entries = folder ? Readable([&] { return (*folder)->Entries(); }) : std::nullopt;
+        const FolderEntry* description = entries ? FindFile(*entries, name + ".inf") : nullptr;
+        if (entries && !description) return WhereInstalling([&] { installed_->Reserve(name); });
+        if (!names_.insert(Lowered(name)).second)
+            return Skip(themes, name, "another theme has that name");
+        if (description) {
+            const auto label =
+                Readable([&] { return LabelOf(**folder, description->name, theme.name); });
+            if (label) theme.label = *label;
+            MakeReady(**folder, *entries, name, description->name);
+        }
+        listed_.themes.push_back(std::move(theme));
+    }
+
+    void MakeReady(const Folder& theme, const std::vector<FolderEntry>& entries,
+                   const std::string& name, const std::string& description) {
+        const bool isNeeded = IsUnpacked(name) && !IsUnpackedAlready(name);
+        if (!isNeeded && !installed_) return;
+        const std::vector<FileToPack> files = FilesOf(theme, entries);
+        if (SizeOf(files) > kMaxThemeBytes)
+            return Skip(theme, "",
+                        "a theme may have " + std::to_string(kMaxThemeBytes / kMegabyte) +
+                            " MB, and this one has more");
+        if (isNeeded) Copy(theme, files, *unpackFolder_->Create(name));
+        WhereInstalling([&] { installed_->Install(name, theme, description, files); });
+    }
+
+    bool IsUnpackedAlready(const std::string& name) const {
+        return options_.keepUnpacked && unpackFolder_->Find(name).has_value();
+    }
+
+    // The regular files that can be read, with one of those whose names differ in case only.
+    std::vector<FileToPack> FilesOf(const Folder& theme, const std::vector<FolderEntry>& entries) {
+        std::vector<FileToPack> files;
+        std::set<std::string> names;
+        for (const FolderEntry& entry : entries) {
+            if (entry.kind != EntryKind::kFile || IsTemporaryName(entry.name)) continue;
+            if (!names.insert(Lowered(entry.name)).second) {
+                Skip(theme, entry.name, "another file has that name");
+                continue;
+            }
+            const auto size = Readable([&] { return theme.OpenFile(entry.name)->Size(); });
+            if (size && *size > kMaxThemeFileBytes) {
+                Skip(theme, entry.name,
+                     "it is larger than " + std::to_string(kMaxThemeFileBytes / kMegabyte) + " MB");
+            } else if (size) {
+                files.push_back({entry.name, *size});
+            }
+        }
+        return files;
+    }
+
+    // Into the private cache, where nobody else writes.
+    void Copy(const Folder& theme, const std::vector<FileToPack>& files, Folder& target) {
+        for (const FileToPack& file : files) {
+            const auto bytes =
+                Readable([&] { return ReadWholeFile(theme, file.name, kMaxThemeFileBytes); });
+            if (bytes) WriteWholeFile(target, file.name, *bytes, Durability::kUnflushed);
+        }
+    }
+
+    // Where one cannot be installed, the others cannot either.
+    void WhereInstalling(const std::function<void()>& step) {
+        if (!installed_ && !installFailure_.empty()) return;
+        if (!installed_ && options_.installFolder.empty()) return;
         try {
             step();
-        } catch (const RunTimeError&) {
-            // The others may still go back; the next save of this theme writes it anew.
+        } catch (const RunTimeError& error) {
+            installFailure_ = error.what();
+            installed_.reset();
         }
     }
 
-    WebWriter& writer_;
-    const DiskFolder& folder_;
-    std::map<std::string, DiskEntry> entries_;  // by their names, also in lower case
-    std::vector<FileChange> replaced_;
-    std::vector<std::string> earlier_;  // what stood in the replaced
-    std::vector<FileChange> new_;       // in the order of the package
-    std::size_t added_ = 0;             // how many of the new ones are there
-    bool isDone_ = false;
-};
-
-std::optional<DiskFolder> FolderOfTheme(const WebSession& web, const std::string& diskName) {
-    return FindFolderInWeb(web, {"_themes", diskName});
-}
-
-// "_themes" in the web, created when it is missing.
-DiskFolder ThemesFolder(const WebSession& web) {
-    const DiskFolder root = web.Root();
-    const auto entry = root.Find("_themes");
-    if (!entry) web.writer->MakeFolder(root.PathOf("_themes"));
-    return root.Subfolder(entry ? entry->name : "_themes");
-}
-
-void CreateWithMembers(const WebSession& web, const DiskFolder& themes, const std::string& diskName,
-                       const std::vector<Member>& members) {
-    web.writer->MakeFolder(themes.PathOf(diskName));
-    try {
-        const DiskFolder folder = themes.Subfolder(diskName);
-        FolderUpdate(*web.writer, folder).Write(members);
-    } catch (const RunTimeError&) {
-        // Empty again by now; one that stays is no theme.
-        ::rmdir(themes.PathOf(diskName).c_str());
-        throw;
+    void Skip(const Folder& folder, const std::string& name, std::string_view reason) {
+        listed_.skipped.emplace_back(
+            EntryError(ErrorNumber::kFileExists, folder, name, "was left out", reason).what());
     }
-}
 
-bool Differs(const DiskFolder& folder, const Member& member) {
-    const auto entry = folder.Find(NameToDisk(member.name));
-    return entry && entry->kind == DiskKind::kFile &&
-           ReadWebFile(folder, entry->name) != member.bytes;
-}
+    const UnpackOptions& options_;
+    std::unique_ptr<Folder> unpackFolder_;
+    std::optional<InstalledThemes> installed_;
+    std::string installFailure_;
+    std::set<std::string> names_;  // of the themes, in lower case
+    ListedThemes listed_;
+};
 
 }  // namespace
 
-bool ReplacesThemeOfWeb(const WebSession& web, const std::string& name) {
-    const std::string diskName = NameToDisk(name);
-    const auto folder = IsEntryName(diskName) ? FolderOfTheme(web, diskName) : std::nullopt;
-    auto members = folder ? InstalledIn(web.stores.ofUser, name) : std::nullopt;
-    if (!members) return false;
-    KeepOwnPictures(*members);
-    return std::any_of(members->begin(), members->end(),
-                       [&](const Member& member) { return Differs(*folder, member); });
+ListedThemes UnpackThemes(Disk& disk, const WebFiles& web, const UnpackOptions& options) {
+    return ThemeUnpacker(disk, options).UnpackAll(web.Root());
 }
 
-std::string PutThemeIntoWeb(WebSession& web, const std::string& name) {
-    const std::string diskName = NameToDisk(name);
-    if (!IsEntryName(diskName))
-        throw RunTimeError(ErrorNumber::kAutomation, "\"" + name + "\" is no theme's name.");
-    auto members = InstalledIn(web.stores.ofUser, name);
-    if (!members) members = InstalledIn(web.stores.forWeb, name);
-    const auto folder = FolderOfTheme(web, diskName);
-    if (!members && (!folder || !folder->Find(diskName + ".inf")))
-        throw RunTimeError(ErrorNumber::kAutomation,
-                           "There is no theme \"" + name + "\" to be applied.");
-    if (members) KeepOwnPictures(*members);
-    const DiskFolder themes = ThemesFolder(web);
-    web.changeNote.Hold(themes.Path(), {ThemeChange::Kind::kApplying, diskName});
-    if (folder && members) FolderUpdate(*web.writer, *folder).Write(*members);
-    if (!folder) CreateWithMembers(web, themes, diskName, *members);
-    return folder ? NameFromDisk(LastName(folder->Path())) : name;
+bool UnpackTheme(Disk& disk, const Folder& theme, const std::string& name,
+                 const std::string& unpackFolder) {
+    const UnpackOptions options{unpackFolder, name, {}, true};
+    return ThemeUnpacker(disk, options).UnpackOne(theme, name);
 }
 
 }  // namespace morpho

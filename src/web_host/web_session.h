@@ -5,70 +5,104 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
-#include "linux/disk_folder.h"
-#include "web_host/opened_web.h"
-#include "web_host/theme_change_note.h"
-#include "web_host/web_writer.h"
+#include "web_host/theme_stores.h"
+#include "web_host/theme_unpacking.h"
+#include "web_host/web_files.h"
 
 namespace morpho {
 
-// Where themes are installed, as paths of the disk: folders with a folder for each theme. Empty
-// where there are none.
-struct ThemeStores {
-    std::string ofUser;  // the user's own, the same for all webs
-    std::string forWeb;  // those for all users, as far as this web is concerned
+class WebSaveTransaction;
+
+// What is told about a web, a sentence each: to the caller who asks, and to the host's log.
+class WebReports {
+  public:
+    using Log = std::function<void(std::string_view)>;
+    using Reporter = std::function<void(const std::vector<std::string>&)>;
+
+    void SetLog(Log log) { log_ = std::move(log); }
+    // Gets the sentences whenever a save has ended and there are some.
+    void SetReporter(Reporter reporter) { reporter_ = std::move(reporter); }
+    void Deliver() const {
+        if (reporter_ && !sentences_.empty()) reporter_(sentences_);
+    }
+    void WriteLog(std::string_view line) const {
+        if (log_) log_(line);
+    }
+    void Add(const std::string& sentence) {
+        sentences_.push_back(sentence);
+        WriteLog(sentence);
+    }
+    const std::vector<std::string>& Sentences() const { return sentences_; }
+    // Hands the sentences over and has none left.
+    std::vector<std::string> Take() { return std::exchange(sentences_, {}); }
+
+  private:
+    Log log_;
+    Reporter reporter_;
+    std::vector<std::string> sentences_;
+};
+
+// How a web is opened.
+struct WebOptions {
+    std::string path;                           // of its folder; a Windows path
+    std::string unpackFolder;                   // the host's copies of themes; a Windows path
+    std::optional<std::string> onlyTheme = {};  // see UnpackOptions
+    ThemeStores stores = {};
+
+    bool IsForSaving() const { return !stores.forWeb.empty(); }
 };
 
 // A web that is open, shared by the objects that show it.
-struct WebSession {
-    OpenedWeb opened;
-    std::string unpackFolder;
-    std::optional<std::string> onlyTheme;  // see OpenWebFolder
-    ThemeStores stores;
-    std::shared_ptr<WebWriter> writer;
-    ThemeChangeNote changeNote;
-    std::function<void(std::string_view)> log;
-    std::vector<std::string> reports;  // what went wrong with single pages, a sentence each
-    std::string completedTheme;  // applied at opening, as a program had died over it; or empty
-    bool isShown = false;        // whether a page takes the theme that was last applied
+class WebSession {
+  public:
+    // Opens the web, after repairing what a save that was killed left (see save_repair.h). Throws
+    // RunTimeError when the folder cannot be read.
+    WebSession(Disk& disk, WebOptions options, WebReports::Log log);
+    ~WebSession();
+    WebSession(const WebSession&) = delete;
+    WebSession& operator=(const WebSession&) = delete;
 
-    // The web's own folder.
-    DiskFolder Root() const { return DiskFolder::Open(opened.folder, true); }
-    // The web's absolute address, "file:///Z:/home/ann/web".
-    std::string Url() const;
-    void Log(std::string_view line) const;
-    // Keeps the sentence for the caller, and logs it.
-    void Report(const std::string& sentence);
+    Disk& TheDisk() const { return disk_; }
+    WebFiles& Files() { return files_; }
+    const WebFiles& Files() const { return files_; }
+    const WebOptions& Options() const { return options_; }
+    WebReports& Reports() { return reports_; }
+
+    const std::vector<Theme>& Themes() const { return listed_.themes; }
+    // What could not be taken from the themes, and what was repaired, a sentence each.
+    const std::vector<std::string>& Skipped() const { return listed_.skipped; }
+    const std::vector<std::string>& Repairs() const { return repairs_; }
+    // The theme whose interrupted save opening the web has completed; empty for none.
+    const std::string& CompletedTheme() const { return completedTheme_; }
+
+    // Lists the themes again and unpacks those that are not unpacked yet.
+    void RefreshThemes();
+    // Lists the themes again and unpacks this one anew; false when the web does not have it.
+    bool MakeThemeFresh(const std::string& name);
+
+    // The save that is running; null when there is none.
+    WebSaveTransaction* Transaction() const { return transaction_; }
+    void SetTransaction(WebSaveTransaction* transaction) { transaction_ = transaction; }
+
+    // Whether a page uses the theme that was applied last.
+    bool IsThemeShown() const { return isThemeShown_; }
+    void SetThemeShown(bool shown) { isThemeShown_ = shown; }
+
+  private:
+    UnpackOptions OptionsFor(const std::optional<std::string>& onlyTheme) const;
+
+    Disk& disk_;
+    WebOptions options_;
+    WebFiles files_;
+    WebReports reports_;
+    ListedThemes listed_;
+    std::vector<std::string> repairs_;
+    std::string completedTheme_;
+    WebSaveTransaction* transaction_ = nullptr;
+    bool isThemeShown_ = false;
 };
-
-// The names that lead to an entry of the web, from an absolute address or one relative to the web
-// ("_themes/blends"); names of the disk, as spelled. Nothing for what leads out of the web.
-std::optional<std::vector<std::string>> NamesInWeb(const WebSession& web, std::string_view url);
-
-// The folder that these names lead to from the web's own; nothing when there is none, or a link on
-// the way.
-std::optional<DiskFolder> FindFolderInWeb(const WebSession& web,
-                                          const std::vector<std::string>& names);
-
-// Removes what a program that died while it wrote has left in the folder, as far as possible.
-void RemoveAbandoned(const WebSession& web, const DiskFolder& folder);
-
-// Calls `take` with the folder, its address relative to the web ("gallery/" or empty) and the name
-// of each page of the web, in all its folders but those of the host ("_themes", "_vti_..."), hidden
-// ones and other webs. Links are not followed. A folder that cannot be read is reported.
-void VisitPages(WebSession& web,
-                const std::function<void(const DiskFolder& folder, const std::string& url,
-                                         const std::string& name)>& take);
-
-// Lists the web's themes again and unpacks those that are not unpacked yet.
-void RefreshThemes(WebSession& web);
-
-// Lists the web's themes again and unpacks this one anew; false when the web does not have it.
-bool MakeThemeFresh(WebSession& web, const std::string& name);
-
-// The bytes of a file in a web; throws RunTimeError for one that is larger than any web's file.
-std::string ReadWebFile(const DiskFolder& folder, const std::string& name);
 
 }  // namespace morpho

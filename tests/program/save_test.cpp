@@ -120,20 +120,6 @@ TEST_F(Save, TellsWhyItIsRefused) {
                "morpho: Error occured while saving theme. \"");
 }
 
-TEST_F(Save, ASaveThatWasKilledIsCompletedAndNotRecolouredTwice) {
-    const Tree before = Web();
-    Report(kRecolour + "--save");
-    const Tree after = Web();
-    for (const char* const name : {"orrbnra.gif", "orrbul1.gif"})
-        home_.Write(std::string("web/_themes/orrery/") + name,
-                    before.at(std::string("_themes/orrery/") + name));
-    home_.Write("web/_themes/.morpho-change.tmp", "applying orrery\n");
-    const Outcome outcome = Run(kRecolour + "--save");
-    EXPECT_EQ(outcome.status, 1);
-    EXPECT_NE(outcome.err.find("that has been completed.\n"), std::string::npos) << outcome.err;
-    EXPECT_EQ(Web(), after);
-}
-
 TEST_F(Save, ApplyingKeepsTheWebsOwnThemeUnlessToldOtherwise) {
     // Another web's theme of the same name, saved by the same user.
     Report(kRecolour + "--save");

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include <atomic>
-
+#include "linux/disk_file_system.h"
 #include "linux/disk_path.h"
+#include "linux/linux_disk.h"
 #include "platform/run_time_error.h"
 #include "support/temporary_folder.h"
 #include "web_host/disk_explorer.h"
@@ -14,39 +14,6 @@ namespace morpho {
 namespace {
 
 namespace fs = std::filesystem;
-
-// Fails from a given change on, like a disk that has died.
-class DyingWriter : public WebWriter {
-  public:
-    explicit DyingWriter(int changesLeft) : changesLeft_(changesLeft) {}
-    void ReplaceFile(const std::string& path, std::string_view bytes) override {
-        Count();
-        WebWriter::ReplaceFile(path, bytes);
-    }
-    void AddFile(const std::string& path, std::string_view bytes) override {
-        Count();
-        WebWriter::AddFile(path, bytes);
-    }
-    void Flush() override {
-        Count();
-        WebWriter::Flush();
-    }
-    void RemoveFile(const std::string& path) override {
-        Count();
-        WebWriter::RemoveFile(path);
-    }
-    void MakeFolder(const std::string& path) override {
-        Count();
-        WebWriter::MakeFolder(path);
-    }
-    bool HasFailed() const { return changesLeft_ < 0; }
-
-  private:
-    void Count() {
-        if (--changesLeft_ < 0) throw RunTimeError(ErrorNumber::kDeviceIo, "The disk has died.");
-    }
-    std::atomic<int> changesLeft_;
-};
 
 const AutomationValue kYes = 1;
 const AutomationValue kNo = 0;
@@ -64,9 +31,11 @@ class DiskWebTest : public testing::Test {
         folder_.Write("web/sub/page.html", Page("old", "<img src='../_themes/old/a.gif'>"));
         application_.SetLog([this](std::string_view line) { log_.append(line).append("\n"); });
     }
-    void Open() { application_.Open(folder_ / "web", {}, {folder_ / "user", folder_ / "all"}); }
+    std::string Path(const std::string& name) const { return ToWindowsPath(folder_ / name); }
+    ThemeStores Stores() const { return {Path("user"), Path("all"), Path("saves")}; }
+    void Open() { application_.Open(Path("web"), {}, Stores()); }
     std::unique_ptr<Web> OpenedWeb() {
-        if (!application_.Opened()) Open();
+        if (!application_.Session()) Open();
         return application_.ActiveWeb();
     }
     // The user gets a theme whose package is of these members.
@@ -79,6 +48,9 @@ class DiskWebTest : public testing::Test {
                 "2\na.gif,5\nm.css,19\n<==MS-Theme==>new a<==MS-Theme==>b{url(../old/a.gif)");
     }
     void Apply(const std::string& theme) { OpenedWeb()->ApplyTheme(theme); }
+    const std::vector<std::string>& Reports() {
+        return application_.Session()->Reports().Sentences();
+    }
     Tree WebTree() { return folder_.Below("web"); }
     AutomationValue Call(const std::string& method, std::vector<AutomationValue> arguments) {
         OpenedWeb();
@@ -88,7 +60,9 @@ class DiskWebTest : public testing::Test {
     }
 
     TemporaryFolder folder_;
-    DiskApplication application_{folder_ / "cache"};
+    LinuxDisk disk_;
+    DiskFileSystem files_;
+    DiskApplication application_{disk_, files_, Path("cache")};
     std::string log_;
 };
 
@@ -96,7 +70,7 @@ TEST_F(DiskWebTest, AWebThatCannotBeOpenedLeavesTheOneBefore) {
     EXPECT_FALSE(application_.ActiveWeb());
     EXPECT_EQ(OpenedWeb()->ThemeAt(0).label, "Old");
     EXPECT_THROW(OpenedWeb()->ThemeAt(1), RunTimeError);
-    EXPECT_THROW(application_.Open(folder_ / "none"), RunTimeError);
+    EXPECT_THROW(application_.Open(Path("none")), RunTimeError);
     EXPECT_EQ(OpenedWeb()->ThemeProperties(kThemeNameProperty), "old");
 }
 
@@ -217,12 +191,13 @@ TEST_F(DiskWebTest, HostilePackagesChangeNothing) {
     folder_.Write("web/_themes/new/folder/x", "x");
     folder_.Write("target", "secret");
     fs::create_symlink(folder_ / "target", folder_ / "web/_themes/new/link.gif");
-    const Tree before = folder_.Below("");
+    const Tree before = WebTree();
     const auto expectRefused = [&](const std::string& members) {
         Install("new", members + "<==MS-Theme==>x");
         EXPECT_THROW(Apply("new"), RunTimeError) << members;
         fs::remove_all(folder_ / "user");
-        EXPECT_EQ(folder_.Below(""), before) << members;
+        EXPECT_EQ(WebTree(), before) << members;
+        EXPECT_EQ(folder_.Read("target"), "secret");
     };
     for (const std::string name : {"../evil", "/evil", "..\\evil", "C:\\evil", "C:evil", "..", ".",
                                    "", "folder", "link.gif", "nul.gif", "a\x01"})
@@ -238,29 +213,14 @@ TEST_F(DiskWebTest, HostilePackagesChangeNothing) {
     EXPECT_FALSE(folder_.Has("elsewhere/a.gif"));
 }
 
-TEST_F(DiskWebTest, WhatAKilledProgramLeftIsRemovedAndNeverTakenForATheme) {
-    InstallNew();
-    const std::string dead = ".morpho-2147483646-7.tmp";
-    const std::string ours = ".morpho-" + std::to_string(::getpid()) + "-7.tmp";
-    for (const std::string folder : {"web/", "web/sub/", "web/_themes/new/", "web/_themes/old/"}) {
-        folder_.Write(folder + dead, "half");
-        folder_.Write(folder + ours, "in use");
-    }
-    Apply("new");
-    for (const auto& [name, bytes] : WebTree())
-        EXPECT_NE(bytes, "half") << name;
-    EXPECT_EQ(folder_.Read("web/sub/" + ours), "in use");
-    EXPECT_FALSE(folder_.Has("cache/FrontPageTempDir/mstheme/old/" + dead));
-}
-
 TEST_F(DiskWebTest, PagesThatCannotBeWrittenAreReportedAndTheRestGoesOn) {
     InstallNew();
     fs::permissions(folder_ / "web/index.htm", fs::perms(0444));
     Apply("new");
     EXPECT_EQ(folder_.Read("web/sub/page.html").substr(0, 44), Page("new").substr(0, 44));
-    ASSERT_EQ(application_.Reports().size(), 1U);
-    EXPECT_NE(application_.Reports()[0].find("\"index.htm\" keeps its theme"), std::string::npos);
-    EXPECT_EQ(log_, application_.Reports()[0] + "\n");
+    ASSERT_EQ(Reports().size(), 1U);
+    EXPECT_NE(Reports()[0].find("\"index.htm\" keeps its theme"), std::string::npos);
+    EXPECT_EQ(log_, Reports()[0] + "\n");
 }
 
 TEST_F(DiskWebTest, AddressesOfFilesThatTheNewThemeLacksStayAndAreTold) {
@@ -270,51 +230,8 @@ TEST_F(DiskWebTest, AddressesOfFilesThatTheNewThemeLacksStayAndAreTold) {
     Apply("new");
     EXPECT_EQ(folder_.Read("web/index.htm"),
               Page("new", "_<b src=_themes/old/B.GIF><b src=_themes/new/c>"));
-    ASSERT_EQ(application_.Reports().size(), 1U);
-    EXPECT_NE(application_.Reports()[0].find("the earlier theme: B.GIF."), std::string::npos);
-}
-
-TEST_F(DiskWebTest, WhatADeadProgramWasDoingIsPutRightAtTheNextStart) {
-    const std::string note = "web/_themes/.morpho-change.tmp";
-    const auto openAfter = [&](const std::string& text) {
-        folder_.Write(note, text);
-        Open();
-        EXPECT_FALSE(folder_.Has(note));
-        return application_.Opened()->putRight.size();
-    };
-    InstallNew();
-    folder_.Write("web/_themes/half/a.gif", "half");
-    for (const char* text : {"", "making half", "making ../_themes/half\n", "taking half\n"})
-        EXPECT_EQ(openAfter(text), 0U) << text;
-    EXPECT_TRUE(folder_.Has("web/_themes/half/a.gif"));
-    EXPECT_EQ(openAfter("making half\n"), 1U);
-    EXPECT_FALSE(folder_.Has("web/_themes/half"));
-    const Tree before = WebTree();
-    EXPECT_EQ(openAfter("making OLD\n"), 0U);
-    EXPECT_EQ(WebTree(), before) << "pages use it";
-    folder_.Write(note, "applying new\n");
-    const Tree unfinished = WebTree();
-    application_.Open(folder_ / "web");
-    EXPECT_EQ(application_.Opened()->putRight.size(), 1U) << "told, where nothing may be saved";
-    EXPECT_EQ(WebTree(), unfinished);
-    EXPECT_EQ(openAfter("applying new\n"), 1U);
-    EXPECT_EQ(folder_.Read("web/index.htm"), Page("new", "<img src='_themes/new/a.gif'>"));
-}
-
-TEST_F(DiskWebTest, OneProgramAtATimeChangesTheThemes) {
-    InstallNew();
-    const auto added = OpenedWeb()->LocateFolder("_themes")->AddFolder("mine");
-    DiskApplication other(folder_ / "other cache");
-    other.Open(folder_ / "web", {}, {folder_ / "user", folder_ / "all of other"});
-    EXPECT_TRUE(folder_.Has("web/_themes/mine"));
-    const Tree before = WebTree();
-    const auto web = other.ActiveWeb();
-    EXPECT_THROW(web->ApplyTheme("new"), RunTimeError);
-    EXPECT_THROW(web->LocateFolder("_themes")->AddFolder("other"), RunTimeError);
-    EXPECT_EQ(WebTree(), before);
-    added->Delete();
-    web->ApplyTheme("new");
-    EXPECT_TRUE(folder_.Has("web/_themes/new"));
+    ASSERT_EQ(Reports().size(), 1U);
+    EXPECT_NE(Reports()[0].find("the earlier theme: B.GIF."), std::string::npos);
 }
 
 TEST_F(DiskWebTest, BrokenThemeAddressesAreLogged) {
@@ -325,36 +242,6 @@ TEST_F(DiskWebTest, BrokenThemeAddressesAreLogged) {
     EXPECT_EQ(log_,
               "Broken hyperlink in \"sub/broken.htm\": _themes/OLD/b c.gif\n"
               "Broken hyperlink in \"sub/broken.htm\": _themes/x/y.gif\n");
-}
-
-TEST_F(DiskWebTest, ADiskThatDiesLeavesWholeFilesAndTheNextTimeCompletesThem) {
-    InstallNew();
-    fs::copy(folder_ / "web", folder_ / "before", fs::copy_options::recursive);
-    const Tree before = WebTree();
-    Apply("new");
-    const Tree after = WebTree();
-    bool failed = true;
-    for (int changes = 0; failed; ++changes) {
-        fs::remove_all(folder_ / "web");
-        fs::copy(folder_ / "before", folder_ / "web", fs::copy_options::recursive);
-        const auto writer = std::make_shared<DyingWriter>(changes);
-        application_.SetWriter(writer);
-        Open();
-        try {
-            Apply("new");
-        } catch (const RunTimeError&) {
-        }
-        failed = writer->HasFailed();
-        for (const auto& [name, bytes] : WebTree()) {
-            const bool isBefore = before.contains(name) && bytes == before.at(name);
-            EXPECT_TRUE(isBefore || bytes == after.at(name)) << name << " after " << changes;
-        }
-        application_.SetWriter(std::make_shared<WebWriter>());
-        Open();
-        Apply("new");
-        EXPECT_EQ(WebTree(), after) << changes;
-        ASSERT_LT(changes, 20);
-    }
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "linux/disk_path.h"
+#include "linux/linux_disk.h"
 #include "support/temporary_folder.h"
 
 namespace morpho {
@@ -15,7 +17,7 @@ void ExpectThemeOfWeb(const Tree& pages, const std::string& theme) {
     const TemporaryFolder folder;
     for (const auto& [name, content] : pages)
         folder.Write(name, Meta(content));
-    EXPECT_EQ(ThemeOfWeb(DiskFolder::Open(folder.Path().string(), true)), theme);
+    EXPECT_EQ(ThemeOfWeb(*LinuxDisk().Open(ToWindowsPath(folder / ""))), theme);
 }
 
 TEST(ThemeOfWeb, IsTheHomePagesOrTheMostFrequent) {

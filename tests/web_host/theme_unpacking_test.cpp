@@ -1,9 +1,11 @@
-#include "web_host/opened_web.h"
+#include "web_host/theme_unpacking.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "linux/disk_path.h"
+#include "linux/linux_disk.h"
 #include "platform/run_time_error.h"
 #include "support/temporary_folder.h"
 
@@ -12,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class OpenedWebTest : public testing::Test {
+class ThemeUnpackingTest : public testing::Test {
   protected:
     void AddTheme(const std::string& name, const std::string& description = "[info]") {
         folder_.Write("web/_themes/" + name + "/" + name + ".inf", description);
@@ -20,19 +22,23 @@ class OpenedWebTest : public testing::Test {
     // The themes' labels, and the number of what was left out.
     void ExpectThemes(const std::string& labels, std::size_t skipped = 0,
                       const std::optional<std::string>& only = {}) {
-        const OpenedWeb web = OpenWebFolder(folder_ / "web", {folder_ / "cache", only});
+        const ListedThemes web = Unpack("web", {ToWindowsPath(folder_ / "cache"), only});
         std::string shown;
         for (const Theme& theme : web.themes)
             shown += theme.name + "=" + theme.label + ";";
         EXPECT_EQ(shown, labels);
         EXPECT_EQ(web.skipped.size(), skipped) << testing::PrintToString(web.skipped);
     }
+    ListedThemes Unpack(const std::string& web, const UnpackOptions& options) {
+        return UnpackThemes(disk_, WebFiles(disk_, ToWindowsPath(folder_ / web)), options);
+    }
     void ExpectUnpacked(const Tree& files) { EXPECT_EQ(folder_.Below("cache"), files); }
 
+    LinuxDisk disk_;
     TemporaryFolder folder_;
 };
 
-TEST_F(OpenedWebTest, ListsThemesByNameWithTheirTitles) {
+TEST_F(ThemeUnpackingTest, ListsThemesByNameWithTheirTitles) {
     AddTheme("zero", "[info]\r\ntitle=Zero\r\n");
     AddTheme("Blends", "[INFO]\nTITLE=\"Blaue \xC3\x9C\"\ncodepage=65001\n");
     AddTheme("arcs", "[info]\ntitle=B\xF6gen\ncodepage=1252\n");
@@ -45,7 +51,7 @@ TEST_F(OpenedWebTest, ListsThemesByNameWithTheirTitles) {
     ExpectUnpacked({{"bare/", ""}, {"bare/bare.inf", "[titles]\n1033=x\n"}});
 }
 
-TEST_F(OpenedWebTest, UnpacksTheRegularFilesOfEachTheme) {
+TEST_F(ThemeUnpackingTest, UnpacksTheRegularFilesOfEachTheme) {
     const std::string bytes("\0\xff\r\n", 4);
     AddTheme("a");
     fs::permissions(folder_.Write("web/_themes/a/Pic.GIF", bytes), fs::perms(0444));
@@ -58,7 +64,7 @@ TEST_F(OpenedWebTest, UnpacksTheRegularFilesOfEachTheme) {
     ExpectUnpacked({{"a/", ""}, {"a/a.inf", "[info]"}, {"a/Pic.GIF", bytes}});
 }
 
-TEST_F(OpenedWebTest, TakesOneOfTwoNamesThatDifferOnlyInCase) {
+TEST_F(ThemeUnpackingTest, TakesOneOfTwoNamesThatDifferOnlyInCase) {
     AddTheme("a", "[info]\ntitle=lower\n");
     AddTheme("A", "[info]\ntitle=upper\n");
     folder_.Write("web/_themes/A/x.gif", "1");
@@ -67,7 +73,7 @@ TEST_F(OpenedWebTest, TakesOneOfTwoNamesThatDifferOnlyInCase) {
     ExpectUnpacked({{"A/", ""}, {"A/A.inf", "[info]\ntitle=upper\n"}, {"A/X.gif", "2"}});
 }
 
-TEST_F(OpenedWebTest, LinksGetNothing) {
+TEST_F(ThemeUnpackingTest, LinksGetNothing) {
     AddTheme("a");
     folder_.Write("outside/b/b.inf", "[info]");
     folder_.Write("outside/c.inf", "[info]\ntitle=Secret\n");
@@ -81,7 +87,7 @@ TEST_F(OpenedWebTest, LinksGetNothing) {
     ExpectThemes("");
 }
 
-TEST_F(OpenedWebTest, SkipsWhatCannotBeReadAndSaysSo) {
+TEST_F(ThemeUnpackingTest, SkipsWhatCannotBeReadAndSaysSo) {
     if (::geteuid() != 0) GTEST_SKIP() << "only root can lend its files to another user";
     AddTheme("closed");
     AddTheme("open");
@@ -95,25 +101,25 @@ TEST_F(OpenedWebTest, SkipsWhatCannotBeReadAndSaysSo) {
     ExpectUnpacked({{"open/", ""}, {"open/open.inf", "[info]"}});
 }
 
-TEST_F(OpenedWebTest, OnlyTheThemeAskedForIsUnpackedAndToldOfButAllAreInstalled) {
+TEST_F(ThemeUnpackingTest, OnlyTheThemeAskedForIsUnpackedAndToldOfButAllAreInstalled) {
     AddTheme("a");
     AddTheme("b");
     folder_.Write("web/_themes/a/x.gif", "1");
     folder_.Write("web/_themes/a/X.gif", "2");
     folder_.Write("web/_themes/a theme no more/x.gif", "its name is not free");
-    const OpenedWeb web =
-        OpenWebFolder(folder_ / "web", {folder_ / "cache", "B", folder_ / "installed", false});
+    const ListedThemes web = Unpack("web", {ToWindowsPath(folder_ / "cache"), "B",
+                                            ToWindowsPath(folder_ / "installed"), false});
     EXPECT_TRUE(web.skipped.empty());
     ExpectUnpacked({{"b/", ""}, {"b/b.inf", "[info]"}});
     for (const char* const name : {"a/a.elm", "b/b.elm", "a theme no more"})
         EXPECT_TRUE(folder_.Has(std::string("installed/") + name)) << name;
 }
 
-TEST_F(OpenedWebTest, AWebMustBeAFolderButNeedsNoThemes) {
+TEST_F(ThemeUnpackingTest, AWebMustBeAFolderButNeedsNoThemes) {
     folder_.Write("web/index.htm", "");
     ExpectThemes("");
     for (const std::string name : {"none", "web/index.htm"})
-        EXPECT_THROW(OpenWebFolder(folder_ / name, {folder_ / "cache"}), RunTimeError);
+        EXPECT_THROW(Unpack(name, {ToWindowsPath(folder_ / "cache")}), RunTimeError);
     EXPECT_TRUE(folder_.Has("cache"));
 }
 

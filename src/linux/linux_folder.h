@@ -1,0 +1,36 @@
+#pragma once
+
+#include "linux/disk_folder.h"
+#include "web_host/disk.h"
+
+namespace morpho {
+
+// An open folder of a Linux disk as the stand-in host wants it: everything goes through the open
+// descriptor. Names are converted by disk_path.h.
+class LinuxFolder : public Folder {
+  public:
+    explicit LinuxFolder(DiskFolder folder) : folder_(std::move(folder)) {}
+
+    std::string Path() const override;
+    std::string PathOf(std::string_view name) const override;
+    FolderId Id() const override;
+    std::unique_ptr<Folder> OpenAgain() const override;
+    std::vector<FolderEntry> Entries() const override;
+    std::optional<FolderEntry> Find(std::string_view name) const override;
+    std::unique_ptr<Folder> Open(std::string_view name) const override;
+    std::unique_ptr<ReadableFile> OpenFile(std::string_view name) const override;
+    std::unique_ptr<Folder> Create(std::string_view name) override;
+    std::unique_ptr<NewFile> Replace(std::string_view name, Durability durability) override;
+    std::unique_ptr<NewFile> AddLike(std::string_view name, std::string_view model) override;
+    void Rename(std::string_view from, std::string_view to) override;
+    void Link(std::string_view name, Folder& target, std::string_view newName) override;
+    void Remove(std::string_view name) override;
+    void RemoveFolder(std::string_view name) override;
+    void Flush(const std::vector<std::string>& names) override;
+    std::unique_ptr<FolderLock> TryLock(std::string_view name, std::string& holder) override;
+
+  private:
+    DiskFolder folder_;
+};
+
+}  // namespace morpho

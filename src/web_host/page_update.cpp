@@ -1,0 +1,119 @@
+#include "web_host/page_update.h"
+
+#include "formats/page_theme.h"
+#include "formats/theme_mark.h"
+#include "formats/web_text.h"
+#include "text/ignoring_case.h"
+#include "web_host/limits.h"
+
+namespace morpho {
+
+namespace {
+
+// Pages are written in groups: several in parallel, without holding a whole web in memory, or more
+// folders open than a program may have.
+constexpr std::size_t kMaxGroup = 256;
+constexpr std::size_t kMaxGroupBytes = 16UL * 1024 * 1024;
+
+}  // namespace
+
+void PageUpdate::Run(std::optional<std::uint64_t> deadProgram) {
+    VisitPageFolders(
+        web_,
+        [&](const std::shared_ptr<Folder>& folder, const std::string& url,
+            const std::vector<FolderEntry>& entries) {
+            if (deadProgram) Sweep(*folder, entries, *deadProgram);
+            for (const FolderEntry& entry : entries) {
+                if (entry.kind == EntryKind::kFile && IsPageName(entry.name))
+                    Visit({folder, entry.name, url + entry.name});
+            }
+        },
+        report_);
+    Write();
+    if (theme_) ReportSummary();
+}
+
+void PageUpdate::Visit(const WebPage& page) {
+    try {
+        const std::string bytes = ReadWholeFile(*page.folder, page.name, kMaxPageBytes);
+        auto changed =
+            theme_ ? PageWithTheme(bytes, *theme_,
+                                   [this](const ThemeAddress& address) { return Moves(address); })
+                   : std::nullopt;
+        const std::string text = PageText(changed ? *changed : bytes).Text();
+        NoteBroken(page.url, text);
+        if (!changed) return LookAtUnchanged(text);
+        changes_.push_back({page.folder, page.name, page.url, std::move(*changed)});
+        changedBytes_ += changes_.back().bytes.size();
+    } catch (const RunTimeError& error) {
+        ReportKept(page.url, error);
+    }
+    if (changes_.size() >= kMaxGroup || changedBytes_ >= kMaxGroupBytes) Write();
+}
+
+// An address stays where it would lead nowhere in the new theme.
+bool PageUpdate::Moves(const ThemeAddress& address) {
+    const bool stays =
+        !files_.Has(*theme_, address.file) && files_.Has(address.theme, address.file);
+    if (stays) kept_.insert(address.file);
+    return !stays;
+}
+
+// The page may have the theme already.
+void PageUpdate::LookAtUnchanged(const std::string& text) {
+    if (isShown_ || !theme_) return;
+    const auto theme = ThemeOfPage(text);
+    isShown_ = theme && theme->ofWeb && EqualIgnoringCase(theme->name, *theme_);
+}
+
+void PageUpdate::NoteBroken(const std::string& url, const std::string& text) {
+    for (const ThemeAddress& address : ThemeAddresses(text)) {
+        if (address.file.empty() || files_.Has(address.theme, address.file)) continue;
+        broken_.push_back("Broken hyperlink in \"" + url + "\": _themes/" + address.theme + "/" +
+                          address.file);
+    }
+}
+
+void PageUpdate::Write() {
+    disk_.InParallel(changes_.size(), [this](std::size_t i) {
+        Change& change = changes_[i];
+        try {
+            WriteWholeFile(*change.folder, change.name, change.bytes, Durability::kFlushed);
+        } catch (const RunTimeError& error) {
+            change.failure = error;
+        }
+    });
+    for (const Change& change : changes_) {
+        isShown_ = isShown_ || !change.failure;
+        if (change.failure) ReportKept(change.url, *change.failure);
+    }
+    changes_.clear();
+    changedBytes_ = 0;
+}
+
+void PageUpdate::ReportKept(const std::string& url, const RunTimeError& error) {
+    report_(theme_ ? "The page \"" + url + "\" keeps its theme: " + error.what() : error.what());
+}
+
+void PageUpdate::ReportSummary() {
+    if (!isShown_)
+        report_("No page uses the theme \"" + *theme_ +
+                "\": none takes the web's theme, or none could be written.");
+    if (kept_.empty()) return;
+    std::string files;
+    for (const std::string& file : kept_)
+        files += (files.empty() ? "" : ", ") + file;
+    report_("The theme \"" + *theme_ +
+            "\" lacks files that the pages use; their addresses still lead to the earlier theme: " +
+            files + ".");
+}
+
+void PageUpdate::Sweep(Folder& folder, const std::vector<FolderEntry>& entries,
+                       std::uint64_t program) {
+    for (const FolderEntry& entry : entries) {
+        if (entry.kind == EntryKind::kFile && ProgramOfTemporaryName(entry.name) == program)
+            folder.Remove(entry.name);
+    }
+}
+
+}  // namespace morpho

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "formats/theme_addresses.h"
+#include "platform/run_time_error.h"
+#include "web_host/page_walk.h"
+#include "web_host/theme_files.h"
+
+namespace morpho {
+
+// Gives a theme to the pages of a web that take the web's theme, in one walk, and finds the
+// addresses that lead to files which the web's themes do not have. Each page is replaced as a whole
+// and flushed; one that cannot be written keeps its theme and is reported, and the rest goes on.
+class PageUpdate {
+  public:
+    using Report = std::function<void(const std::string& sentence)>;
+
+    // Without a theme no page is changed.
+    PageUpdate(Disk& disk, const WebFiles& web, std::optional<std::string> theme, Report report)
+        : disk_(disk),
+          web_(web),
+          theme_(std::move(theme)),
+          report_(std::move(report)),
+          files_(web) {}
+
+    // Walks the pages. Temporary files that this program, now dead, left beside them are removed.
+    void Run(std::optional<std::uint64_t> deadProgram = {});
+
+    // Whether a page takes the theme now.
+    bool IsThemeShown() const { return isShown_; }
+    // What to log: `Broken hyperlink in "index.htm": _themes/blends/x.gif`.
+    const std::vector<std::string>& BrokenAddresses() const { return broken_; }
+
+  private:
+    struct Change {
+        std::shared_ptr<Folder> folder;
+        std::string name;
+        std::string url;
+        std::string bytes;
+        std::optional<RunTimeError> failure = {};
+    };
+
+    void Visit(const WebPage& page);
+    bool Moves(const ThemeAddress& address);
+    void LookAtUnchanged(const std::string& text);
+    void NoteBroken(const std::string& url, const std::string& text);
+    void Write();
+    void ReportKept(const std::string& url, const RunTimeError& error);
+    void ReportSummary();
+    static void Sweep(Folder& folder, const std::vector<FolderEntry>& entries,
+                      std::uint64_t program);
+
+    Disk& disk_;
+    const WebFiles& web_;
+    std::optional<std::string> theme_;
+    Report report_;
+    ThemeFiles files_;
+    std::set<std::string> kept_;  // files of the earlier theme that the new one does not have
+    std::vector<Change> changes_;
+    std::size_t changedBytes_ = 0;  // in changes_
+    bool isShown_ = false;
+    std::vector<std::string> broken_;
+};
+
+}  // namespace morpho

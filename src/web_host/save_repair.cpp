@@ -1,0 +1,142 @@
+#include "web_host/save_repair.h"
+
+#include "text/ignoring_case.h"
+#include "web_host/page_update.h"
+#include "web_host/save_changes.h"
+#include "web_host/save_journal.h"
+#include "web_host/save_locks.h"
+#include "web_host/theme_of_web.h"
+
+namespace morpho {
+
+namespace {
+
+// Earlier versions kept their journal in the web, where anybody may have written it.
+constexpr std::string_view kEarlierJournal = ".morpho-change.tmp";
+
+std::string Quoted(const std::string& text) {
+    return "\"" + text + "\"";
+}
+
+class SaveRepair {
+  public:
+    SaveRepair(WebSession& web, SaveRecord record)
+        : web_(web),
+          journal_(web.TheDisk(), web.Options().stores.saves),
+          record_(std::move(record)),
+          changes_(web.TheDisk(), web.Files(), web.Options().stores, journal_, record_) {}
+
+    std::string Run() {
+        std::string completed;
+        if (!IsOfThisWeb()) {
+            RollBackForUser();
+        } else if (!record_.isCommitted) {
+            RollBack();
+        } else if (Complete()) {
+            completed = record_.theme;
+        }
+        changes_.Sweep();
+        journal_.Remove();
+        return completed;
+    }
+
+  private:
+    bool IsOfThisWeb() const {
+        return record_.webPath == web_.Files().Path() && record_.webId == web_.Files().Root().Id();
+    }
+
+    // Another folder stands in the web's place now, or the web was copied.
+    void RollBackForUser() {
+        record_.files.clear();
+        record_.newThemeFolder.clear();
+        if (!record_.isCommitted) changes_.RollBack();
+        web_.Reports().Add("A save of the theme " + Quoted(record_.theme) +
+                           " was interrupted in another folder that stood here; this web was left "
+                           "as it is.");
+    }
+
+    void RollBack() {
+        changes_.RollBack();
+        web_.Reports().Add("A save of the theme " + Quoted(record_.theme) +
+                           " was interrupted; its changes were rolled back.");
+    }
+
+    bool Complete() {
+        try {
+            changes_.Complete();
+        } catch (const RunTimeError& error) {
+            changes_.RollBack();
+            web_.Reports().Add("A save of the theme " + Quoted(record_.theme) +
+                               " was interrupted and could not be completed; its changes were "
+                               "rolled back. " +
+                               error.what());
+            return false;
+        }
+        changes_.RemoveEarlier();
+        CompletePages();
+        web_.Reports().Add("A save of the theme " + Quoted(record_.theme) +
+                           " was interrupted; it has been completed.");
+        return true;
+    }
+
+    void CompletePages() {
+        if (record_.appliedTheme.empty()) return;
+        // Whoever gave the web another theme meanwhile has had the last word.
+        const std::string now = ThemeOfWeb(web_.Files().Root());
+        if (!EqualIgnoringCase(now, record_.webTheme) &&
+            !EqualIgnoringCase(now, record_.appliedTheme))
+            return;
+        PageUpdate pages(web_.TheDisk(), web_.Files(), record_.appliedTheme,
+                         [this](const std::string& sentence) { web_.Reports().Add(sentence); });
+        pages.Run(record_.program);
+        web_.SetThemeShown(pages.IsThemeShown());
+    }
+
+    WebSession& web_;
+    SaveJournal journal_;
+    SaveRecord record_;
+    SaveChanges changes_;
+};
+
+void TellOfOthers(WebSession& web, const SaveJournal& journal) {
+    for (const std::string& machine : journal.OtherMachines())
+        web.Reports().Add("A save of this web did not end on the machine " + Quoted(machine) +
+                          "; it is left to that machine.");
+    const auto themes = web.Files().FindFolder({std::string(kThemesFolder)});
+    if (themes && themes->Find(kEarlierJournal))
+        web.Reports().Add(Quoted(themes->PathOf(kEarlierJournal)) +
+                          " is the journal of an earlier version of this program, or of somebody "
+                          "else. It is left alone; look at the web's themes before you delete it.");
+}
+
+std::string RepairOrTell(WebSession& web) {
+    const SaveJournal journal(web.TheDisk(), web.Options().stores.saves);
+    TellOfOthers(web, journal);
+    auto record = journal.Read();
+    if (!record) return {};
+    if (!web.Options().IsForSaving()) {
+        web.Reports().Add("A save of the theme " + Quoted(record->theme) +
+                          " is running, or was interrupted; the next save repairs that.");
+        return {};
+    }
+    std::string holder;
+    const SaveLocks locks = TryLockForSave(web, holder);
+    // The save is still running: its program repairs nothing, and needs no repair.
+    if (!locks.AreHeld()) return {};
+    record = journal.Read();
+    return record ? SaveRepair(web, std::move(*record)).Run() : std::string();
+}
+
+}  // namespace
+
+std::string RepairSave(WebSession& web) {
+    if (web.Options().stores.saves.empty()) return {};
+    try {
+        return RepairOrTell(web);
+    } catch (const RunTimeError& error) {
+        web.Reports().Add(error.what());
+        return {};
+    }
+}
+
+}  // namespace morpho
