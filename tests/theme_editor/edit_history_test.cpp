@@ -159,6 +159,7 @@ TEST_F(EditHistoryTest, RandomEditsLeadToWhatAPlainHistorySays) {
             done += " " + word;
             Do(word);
             plain.Do(word);
+            ASSERT_EQ(window->sldHue.Value(), plain.hue) << done;
             ASSERT_EQ(window->cmdUndo.Enabled(), plain.mayUndo) << done;
             ASSERT_EQ(window->cmdRedo.Enabled(), !plain.redo.empty()) << done;
             for (const std::string& file : kFiles) {
