@@ -17,7 +17,7 @@ nlohmann::ordered_json RecolorReport(const frmThemeMorpho& window) {
     nlohmann::ordered_json elements = ElementsReport(window);
     for (int row = 0; row < window.Elements().Count(); ++row) {
         auto& element = elements[static_cast<std::size_t>(row)];
-        element["selected"] = window.Elements().Names().Selected(row);
+        element["selected"] = window.Elements().IsSelected(row);
         element["recoloured"] = window.IsRecoloured(row);
     }
     return {{"theme", window.cmbThemeName.Text()},

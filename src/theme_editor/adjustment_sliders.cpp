@@ -4,37 +4,37 @@
 
 namespace morpho {
 
-AdjustmentSliders::AdjustmentSliders(Slider& sldBrightness, Label& lblBVal, Slider& sldSaturation,
-                                     Label& lblSVal, Slider& sldHue, Label& lblHVal)
-    : brightness_(sldBrightness),
-      brightnessLabel_(lblBVal),
-      saturation_(sldSaturation),
-      saturationLabel_(lblSVal),
-      hue_(sldHue),
-      hueLabel_(lblHVal) {}
+namespace {
 
-bool AdjustmentSliders::AreNeutral() const {
-    return brightness_.Value() == kFactorRange.value && saturation_.Value() == kFactorRange.value &&
-           hue_.Value() == kHueRange.value;
+// The sliders of the factors count in per cent.
+double Factor(const Slider& slider) {
+    return slider.Value() / 100.0;
+}
+
+}  // namespace
+
+ElementAdjustment AdjustmentSliders::Adjustment() const {
+    return {Factor(saturation_.slider), static_cast<double>(hue_.slider.Value()),
+            Factor(brightness_.slider)};
 }
 
 void AdjustmentSliders::ShowValues() {
-    brightnessLabel_.SetCaption(std::to_string(brightness_.Value()) + " %");
-    saturationLabel_.SetCaption(std::to_string(saturation_.Value()) + " %");
-    hueLabel_.SetCaption(std::to_string(hue_.Value()));
+    for (const LabelledSlider& factor : {brightness_, saturation_})
+        factor.value.SetCaption(std::to_string(factor.slider.Value()) + " %");
+    hue_.value.SetCaption(std::to_string(hue_.slider.Value()));
 }
 
 void AdjustmentSliders::ShowValuesNow() {
     ShowValues();
-    for (Label* label : {&brightnessLabel_, &saturationLabel_, &hueLabel_})
-        label->Refresh();
+    for (const LabelledSlider& each : {brightness_, saturation_, hue_})
+        each.value.Refresh();
 }
 
 void AdjustmentSliders::MoveToNeutral() {
-    saturation_.SetValue(kFactorRange.value);
-    brightness_.SetValue(kFactorRange.value);
-    hue_.SetValue(kHueRange.value);
-    ShowValues();  // a thumb that was still being dragged has raised no Change
+    saturation_.slider.SetValueQuietly(kFactorRange.value);
+    brightness_.slider.SetValueQuietly(kFactorRange.value);
+    hue_.slider.SetValueQuietly(kHueRange.value);
+    ShowValues();
 }
 
 }  // namespace morpho

@@ -1,68 +1,48 @@
 #pragma once
 
-#include "forms/controls.h"
-#include "shared/component.h"
-#include "theme_editor/adjustment_sliders.h"
-#include "theme_editor/busy_switch.h"
-#include "theme_editor/colour_band.h"
 #include "theme_editor/edit_history.h"
+#include "theme_editor/element_list.h"
 #include "theme_editor/element_renderer.h"
-#include "theme_editor/element_selection.h"
-#include "theme_editor/theme_preview.h"
 
 namespace morpho {
 
-// What Colorization works with; all of it belongs to the window.
-struct ColorizationParts {
-    Form& form;
-    BusySwitch& busySwitch;
-    ElementList& elements;
-    ElementSelection& selection;
-    EditHistory& history;
-    ElementRenderer& renderer;
-    AdjustmentSliders& sliders;
-    ColourBand& band;
-    ThemePreview& preview;
-    CommandButton& cmdUndo;
-    CommandButton& cmdRedo;
-};
-
-// Recolours the ticked elements and moves through the history. A slider that settles keeps
-// rewriting the pending top step, Apply seals it, and the next change opens a new one.
+// Recolours the selected elements and moves through the history. However the steps of the history
+// came about, the work copy shows what a fresh run of them would show.
 class Colorization {
   public:
-    Colorization(const Program& program, const ColorizationParts& parts)
-        : program_(program), parts_(parts) {}
+    Colorization(ElementList& elements, EditHistory& history, ElementRenderer& renderer)
+        : elements_(elements), history_(history), renderer_(renderer) {}
 
-    // A theme has been loaded: no history, neutral sliders, nothing modified.
+    // A theme has been loaded: no history, nothing modified.
     void Begin();
     // The loaded theme's work copy has steps that were not saved.
     bool Modified() const { return modified_; }
     void SetModified(bool modified) { modified_ = modified; }
 
-    // Recolours the ticked elements with the sliders' values; `commit` seals the step.
-    void ProcessSelection(bool commit);
+    // Rewrites the pending step, or opens one, so that it does this to the selected elements.
+    void RenderSelection(const ElementAdjustment& adjustment);
+    // Seals the pending step and drops what could be redone.
+    void Commit();
+
+    // Each takes one step away or puts it back, rebuilds the pictures that it changes and selects
+    // their elements. Without such a step they do nothing.
     void Undo();
     void Redo();
+    // Drops all steps, restores every picture and selects all elements.
     void Reset();
 
-    // The ticked elements changed: while the sliders are off neutral, that ends the pending step.
-    void SelectionTouched();
-    // Puts the sliders and the band back to neutral without recolouring anything.
-    void ResetSliders();
     // A step of the history changed the element, and its working copy shows it.
     bool IsRecoloured(int row) const;
 
   private:
-    void OpenStepIfNeeded();
-    void RenderSelection();
-    void Render(int row);
+    void RenderChanged(const HistoryStep& step);
+    void SelectChanged(const HistoryStep& step);
+    void RenderElement(int row);
 
-    const Program program_;
-    ColorizationParts parts_;
+    ElementList& elements_;
+    EditHistory& history_;
+    ElementRenderer& renderer_;
     bool modified_ = false;
-    bool selectionChanged_ = false;  // the next processing opens a new step
-    bool suppressProcessing_ = false;
 };
 
 }  // namespace morpho

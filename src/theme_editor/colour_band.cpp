@@ -7,7 +7,7 @@
 #include "platform/run_time_error.h"
 #include "resources/resource_ids.h"
 #include "shared/log.h"
-#include "theme_editor/pointer_guard.h"
+#include "theme_editor/hourglass_pointer.h"
 
 namespace morpho {
 
@@ -32,12 +32,12 @@ void ColourBand::Open(Form& form, const std::string& tempPath) {
     bandColorizer_->SetAuxParameter2(0.0);
 }
 
-void ColourBand::UpdateColourBand() {
+void ColourBand::UpdateColourBand(const ElementAdjustment& adjustment) {
     if (!bandColorizer_) return;
     try {
-        bandColorizer_->SetHue(sliders_.Hue());
-        bandColorizer_->SetSaturation(sliders_.Saturation());
-        bandColorizer_->SetBrightness(sliders_.Brightness());
+        bandColorizer_->SetHue(adjustment.Hue);
+        bandColorizer_->SetSaturation(adjustment.Saturation);
+        bandColorizer_->SetBrightness(adjustment.Brightness);
         bandColorizer_->Colorize();
         picBand_.SetPicture(program_.platform.files.ReadFile(processedColorBandFile_));
         picBand_.Refresh();

@@ -6,27 +6,25 @@
 #include "forms/controls.h"
 #include "platform/colorizer.h"
 #include "shared/component.h"
-#include "theme_editor/adjustment_sliders.h"
+#include "theme_editor/element_adjustment.h"
 
 namespace morpho {
 
 // The strip of colours that follows the sliders: `imgBand` shows it as it is, `picBand` recoloured.
 class ColourBand {
   public:
-    ColourBand(const Program& program, const AdjustmentSliders& sliders, PictureBox& imgBand,
-               PictureBox& picBand)
-        : program_(program), sliders_(sliders), imgBand_(imgBand), picBand_(picBand) {}
+    ColourBand(const Program& program, PictureBox& imgBand, PictureBox& picBand)
+        : program_(program), imgBand_(imgBand), picBand_(picBand) {}
 
     // Writes the band picture into the temporary folder (with a trailing "\"), shows it and makes
     // the colorizer for it.
     void Open(Form& form, const std::string& tempPath);
     // Recolours the band and shows it. Before Open, or when recolouring fails, the strip stays as
     // it is.
-    void UpdateColourBand();
+    void UpdateColourBand(const ElementAdjustment& adjustment);
 
   private:
     const Program program_;
-    const AdjustmentSliders& sliders_;
     PictureBox& imgBand_;
     PictureBox& picBand_;
     std::string colorBandFile_;

@@ -6,44 +6,45 @@
 
 namespace morpho {
 
-void EditHistory::Steps::Push() {
-    if (Depth() == std::numeric_limits<std::int16_t>::max()) {
+void EditHistory::Push(Steps& steps, const HistoryStep& step) {
+    if (steps.size() == std::numeric_limits<std::int16_t>::max())
         throw RunTimeError(ErrorNumber::kOverflow, "Overflow");
-    }
-    steps_.emplace_back();
+    steps.push_back(step);
 }
 
-void EditHistory::Steps::Pop() {
-    if (!steps_.empty()) steps_.pop_back();
+void EditHistory::PushUndoStep() {
+    Push(undo_, {});
+    pending_ = true;
 }
 
-void EditHistory::Steps::SetTop(int row, const ElementAdjustment& record) {
-    if (!steps_.empty()) steps_.back().at(static_cast<std::size_t>(row)) = record;
+const ElementAdjustment& EditHistory::GetUndoRecord(int row) const {
+    return undo_.back().at(static_cast<std::size_t>(row));
 }
 
-std::optional<ElementAdjustment> EditHistory::Steps::At(int row, int step) const {
-    if (step < 1 || step > Depth()) return std::nullopt;
-    return steps_[static_cast<std::size_t>(step) - 1].at(static_cast<std::size_t>(row));
+void EditHistory::SetUndoRecord(int row, const ElementAdjustment& record) {
+    undo_.back().at(static_cast<std::size_t>(row)) = record;
 }
 
-void EditHistory::SetUndoRecord(int row, double brightness, double hue, double saturation) {
-    undo_.SetTop(row, {saturation, hue, brightness});
+HistoryStep EditHistory::Move(Steps& from, Steps& to) {
+    const HistoryStep step = from.back();
+    Push(to, step);
+    from.pop_back();
+    pending_ = false;
+    return step;
 }
 
-void EditHistory::SetRedoRecord(int row, double brightness, double hue, double saturation) {
-    redo_.SetTop(row, {saturation, hue, brightness});
+HistoryStep EditHistory::Undo() {
+    return Move(undo_, redo_);
 }
 
-std::optional<ElementAdjustment> EditHistory::GetUndoRecord(int row) const {
-    return undo_.At(row, UndoDepth());
+HistoryStep EditHistory::Redo() {
+    return Move(redo_, undo_);
 }
 
-std::optional<ElementAdjustment> EditHistory::GetRedoRecord(int row) const {
-    return redo_.At(row, RedoDepth());
-}
-
-std::optional<ElementAdjustment> EditHistory::GetUndoRecordAt(int row, int step) const {
-    return undo_.At(row, step);
+void EditHistory::Clear() {
+    undo_.clear();
+    redo_.clear();
+    pending_ = false;
 }
 
 }  // namespace morpho

@@ -35,13 +35,13 @@ bool ElementRenderer::Rebuild(int row) {
     colorizer->SetDestinationFile(work_ + file);
     colorizer->SetAuxParameter1(0.0);
     colorizer->SetAuxParameter2(0.0);
-    if (history_.UndoDepth() < 1) {
+    if (history_.IsUndoEmpty()) {
         program_.platform.files.Copy(colorizer->SourceFile(), colorizer->DestinationFile());
         return false;
     }
     if (IsJpegFile(colorizer->SourceFile()) && askJpegQuality_ == kAsk) AskQuality(*colorizer);
-    for (int step = 1; step <= history_.UndoDepth(); ++step) {
-        const ElementAdjustment record = history_.GetUndoRecordAt(row, step).value();
+    for (const HistoryStep& step : history_.UndoSteps()) {
+        const ElementAdjustment& record = step.at(static_cast<std::size_t>(row));
         colorizer->SetHue(record.Hue);
         colorizer->SetSaturation(record.Saturation);
         colorizer->SetBrightness(record.Brightness);

@@ -25,12 +25,11 @@ class ElementRenderer {
     void AskQualityAgain() { askJpegQuality_ = kAsk; }
 
     // Rebuilds the element's working copy: a copy of the original without history, else one pass a
-    // step. Returns whether the copy now differs in standing from the original, that is, whether
-    // all passes ran. What fails ends the rebuilding, silently: the copy stays as it is and
-    // Failures tells.
+    // step. Returns true when all passes ran. An error ends the rebuilding silently: the copy stays
+    // as it is, and Failures says why.
     bool RenderElement(int row);
 
-    // What ended the last rebuilding of an element, by row; empty when all is well.
+    // What ended the last rebuilding of an element, by row; empty when none failed.
     const std::map<int, std::string>& Failures() const { return failures_; }
 
   private:

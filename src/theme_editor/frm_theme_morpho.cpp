@@ -10,36 +10,28 @@
 #include "resources/resource_ids.h"
 #include "shared/mod_shared_code.h"
 #include "shared/settings.h"
-#include "theme_editor/frm_prompt_duplicate.h"
 
 namespace morpho {
 
 namespace {
 
 constexpr Size kDesignSize{14400, 9900};
-constexpr std::string_view kDuplicateNoticeText =
-    "In selecting or deselecting this element, you may have noticed that multiple theme elements "
-    "were "
-    "selected or deselected. This is because the image associated with this element is also used "
-    "by other "
-    "elements in this theme.";
 
 }  // namespace
 
 frmThemeMorpho::frmThemeMorpho(const Program& program)
     : LoggedForm(program, {"frmThemeMorpho", kThemeProduct, kDesignSize, BorderStyle::kSizable}),
-      band_(program, sliders_, imgBand, picBand),
+      band_(program, imgBand, picBand),
       renderer_(program, elements_, history_),
       preview_(program, *this, elements_, wbbImagePreview),
       loader_(program, elements_),
       selection_(
           program, elements_, [this] { return ShowDuplicateNotice(); },
-          [this] { colorization_.SelectionTouched(); }),
-      colorization_(program, {*this, busySwitch_, elements_, selection_, history_, renderer_,
-                              sliders_, band_, preview_, cmdUndo, cmdRedo}),
+          [this] { SelectionTouched(); }),
       saver_(program, *this, busySwitch_, lblStatus) {
     cmbThemeName.SetVisible(false);
     lstGifNames.SetVisible(false);
+    elements_.OnChange([this] { ShowElements(); });
 }
 
 void frmThemeMorpho::Form_Paint() {
@@ -79,11 +71,11 @@ void frmThemeMorpho::LoadCurrentTheme() {
     } catch (const RunTimeError& error) {
         // The earlier theme's work copy is gone: none of its steps may be replayed, or asked about.
         loadFailure_ = error.what();
-        colorization_.Begin();
+        BeginEditing();
         throw;
     }
     preview_.GeneratePreview(loading_);
-    colorization_.Begin();
+    BeginEditing();
     cmdSelectAll_Click();
 }
 
@@ -117,7 +109,7 @@ LoadedTheme frmThemeMorpho::Loaded() const {
 bool frmThemeMorpho::Saved(SaveOutcome outcome) {
     if (outcome == SaveOutcome::kNotSaved) return false;
     // Steps that are part of the originals now must not be replayed on them.
-    if (outcome == SaveOutcome::kSavedOverOriginals) colorization_.Begin();
+    if (outcome == SaveOutcome::kSavedOverOriginals) BeginEditing();
     colorization_.SetModified(false);
     return true;
 }
@@ -128,50 +120,6 @@ void frmThemeMorpho::cmdSave_Click() {
 
 void frmThemeMorpho::cmdSaveAs_Click() {
     Saved(saver_.SaveThemeAs(Loaded(), false));
-}
-
-void frmThemeMorpho::lstImageNames_ItemCheck(int index) {
-    selection_.ItemChecked(index);
-}
-void frmThemeMorpho::cmdSelectAll_Click() {
-    selection_.SelectAll();
-}
-void frmThemeMorpho::cmdSelectNone_Click() {
-    selection_.SelectNone();
-}
-void frmThemeMorpho::cmdSelectActive_Click() {
-    selection_.SelectActive();
-}
-void frmThemeMorpho::cmdSelectNormal_Click() {
-    selection_.SelectNormal();
-}
-
-bool frmThemeMorpho::ShowDuplicateNotice() {
-    frmPromptDuplicate notice(TheProgram());
-    return notice.ShowDuplicateNoticeDialog(kDuplicateNoticeText, kThemeProduct, kInformationIcon);
-}
-
-void frmThemeMorpho::Slider_Scroll() {
-    sliders_.ShowValuesNow();
-    band_.UpdateColourBand();
-}
-
-void frmThemeMorpho::Slider_Change() {
-    sliders_.ShowValues();
-    colorization_.ProcessSelection(false);
-}
-
-void frmThemeMorpho::cmdApply_Click() {
-    colorization_.ProcessSelection(true);
-}
-void frmThemeMorpho::cmdUndo_Click() {
-    colorization_.Undo();
-}
-void frmThemeMorpho::cmdRedo_Click() {
-    colorization_.Redo();
-}
-void frmThemeMorpho::cmdReset_Click() {
-    colorization_.Reset();
 }
 
 void frmThemeMorpho::cmdCancel_Click() {

@@ -5,9 +5,14 @@
 #include "forms/controls.h"
 #include "forms/lists.h"
 #include "shared/logged_form.h"
+#include "theme_editor/adjustment_sliders.h"
+#include "theme_editor/busy_switch.h"
 #include "theme_editor/colorization.h"
+#include "theme_editor/colour_band.h"
+#include "theme_editor/element_selection.h"
 #include "theme_editor/product.h"
 #include "theme_editor/theme_loader.h"
+#include "theme_editor/theme_preview.h"
 #include "theme_editor/theme_saver.h"
 
 namespace morpho {
@@ -228,8 +233,26 @@ class frmThemeMorpho : public LoggedForm {
     void SavePlacement();
     void DeleteWorkFolder();
     void LayOut();
-    bool ShowDuplicateNotice();
     void ShowQuickReference();
+
+    // Lets the two lists show the elements.
+    void ShowElements();
+    // Explains that elements of one image are selected together; returns whether to show it again.
+    bool ShowDuplicateNotice();
+    // The person has changed the selection: while the sliders are off neutral, that ends the
+    // pending step.
+    void SelectionTouched();
+
+    // Recolours the selected elements with the sliders' values; `commit` seals the step.
+    void ProcessSelection(bool commit);
+    // `name` is the move's own in the log.
+    void MoveInHistory(const std::string& name, void (Colorization::*move)());
+    // A theme has been loaded: no history, neutral sliders, nothing modified.
+    void BeginEditing();
+    // Puts the sliders and the band back to neutral without recolouring anything.
+    void ResetSliders();
+    void UpdateColourBand();
+    void EnableHistoryButtons();
 
     std::string WorkRoot() const { return tempPath_ + "Morpho"; }
     std::string Setting(std::string_view key, std::string_view fallback) const;
@@ -245,9 +268,10 @@ class frmThemeMorpho : public LoggedForm {
     bool revertingCombo_ = false;
     std::string loadFailure_;
 
-    ElementList elements_{lstImageNames, lstGifNames};
+    ElementList elements_;
     EditHistory history_;
-    AdjustmentSliders sliders_{sldBrightness, lblBVal, sldSaturation, lblSVal, sldHue, lblHVal};
+    AdjustmentSliders sliders_{
+        {sldBrightness, lblBVal}, {sldSaturation, lblSVal}, {sldHue, lblHVal}};
     BusySwitch busySwitch_{
         *this, {&frameImageList, &frameImageListControl, &frameMenu, &framePreview, &frameProcess}};
     ColourBand band_;
@@ -255,7 +279,7 @@ class frmThemeMorpho : public LoggedForm {
     ThemePreview preview_;
     ThemeLoader loader_;
     ElementSelection selection_;
-    Colorization colorization_;
+    Colorization colorization_{elements_, history_, renderer_};
     ThemeSaver saver_;
 };
 

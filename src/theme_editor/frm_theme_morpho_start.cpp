@@ -104,7 +104,7 @@ void frmThemeMorpho::ListThemes() {
 void frmThemeMorpho::OpenFirstTheme() {
     cmbThemeLabel.SetListIndex(0);
     band_.Open(*this, tempPath_);
-    band_.UpdateColourBand();
+    UpdateColourBand();
 }
 
 void frmThemeMorpho::StartUpFailed(const RunTimeError* error) {

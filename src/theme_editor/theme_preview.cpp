@@ -8,7 +8,7 @@
 #include "resources/resource_ids.h"
 #include "shared/log.h"
 #include "text/ignoring_case.h"
-#include "theme_editor/pointer_guard.h"
+#include "theme_editor/hourglass_pointer.h"
 
 namespace morpho {
 

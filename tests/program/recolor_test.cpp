@@ -55,6 +55,13 @@ TEST_F(RecolorCommand, UndoGivesBackEveryByte) {
         EXPECT_FALSE(element["recoloured"]) << element["key"];
 }
 
+TEST_F(RecolorCommand, UndoOfAStepThatWasNotAppliedLeavesTheAppliedOnes) {
+    const std::string recolor = "recolor WEB --theme orrery --hue 10 --apply ";
+    Report(recolor + "--hue 20 --undo --hue 30 --apply --export " + home_ / "undone");
+    Report(recolor + "--hue 30 --apply --export " + home_ / "straight");
+    EXPECT_EQ(home_.FilesIn("undone"), home_.FilesIn("straight"));
+}
+
 TEST_F(RecolorCommand, AsksTheQualityThatWasGivenLast) {
     const auto size = [&](const std::string& steps, const std::string& folder) {
         Report("recolor WEB --theme orrery --select none,global/background-image " + steps +

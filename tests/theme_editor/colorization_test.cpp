@@ -50,18 +50,6 @@ TEST_F(ColorizationTest, DraggingColoursTheBandAloneAndSettlingTheTickedElements
     ExpectPicture("bullet.gif", "blends/bullet.gif");
 }
 
-TEST_F(ColorizationTest, SettlingAgainRewritesThePendingStepUntilApplySealsIt) {
-    Tick({kButton});
-    window->sldHue.UserSettle(40);
-    window->sldHue.UserSettle(50);
-    ExpectPicture("button.gif", "blends/button.gif|h50 s1 b1");
-    EXPECT_FALSE(window->cmdUndo.Enabled() || window->cmdRedo.Enabled());
-    window->cmdApply.UserClick();
-    ExpectButtons(true, false);
-    window->sldHue.UserSettle(60);
-    ExpectPicture("button.gif", "blends/button.gif|h50 s1 b1|h60 s1 b1");
-}
-
 TEST_F(ColorizationTest, ApplyWithNeutralSlidersDoesNothingAtAll) {
     Tick({kButton});
     window->sldHue.UserSettle(40);
@@ -70,8 +58,6 @@ TEST_F(ColorizationTest, ApplyWithNeutralSlidersDoesNothingAtAll) {
     window->cmdApply.UserClick();
     EXPECT_THAT(Log(), IsEmpty());
     EXPECT_THAT(world.colorizers.calls, IsEmpty());
-    window->sldHue.UserSettle(50);
-    EXPECT_EQ(window->History().UndoDepth(), 1) << "the pending step stays pending";
 }
 
 TEST_F(ColorizationTest, WithNothingTickedItSaysSoAndPutsTheSlidersBack) {
@@ -115,13 +101,6 @@ TEST_F(ColorizationTest, UndoAndRedoRebuildWhatTheStepChangedAndTickIt) {
     ExpectPicture("bullet.gif", "blends/bullet.gif|h40 s1 b1|h50 s1 b1");
     EXPECT_EQ(Log().back(), "Redo over");
     ExpectButtons(true, false);
-
-    window->sldHue.UserScroll(70);  // a thumb that is still held goes back
-    window->cmdUndo.UserClick();
-    ExpectButtons(true, true);
-    Apply(60);
-    ExpectButtons(true, false);
-    EXPECT_EQ(window->History().RedoDepth(), 0);
 }
 
 TEST_F(ColorizationTest, ResetRestoresEveryOriginalByteForByte) {
@@ -180,18 +159,6 @@ TEST_F(ColorizationTest, AnElementThatFailsIsLeftSilentlyAndTheOthersGoOn) {
     EXPECT_THAT(window->Renderer().Failures(), testing::SizeIs(1));
     EXPECT_FALSE(window->IsRecoloured(kButton) || window->IsRecoloured(kLine));
     EXPECT_TRUE(window->IsRecoloured(kBullet));
-}
-
-TEST(EditHistory, Has41RowsAndNoMoreThan32767Steps) {
-    EditHistory history;
-    history.PopUndoStep();
-    EXPECT_FALSE(history.GetUndoRecord(0));
-    for (int step = 1; step <= 32767; ++step)
-        history.PushUndoStep();
-    EXPECT_THROW(history.PushUndoStep(), RunTimeError);
-    EXPECT_TRUE(history.GetUndoRecordAt(40, 32767)->IsNeutral());
-    EXPECT_FALSE(history.GetUndoRecordAt(40, 0));
-    EXPECT_ANY_THROW(history.SetUndoRecord(41, 1, 0, 1));
 }
 
 }  // namespace

@@ -72,22 +72,5 @@ TEST_F(ElementSelectionTest, SelectActiveAndNormalAddElementsAndWhatSharesTheirI
                     "Selecting normal theme elements...", "Normal theme elements selected."));
 }
 
-TEST_F(ElementSelectionTest, TickingEndsThePendingStepUnlessTheSlidersAreNeutral) {
-    Tick({kButton});
-    window->sldHue.UserSettle(40);
-    window->cmdApply.UserClick();
-    window->cmdUndo.UserClick();
-    window->lstImageNames.UserCheck(kBullet, true);
-    EXPECT_TRUE(window->cmdRedo.Enabled() && !window->cmdUndo.Enabled());
-
-    window->sldHue.UserSettle(40);
-    window->lstImageNames.UserCheck(kLine, true);
-    EXPECT_EQ(window->lblHVal.Caption(), "0");
-    EXPECT_TRUE(window->cmdUndo.Enabled() && !window->cmdRedo.Enabled());
-    window->sldHue.UserSettle(50);
-    ExpectPicture("button.gif", "blends/button.gif|h40 s1 b1|h50 s1 b1");
-    ExpectPicture("line.jpg", "blends/line.jpg|h0 s1 b1 q60|h50 s1 b1 q60");
-}
-
 }  // namespace
 }  // namespace morpho::test

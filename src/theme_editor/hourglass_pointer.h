@@ -4,18 +4,19 @@
 
 namespace morpho {
 
-// Shows the hourglass while it lives, and the default pointer afterwards.
+// Shows the hourglass while it lives, and the earlier pointer afterwards.
 class HourglassPointer {
   public:
-    explicit HourglassPointer(Form& form) : form_(form) {
+    explicit HourglassPointer(Form& form) : form_(form), earlier_(form.Pointer()) {
         form_.SetPointer(MousePointer::kHourglass);
     }
-    ~HourglassPointer() { form_.SetPointer(MousePointer::kDefault); }
+    ~HourglassPointer() { form_.SetPointer(earlier_); }
     HourglassPointer(const HourglassPointer&) = delete;
     HourglassPointer& operator=(const HourglassPointer&) = delete;
 
   private:
     Form& form_;
+    MousePointer earlier_;
 };
 
 }  // namespace morpho
