@@ -22,7 +22,7 @@ constexpr FileAttributes kNotNormal = kFolderAttribute | kHiddenAttribute | kSys
 WebThemeFolder::~WebThemeFolder() {
     try {
         if (created_) Delete();
-    } catch (const RunTimeError&) {
+    } catch (const std::exception&) {
         // No page uses it. The next save of this name writes all its files anew.
     }
 }

@@ -222,9 +222,9 @@ TEST_F(SaveTheme, NamesWhatFailedAndWhere) {
     world.application.web.reset();
     world.files.DeleteFolder(kUserThemes + "bay");
     expectFailure("5B (The web has no folder for the theme) occured on line 6");
-    EXPECT_EQ(window->SaveFailure(), "The web has no folder for the theme");
+    EXPECT_EQ(window->LastSave().failure, "The web has no folder for the theme");
     SaveAs("", "", true);
-    EXPECT_EQ(window->SaveFailure(), "");
+    EXPECT_EQ(window->LastSave().failure, "");
 }
 
 }  // namespace
