@@ -1,5 +1,7 @@
 #include "theme_editor/theme_preview.h"
 
+#include <exception>
+
 #include "formats/web_text.h"
 #include "platform/code_page.h"
 #include "platform/file_system.h"

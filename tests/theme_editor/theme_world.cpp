@@ -157,6 +157,14 @@ std::vector<const Control*> OperatedControls(const Container& container) {
     return operated;
 }
 
+Lines ThemeWindow::Operable() const {
+    Lines operable;
+    for (const Control* control : OperatedControls(*window)) {
+        if (control->IsOperable()) operable.push_back(control->Name());
+    }
+    return operable;
+}
+
 SaveWorld::SaveWorld() {
     FakeRegistry& registry = world.registry;
     registry.Put(kClassesRoot, "FrontPage.Explorer.6.0\\CLSID", "", "{FP}");

@@ -43,6 +43,24 @@ class Onlooker : public Peer {
     Control& control_;
 };
 
+// Runs out of memory when the control is to show this of it, such as its picture.
+class Exhausted : public Peer {
+  public:
+    Exhausted(Control& control, Aspects aspect) : control_(control), aspect_(aspect) {
+        control_.Attach(this);
+    }
+    ~Exhausted() override { control_.Attach(nullptr); }
+
+  protected:
+    void Write(Aspects changed) override {
+        if (changed == aspect_) throw std::bad_alloc();
+    }
+
+  private:
+    Control& control_;
+    Aspects aspect_;
+};
+
 // The Theme Morpho window in a world where it has all it needs but themes. The log goes to the
 // debugger output, and neither the About box nor the quick reference is shown at the start.
 struct ThemeWorld {
@@ -83,7 +101,8 @@ class ThemeWindow : public testing::Test, protected ThemeWorld {
     // Ticks these rows alone and forgets what was logged and asked until then.
     void Tick(const std::vector<int>& rows);
     std::vector<int> Ticked() const;
-    Lines Listed() const;  // "key=file", in the list's order
+    Lines Listed() const;    // "key=file", in the list's order
+    Lines Operable() const;  // the controls with which a person can work now
     void ExpectPicture(const std::string& file, const std::string& bytes) const;
 };
 
