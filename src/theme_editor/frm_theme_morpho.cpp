@@ -93,10 +93,10 @@ void frmThemeMorpho::LoadFailed(const std::string& name) {
     currentThemeIndex_ = kNoEntry;
     ShowCurrentTheme(kNoEntry);
     preview_.ShowNothing();
-    elements_.Clear();
-    colorization_.Begin();
     EnableThemeControls(false);
     ShowLoadFailure("\"" + name + "\" cannot be loaded: " + loadFailure_);
+    elements_.Clear();
+    colorization_.Begin();
 }
 
 void frmThemeMorpho::EnableThemeControls(bool enabled) {
