@@ -29,7 +29,7 @@ inline const std::string kHostThemes = "C:\\Cache\\FrontPageTempDir\\mstheme\\";
 inline const std::string kWebThemes = "C:\\Web\\_themes\\";
 inline const std::string kWorkRoot = "C:\\Temp\\Morpho\\";
 
-// Remembers what a control was told to show: a browser what it does, a label its text.
+// Remembers what a browser was told to do.
 class Onlooker : public Peer {
   public:
     explicit Onlooker(Control& control) : control_(control) { control_.Attach(this); }
@@ -41,24 +41,6 @@ class Onlooker : public Peer {
 
   private:
     Control& control_;
-};
-
-// Runs out of memory when the control is to show this of it, such as its picture.
-class Exhausted : public Peer {
-  public:
-    Exhausted(Control& control, Aspects aspect) : control_(control), aspect_(aspect) {
-        control_.Attach(this);
-    }
-    ~Exhausted() override { control_.Attach(nullptr); }
-
-  protected:
-    void Write(Aspects changed) override {
-        if (changed == aspect_) throw std::bad_alloc();
-    }
-
-  private:
-    Control& control_;
-    Aspects aspect_;
 };
 
 // The Theme Morpho window in a world where it has all it needs but themes. The log goes to the

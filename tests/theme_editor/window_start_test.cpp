@@ -10,9 +10,6 @@ class WindowStartTest : public ThemeWindow {
     // That start-up fails: only Close, Help and About remain.
     void ExpectUnusable() {
         Open();
-        ExpectOnlyTheWayOut();
-    }
-    void ExpectOnlyTheWayOut() {
         EXPECT_THAT(Operable(), ElementsAre("cmdCancel", "btnAbout", "btnHelp"));
         EXPECT_TRUE(Log().empty() || Log().back() == "Error occured while loading TM");
     }
@@ -86,15 +83,13 @@ TEST_F(WindowStartTest, ListsOnlyThemesThatTheHostHasUnpackedAndSaysWhenThereAre
 }
 
 TEST_F(WindowStartTest, SaysWhenTheColorizerIsMissingAndEndsWithoutAMessageAtAnyOtherError) {
+    std::map<LanguageUse, int> languages;
     world.files.FailOn("C:\\Temp\\ColorBand.jpg");
     ExpectUnusable();
     world.files.FailNoMore();
-    window.emplace(world.program);
-    {
-        const Exhausted picture(window->imgBand, aspect::kPicture);
-        window->Load();
-        ExpectOnlyTheWayOut();
-    }
+    world.application.languages.swap(languages);  // throws what is no error of ours
+    ExpectUnusable();
+    world.application.languages.swap(languages);
     world.colorizers.creatable = false;
     ExpectUnusable();
     ExpectMessage(1,
