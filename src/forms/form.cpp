@@ -1,7 +1,5 @@
 #include "forms/form.h"
 
-#include <new>
-
 namespace morpho {
 
 Form::Form(Toolkit& toolkit, const FormSpec& spec)
@@ -87,12 +85,8 @@ void Form::Painted() {
 void Form::RunHandler(std::string_view name, const std::function<void()>& handler) {
     try {
         handler();
-    } catch (const RunTimeError& error) {
-        HandlerFailed(name, error);
-    } catch (const std::bad_alloc&) {
-        HandlerFailed(name, {ErrorNumber::kOutOfMemory, "Out of memory"});
     } catch (const std::exception& error) {
-        HandlerFailed(name, {ErrorNumber::kInternal, error.what()});
+        HandlerFailed(name, AsRunTimeError(error));
     }
 }
 

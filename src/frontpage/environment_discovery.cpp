@@ -122,7 +122,7 @@ std::string GetTempPath(const Platform& platform) {
 std::string GetOSInfo(const Platform& platform) {
     const OsVersion os = platform.environment.Os();
     const std::string number = std::to_string(os.major) + '.' + std::to_string(os.minor);
-    std::string info;
+    std::string info = os.description;
     if (os.platformId == kWindowsNtPlatform) {
         info = (os.major < 5 ? "WinNT ver. " : "Win2K ver. ") + number +
                " Build: " + std::to_string(os.build) + ' ' + os.servicePack;

@@ -1,13 +1,13 @@
 #include "frontpage/mod_fpole.h"
 
 #include <charconv>
+#include <exception>
 #include <initializer_list>
 #include <vector>
 
 #include "frontpage/environment_discovery.h"
 #include "platform/automation.h"
 #include "platform/platform.h"
-#include "platform/run_time_error.h"
 #include "text/ignoring_case.h"
 
 namespace morpho {
@@ -21,7 +21,7 @@ AutomationValue CallExplorer(const Program& program, std::string_view method,
             program.platform.automation.CreateObject(program.component.explorerProgId);
         if (!explorer) return {};
         return explorer->Call(method, std::vector<AutomationValue>(arguments));
-    } catch (const RunTimeError&) {
+    } catch (const std::exception&) {
         return {};
     }
 }

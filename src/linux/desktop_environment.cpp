@@ -30,8 +30,9 @@ OsVersion DesktopEnvironment::Os() const {
     OsVersion version;
     version.platformId = kOtherPlatform;
     utsname name = {};
-    if (::uname(&name) == 0)
-        std::sscanf(name.release, "%u.%u.%u", &version.major, &version.minor, &version.build);
+    if (::uname(&name) != 0) return version;
+    std::sscanf(name.release, "%u.%u.%u", &version.major, &version.minor, &version.build);
+    version.description = std::string(name.sysname) + ' ' + name.release + ' ' + name.machine;
     return version;
 }
 

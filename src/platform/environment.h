@@ -14,7 +14,8 @@ struct OsVersion {
     std::uint32_t major = 0;
     std::uint32_t minor = 0;
     std::uint32_t build = 0;
-    std::string servicePack;  // may be empty
+    std::string servicePack = {};  // may be empty
+    std::string description = {};  // one line for the log, of a system that is none of these two
 };
 
 // This component's own version, as built.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <new>
 #include <stdexcept>
 #include <string>
 
@@ -38,5 +39,13 @@ class RunTimeError : public std::runtime_error {
   private:
     ErrorNumber number_;
 };
+
+// Any error as one of ours: what the standard library throws has a number and a text too.
+inline RunTimeError AsRunTimeError(const std::exception& error) {
+    if (const auto* own = dynamic_cast<const RunTimeError*>(&error)) return *own;
+    if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr)
+        return {ErrorNumber::kOutOfMemory, "Out of memory"};
+    return {ErrorNumber::kInternal, error.what()};
+}
 
 }  // namespace morpho

@@ -151,8 +151,9 @@ void BatchWindow::RefuseMessages() {
     const auto& messages = toolkit_.Messages();
     for (; messagesSeen_ < messages.size(); ++messagesSeen_) {
         const HeadlessToolkit::Message& message = messages[messagesSeen_];
-        if (IsQuestion(message.flags)) continue;
-        const std::string& reason = window_.SaveFailure();
+        // A notice of a save that went well is for the report.
+        if (IsQuestion(message.flags) || message.text == window_.LastSave().notice) continue;
+        const std::string& reason = window_.LastSave().failure;
         throw CommandError(CommandError::Status::kRefused,
                            reason.empty() ? message.text : message.text + " " + reason);
     }

@@ -75,10 +75,8 @@ std::string Save(const RecolorRequest& request, const UserFolders& folders, std:
                        {"title", saved.title},
                        {"web", asNew ? request.outcome.applyToWeb : applied},
                        {"applied", applied}};
-    if (!asNew && !applied) {
-        warnings += "The web does not use \"" + saved.name +
-                    "\": it is saved among your own themes only.\n";
-    }
+    const std::string& notice = window.Window().LastSave().notice;
+    if (!notice.empty()) warnings += notice + "\n";
     for (const std::string& sentence : batch.Reports())
         warnings += sentence + "\n";
     return Printed(report, request);

@@ -1,7 +1,8 @@
 #include "theme_editor/folder_backup.h"
 
+#include <exception>
+
 #include "platform/file_system.h"
-#include "platform/run_time_error.h"
 #include "shared/mod_shared_code.h"
 
 namespace morpho {
@@ -21,7 +22,7 @@ FolderBackup::~FolderBackup() {
         PutBack(path, bytes);
     try {
         if (!existed_ && FolderExists(files_, folder_)) files_.DeleteFolder(folder_);
-    } catch (const RunTimeError&) {
+    } catch (const std::exception&) {
         // Whole files of a theme that nothing uses yet; whoever copies there next overwrites them.
     }
 }
@@ -29,7 +30,7 @@ FolderBackup::~FolderBackup() {
 void FolderBackup::PutBack(const std::string& path, const std::string& bytes) {
     try {
         if (!files_.Find(path) || files_.ReadFile(path) != bytes) files_.WriteFile(path, bytes);
-    } catch (const RunTimeError&) {
+    } catch (const std::exception&) {
         // The others may still go back.
     }
 }

@@ -53,8 +53,7 @@ void frmThemeMorpho::cmbThemeName_Click() {
     WriteLog("Changing theme combo selection to " + cmbThemeName.Text() + "...");
     if (colorization_.Modified() && !MayLeaveTheme(false)) {
         WriteLog("Theme change/save cancelled. Reverting combo selections...");
-        revertingCombo_ = true;
-        cmbThemeLabel.SetListIndex(currentThemeIndex_);
+        ShowCurrentTheme(currentThemeIndex_);
         return;
     }
     LoadCurrentTheme();
@@ -64,19 +63,52 @@ void frmThemeMorpho::LoadCurrentTheme() {
     currentThemeIndex_ = cmbThemeName.ListIndex();
     const std::string name = cmbThemeName.Text();
     loadFailure_.clear();
+    ShowLoadFailure({});
     renderer_.SetFolders(fpThemeTempPath_ + name + "\\", WorkFolder() + "\\");
     preview_.SetTheme(name, WorkRoot() + "\\Theme.htm");
     try {
         loader_.LoadTheme(name, fpThemeTempPath_ + name, WorkRoot());
-    } catch (const RunTimeError& error) {
-        // The earlier theme's work copy is gone: none of its steps may be replayed, or asked about.
-        loadFailure_ = error.what();
+        preview_.GeneratePreview(loading_);
+        EnableThemeControls(true);
         BeginEditing();
+        cmdSelectAll_Click();
+    } catch (const std::exception& error) {
+        loadFailure_ = AsRunTimeError(error).what();
+        LoadFailed(name);
         throw;
     }
-    preview_.GeneratePreview(loading_);
+}
+
+// The earlier theme's work copy is gone: nothing of it may be shown, replayed, asked about or
+// saved. No entry is current, so that picking the same one again loads it.
+void frmThemeMorpho::LoadFailed(const std::string& name) {
+    currentThemeIndex_ = kNoEntry;
+    ShowCurrentTheme(kNoEntry);
+    preview_.ShowNothing();
+    EnableThemeControls(false);
+    ShowLoadFailure("\"" + name + "\" cannot be loaded: " + loadFailure_);
+    elements_.Clear();
     BeginEditing();
-    cmdSelectAll_Click();
+}
+
+void frmThemeMorpho::EnableThemeControls(bool enabled) {
+    Control* const controls[] = {&lstImageNames,   &cmdSelectAll,  &cmdSelectNone, &cmdSelectActive,
+                                 &cmdSelectNormal, &sldBrightness, &sldSaturation, &sldHue,
+                                 &cmdApply,        &cmdUndo,       &cmdRedo,       &cmdReset,
+                                 &cmdSave,         &cmdSaveAs};
+    for (Control* control : controls)
+        control->SetEnabled(enabled);
+}
+
+void frmThemeMorpho::ShowCurrentTheme(int index) {
+    revertingCombo_ = true;
+    cmbThemeLabel.SetListIndex(index);
+    revertingCombo_ = false;  // nothing has reset it where that entry was shown already
+}
+
+void frmThemeMorpho::ShowLoadFailure(const std::string& text) {
+    lblStatus.SetCaption(text);
+    lblStatus.SetToolTip(text);  // the label is short
 }
 
 std::string frmThemeMorpho::WorkFolder() const {
@@ -103,14 +135,20 @@ bool frmThemeMorpho::SaveLoadedTheme(bool applyFlag) {
 LoadedTheme frmThemeMorpho::Loaded() const {
     const std::string& name = cmbThemeName.List(currentThemeIndex_);
     return {name, cmbThemeLabel.List(currentThemeIndex_), WorkRoot() + "\\" + name + "\\",
-            fpThemeTempPath_, loadFailure_};
+            fpThemeTempPath_};
 }
 
 bool frmThemeMorpho::Saved(SaveOutcome outcome) {
-    if (outcome == SaveOutcome::kNotSaved) return false;
+    lastSave_ = std::move(outcome);
+    if (!lastSave_.saved) return false;
     // Steps that are part of the originals now must not be replayed on them.
-    if (outcome == SaveOutcome::kSavedOverOriginals) BeginEditing();
+    if (lastSave_.overOriginals) BeginEditing();
     colorization_.SetModified(false);
+    const std::optional<Theme>& added = lastSave_.added;
+    if (added && cmbThemeName.FindExact(added->name) == kNoEntry) {
+        cmbThemeName.AddItem(added->name);
+        cmbThemeLabel.AddItem(added->label);
+    }
     return true;
 }
 
@@ -138,9 +176,11 @@ void frmThemeMorpho::ShowAboutBox() {
 }
 
 void frmThemeMorpho::btnHelp_Click() {
-    const Platform& platform = ThePlatform();
-    platform.shell.WinExec("Winhlp32.exe " + platform.environment.ModuleFolder() + "\\morpho.hlp",
-                           1);
+    constexpr int kHighestFailure = 31;
+    const std::string help = ThePlatform().environment.ModuleFolder() + "\\morpho.hlp";
+    if (ThePlatform().shell.WinExec("Winhlp32.exe " + help, 1) > kHighestFailure) return;
+    WriteLog("Cannot open " + help);
+    MsgBox("The help cannot be opened.", kOkOnly | kCriticalIcon, kThemeProduct);
 }
 
 void frmThemeMorpho::Form_QueryUnload(bool& cancel, bool /*byUser*/) {

@@ -182,8 +182,8 @@ class frmThemeMorpho : public LoggedForm {
     std::string WorkFolder() const;
     // What ended the last theme load; empty when it went well.
     const std::string& LoadFailure() const { return loadFailure_; }
-    // What ended the last save; empty when it went well, or said itself why not.
-    const std::string& SaveFailure() const { return saver_.Failure(); }
+    // How the last save ended.
+    const SaveOutcome& LastSave() const { return lastSave_; }
 
   protected:
     void Form_Load() override;
@@ -223,12 +223,19 @@ class frmThemeMorpho : public LoggedForm {
     void StartUpFailed(const RunTimeError* error);
 
     void LoadCurrentTheme();
+    void LoadFailed(const std::string& name);
+    // Enables, or disables, what works on a loaded theme.
+    void EnableThemeControls(bool enabled);
+    // Shows an entry as the current theme, or none, without loading anything.
+    void ShowCurrentTheme(int index);
+    // Tells in the status line; empty: nothing to tell.
+    void ShowLoadFailure(const std::string& text);
     // Asks what to do with unsaved changes; false when the person, or a failed save, wants to stay.
     bool MayLeaveTheme(bool closing);
     // Saves the loaded theme under its own name and label.
     bool SaveLoadedTheme(bool applyFlag);
     LoadedTheme Loaded() const;
-    // Takes note of how a save ended; says whether the theme was saved.
+    // Brings the window in line with how a save ended; says whether the theme was saved.
     bool Saved(SaveOutcome outcome);
     void SavePlacement();
     void DeleteWorkFolder();
@@ -267,6 +274,7 @@ class frmThemeMorpho : public LoggedForm {
     bool loading_ = false;
     bool revertingCombo_ = false;
     std::string loadFailure_;
+    SaveOutcome lastSave_;
 
     ElementList elements_;
     EditHistory history_;

@@ -26,8 +26,9 @@ constexpr std::string_view kNoColorizer =
 void frmThemeMorpho::Form_Load() {
     try {
         StartUp();
-    } catch (const RunTimeError& error) {
-        StartUpFailed(&error);
+    } catch (const std::exception& error) {
+        const RunTimeError known = AsRunTimeError(error);
+        StartUpFailed(&known);
     }
 }
 
@@ -108,13 +109,9 @@ void frmThemeMorpho::OpenFirstTheme() {
 }
 
 void frmThemeMorpho::StartUpFailed(const RunTimeError* error) {
-    Control* const unusable[] = {
-        &cmbThemeLabel,   &lstImageNames,   &cmdSelectAll,    &cmdSelectNone,
-        &cmdSelectActive, &cmdSelectNormal, &wbbImagePreview, &sldBrightness,
-        &sldSaturation,   &sldHue,          &cmdApply,        &cmdUndo,
-        &cmdRedo,         &cmdReset,        &cmdSave,         &cmdSaveAs};
-    for (Control* control : unusable)
-        control->SetEnabled(false);
+    EnableThemeControls(false);
+    cmbThemeLabel.SetEnabled(false);
+    wbbImagePreview.SetEnabled(false);
     WriteLog("Error occured while loading TM");  // only now: the log may be what failed
     if (error != nullptr && error->Number() == ErrorNumber::kCannotCreateComponent) {
         MsgBox(kNoColorizer, kOkOnly | kCriticalIcon, kThemeProduct);

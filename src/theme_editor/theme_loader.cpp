@@ -19,7 +19,7 @@ class ThemeLoader::ScratchPage {
     ~ScratchPage() {
         try {
             Close();
-        } catch (const RunTimeError&) {
+        } catch (const std::exception&) {
             // The host keeps the page open then; nothing of ours is in it.
         }
     }

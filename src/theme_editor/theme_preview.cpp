@@ -1,10 +1,12 @@
 #include "theme_editor/theme_preview.h"
 
+#include <exception>
+
+#include "formats/web_text.h"
 #include "platform/code_page.h"
 #include "platform/file_system.h"
 #include "platform/platform.h"
 #include "platform/resources.h"
-#include "platform/run_time_error.h"
 #include "resources/resource_ids.h"
 #include "shared/log.h"
 #include "text/ignoring_case.h"
@@ -22,6 +24,18 @@ std::string NumericReference(char32_t character) {
     return "&#" + std::to_string(static_cast<unsigned long>(character)) + ";";
 }
 
+// A relative path as an address for an attribute: no name can end the attribute or the path, or
+// look like a placeholder. Letters beyond ASCII stay, for browsers read their escapes in different
+// code pages.
+std::string PathAsAddress(std::string_view path) {
+    std::string address;
+    for (const char c : path) {
+        const bool stays = c == '\\' || c == '/' || static_cast<unsigned char>(c) >= 0x80;
+        address += stays ? std::string(1, c) : EncodedPercents({&c, 1});
+    }
+    return address;
+}
+
 }  // namespace
 
 void ThemePreview::SetTheme(const std::string& name, const std::string& page) {
@@ -34,6 +48,7 @@ void ThemePreview::GeneratePreview(bool navigate) {
     const std::string text = FilledTemplate();
     WriteLog(program_, "  Saving preview HTML...");
     WritePreviewFile(page_, text);
+    browser_.SetVisible(true);
     // A browser that never got to the page, because the first theme could not be loaded, has
     // nothing to read again.
     if (navigate || browser_.Address().empty()) {
@@ -42,6 +57,10 @@ void ThemePreview::GeneratePreview(bool navigate) {
         browser_.RefreshPage();
     }
     WriteLog(program_, "Theme preview generated.");
+}
+
+void ThemePreview::ShowNothing() {
+    browser_.SetVisible(false);
 }
 
 void ThemePreview::RefreshPictures() {
@@ -55,7 +74,7 @@ std::string ThemePreview::FilledTemplate() const {
     WriteLog(program_, "  Performing substitutions...");
     for (int row = 0; row < elements_.Count(); ++row) {
         text = ReplacedIgnoringCase(text, "#" + elements_.Key(row) + "#",
-                                    themeName_ + "\\" + elements_.File(row));
+                                    PathAsAddress(themeName_ + "\\" + elements_.File(row)));
     }
     return text;
 }
@@ -65,7 +84,7 @@ void ThemePreview::WritePreviewFile(const std::string& path, const std::string& 
     try {
         program_.platform.files.WriteFile(
             path, program_.platform.codePage.ToBytes(text + "\r\n", NumericReference));
-    } catch (const RunTimeError&) {
+    } catch (const std::exception&) {
         // The browser then shows the page as it was, or its own error.
         return;
     }

@@ -22,6 +22,9 @@ class ThemePreview {
     // Fills the template's placeholders with the listed elements' pictures, writes the page and
     // shows it. The first time (`navigate`) the browser goes to it, later it only reads it again.
     void GeneratePreview(bool navigate);
+    // Blanks the preview until the next page: no theme is loaded. The browser is hidden rather than
+    // sent to an empty page, because the disk may be what failed.
+    void ShowNothing();
     // Lets the browser read the page and all its pictures again.
     void RefreshPictures();
 

@@ -1,12 +1,12 @@
 #include "theme_editor/web_theme_folder.h"
 
 #include <algorithm>
+#include <exception>
 #include <vector>
 
 #include "frontpage/mod_fpole.h"
 #include "platform/file_system.h"
 #include "platform/platform.h"
-#include "platform/run_time_error.h"
 #include "shared/log.h"
 #include "shared/numbers.h"
 #include "text/ignoring_case.h"
@@ -22,7 +22,7 @@ constexpr FileAttributes kNotNormal = kFolderAttribute | kHiddenAttribute | kSys
 WebThemeFolder::~WebThemeFolder() {
     try {
         if (created_) Delete();
-    } catch (const RunTimeError&) {
+    } catch (const std::exception&) {
         // No page uses it. The next save of this name writes all its files anew.
     }
 }
@@ -38,7 +38,7 @@ bool WebThemeFolder::ShowsHiddenPages() const {
     try {
         const std::string value = web_.Property("vti_showhiddenpages").value_or(std::string());
         return EqualIgnoringCase(value, "true") || Val(value) != 0;
-    } catch (const RunTimeError&) {
+    } catch (const std::exception&) {
         return false;
     }
 }

@@ -116,6 +116,7 @@ TEST_F(EnvironmentTest, DescribesTheOperatingSystem) {
     expectInfo({1, 4, 10, 0x040A08AE, " A "}, "Win98 ver. 4.10 2222  A");
     expectInfo({1, 4, 0, 0x040003B6, std::string("B\0x", 3)}, "Win95 ver. 4.0 950 B");
     expectInfo({0, 3, 11, 1, "x"}, "");
+    expectInfo({3, 6, 1, 0, "", "Linux 6.1.0"}, "Linux 6.1.0");
 }
 
 TEST_F(EnvironmentTest, DescribesFrontPageAndThisComponent) {

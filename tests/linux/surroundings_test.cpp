@@ -4,6 +4,7 @@
 #include <map>
 #include <thread>
 
+#include "linux/desktop_environment.h"
 #include "linux/desktop_shell.h"
 #include "linux/disk_path.h"
 #include "linux/user_folders.h"
@@ -24,6 +25,12 @@ TEST(UserFolders, FollowTheEnvironment) {
     expectFolders({}, "/home/ann/.cache/morpho", "/home/ann/.local/share/morpho");
     expectFolders({{"XDG_DATA_HOME", "/d"}, {"XDG_CACHE_HOME", "relative"}},
                   "/home/ann/.cache/morpho", "/d/morpho");
+}
+
+TEST(DesktopEnvironment, NamesTheSystemForTheLog) {
+    const OsVersion os = DesktopEnvironment({}, "/tmp").Os();
+    EXPECT_TRUE(os.description.starts_with("Linux " + std::to_string(os.major) + '.'))
+        << os.description;
 }
 
 class DesktopShellTest : public testing::Test {

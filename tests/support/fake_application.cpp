@@ -132,7 +132,10 @@ class FakeWeb : public Web {
         host_.web->themeOfWeb = themeName;
         host_.webCalls.push_back("ApplyTheme " + std::string(themeName));
     }
-    void Refresh() override { Touch("Refresh"); }
+    void Refresh() override {
+        Touch("Refresh");
+        host_.whenRefreshed();
+    }
     void RecalcHyperlinks() override { Touch("RecalcHyperlinks"); }
 
   private:

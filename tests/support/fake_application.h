@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -40,6 +41,7 @@ class FakeApplication : public Application {
     // What was done with the web, in order: "ApplyTheme a", "ApplyTheme a to index.htm",
     // "Refresh", "RecalcHyperlinks".
     std::vector<std::string> webCalls;
+    std::function<void()> whenRefreshed = [] {};  // what else "Refresh" does
     FakeFileSystem& webFiles;
 
     std::string Version() const override { return version; }

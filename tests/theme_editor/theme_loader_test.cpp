@@ -118,6 +118,9 @@ TEST_F(ThemeLoaderTest, AFailureEndsTheLoadWithoutAMessageAndTheNextThemeLoadsAs
         EXPECT_NE(window->LoadFailure(), "") << why;
         EXPECT_EQ(world.application.openPages, 0) << why;
         EXPECT_THAT(world.toolkit.Messages(), IsEmpty()) << why;
+        EXPECT_THAT(window->lblStatus.Caption(), HasSubstr(window->LoadFailure())) << why;
+        EXPECT_FALSE(window->wbbImagePreview.Visible()) << why;
+        EXPECT_THAT(Operable(), ElementsAre("cmbThemeLabel", "cmdCancel", "btnAbout", "btnHelp"));
     };
     expectEnd(".mstheme { list-image-1: url }", "nothing follows url");
     world.files.FailOn(kWorkRoot + "odd");
@@ -127,9 +130,15 @@ TEST_F(ThemeLoaderTest, AFailureEndsTheLoadWithoutAMessageAndTheNextThemeLoadsAs
     expectEnd("", "the host opens no page");
 
     world.application.refusesPages = false;
-    window->cmbThemeLabel.UserSelect(0);
+    const int odd = window->cmbThemeLabel.ListCount() - 1;
+    for (const int theme : {odd, 0}) {  // the same again, and another one
+        window->cmbThemeLabel.UserSelect(theme);
+        EXPECT_EQ(window->cmbThemeLabel.ListIndex(), theme);
+        EXPECT_EQ(window->LoadFailure() + window->lblStatus.Caption(), "");
+        EXPECT_TRUE(window->wbbImagePreview.Visible());
+        EXPECT_EQ(Operable().size(), 17U);
+    }
     EXPECT_EQ(Listed().size(), 7U);
-    EXPECT_EQ(window->LoadFailure(), "");
 }
 
 TEST_F(ThemeLoaderTest, AChangedThemeIsLeftOnlyAfterANo) {

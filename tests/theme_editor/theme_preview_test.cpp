@@ -31,6 +31,19 @@ TEST_F(ThemePreviewTest, FillsThePlacesOfAllListedElementsAndLeavesTheOthers) {
     EXPECT_THAT(world.files.Bytes(kPage), HasSubstr("<\x80&#937;\\dot.gif>"));
 }
 
+TEST_F(ThemePreviewTest, NoNameEndsItsAddressOrIsAPlaceholder) {
+    PutTheme("50% #1?", "Odd",
+             {{"active/list-image-1", "#normal/nav-banner-image#.gif"},
+              {"active/nav-banner-image", "a&amp;<b>%41+.gif"},
+              {"normal/nav-banner-image", "sub\\c.gif"}});
+    Open();
+    window->cmbThemeLabel.UserSelect(2);
+    EXPECT_THAT(world.files.Bytes(kPage),
+                HasSubstr("<50%25%20%231%3F\\%23normal/nav-banner-image%23.gif>"
+                          "<50%25%20%231%3F\\a%26amp%3B%3Cb%3E%2541+.gif>"
+                          "<50%25%20%231%3F\\sub\\c.gif>"));
+}
+
 TEST_F(ThemePreviewTest, NavigatesOnceAndThenOnlyReadsAgain) {
     Open();
     EXPECT_THAT(browser->seen, ElementsAre("navigate"));

@@ -23,7 +23,6 @@ bool IsOneOf(const Control& control) {
 }  // namespace
 
 void Onlooker::Write(Aspects changed) {
-    if (changed == aspect::kCaption) seen.push_back(control_.Caption());
     if (changed == aspect::kNavigate) seen.emplace_back("navigate");
     if (changed == aspect::kReload) seen.emplace_back("refresh");
     if (changed == aspect::kReloadCompletely) seen.emplace_back("refresh completely");
@@ -155,6 +154,14 @@ std::vector<const Control*> OperatedControls(const Container& container) {
         }
     }
     return operated;
+}
+
+Lines ThemeWindow::Operable() const {
+    Lines operable;
+    for (const Control* control : OperatedControls(*window)) {
+        if (control->IsOperable()) operable.push_back(control->Name());
+    }
+    return operable;
 }
 
 SaveWorld::SaveWorld() {

@@ -29,7 +29,7 @@ inline const std::string kHostThemes = "C:\\Cache\\FrontPageTempDir\\mstheme\\";
 inline const std::string kWebThemes = "C:\\Web\\_themes\\";
 inline const std::string kWorkRoot = "C:\\Temp\\Morpho\\";
 
-// Remembers what a control was told to show: a browser what it does, a label its text.
+// Remembers what a browser was told to do.
 class Onlooker : public Peer {
   public:
     explicit Onlooker(Control& control) : control_(control) { control_.Attach(this); }
@@ -83,7 +83,8 @@ class ThemeWindow : public testing::Test, protected ThemeWorld {
     // Ticks these rows alone and forgets what was logged and asked until then.
     void Tick(const std::vector<int>& rows);
     std::vector<int> Ticked() const;
-    Lines Listed() const;  // "key=file", in the list's order
+    Lines Listed() const;    // "key=file", in the list's order
+    Lines Operable() const;  // the controls with which a person can work now
     void ExpectPicture(const std::string& file, const std::string& bytes) const;
 };
 

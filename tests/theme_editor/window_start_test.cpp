@@ -10,11 +10,8 @@ class WindowStartTest : public ThemeWindow {
     // That start-up fails: only Close, Help and About remain.
     void ExpectUnusable() {
         Open();
-        Lines operable;
-        for (const Control* control : OperatedControls(*window)) {
-            if (control->IsOperable()) operable.push_back(control->Name());
-        }
-        EXPECT_THAT(operable, testing::UnorderedElementsAre("cmdCancel", "btnAbout", "btnHelp"));
+        EXPECT_THAT(Operable(), ElementsAre("cmdCancel", "btnAbout", "btnHelp"));
+        EXPECT_TRUE(Log().empty() || Log().back() == "Error occured while loading TM");
     }
     Lines LogEnd(std::ptrdiff_t count) const {
         const Lines log = Log();
@@ -86,10 +83,13 @@ TEST_F(WindowStartTest, ListsOnlyThemesThatTheHostHasUnpackedAndSaysWhenThereAre
 }
 
 TEST_F(WindowStartTest, SaysWhenTheColorizerIsMissingAndEndsWithoutAMessageAtAnyOtherError) {
+    std::map<LanguageUse, int> languages;
     world.files.FailOn("C:\\Temp\\ColorBand.jpg");
     ExpectUnusable();
-    EXPECT_THAT(LogEnd(1), ElementsAre("Error occured while loading TM"));
     world.files.FailNoMore();
+    world.application.languages.swap(languages);  // throws what is no error of ours
+    ExpectUnusable();
+    world.application.languages.swap(languages);
     world.colorizers.creatable = false;
     ExpectUnusable();
     ExpectMessage(1,
@@ -120,6 +120,12 @@ TEST_F(WindowStartTest, TheAboutBoxIsASplashOnceAndStoresTheLogSwitchAndHelpOpen
     window->btnHelp.UserClick();
     EXPECT_THAT(world.shell.started,
                 ElementsAre("Winhlp32.exe C:\\Program Files\\Morpho\\morpho.hlp"));
+    world.shell.result = 32;
+    window->btnHelp.UserClick();
+    EXPECT_THAT(world.toolkit.Messages(), IsEmpty());
+    world.shell.result = 31;
+    window->btnHelp.UserClick();
+    ExpectMessage(1, "The help cannot be opened.", kCriticalIcon);
 }
 
 TEST_F(WindowStartTest, TheFirstPaintShowsTheQuickReferenceUntilThePersonHasHadEnough) {
