@@ -10,6 +10,7 @@
 #include "platform/platform.h"
 #include "platform/profile_files.h"
 #include "shared/mod_shared_code.h"
+#include "text/ascii.h"
 #include "text/ignoring_case.h"
 #include "text/trim.h"
 #include "theme_editor/installed_theme.h"

@@ -24,7 +24,7 @@ void WriteTitles(const Platform& platform, const std::string& inf, const std::st
 bool IsReadOnlyTheme(const Platform& platform, const std::string& inf) {
     const std::string value =
         platform.profileFiles.ReadString(inf, kInfo, "Readonly", "false", kReadOnlyChars);
-    return EqualIgnoringCase(value, "true") || value == "1";
+    return EqualIgnoringAsciiCase(value, "true") || value == "1";
 }
 
 void SetThemeTitle(const Platform& platform, const std::string& inf, const std::string& title) {

@@ -183,7 +183,7 @@ void ThemeSaver::MendWorkCopy(const LoadedTheme& theme) {
     if (!files.Find(theme.workFolder + inf) && files.Find(originals + inf))
         files.Copy(originals + inf, theme.workFolder + inf);
     for (const FileEntry& entry : files.List(theme.workFolder)) {
-        const bool isDescription = Lowered(entry.name).ends_with(".inf") && !entry.IsFolder();
+        const bool isDescription = Folded(entry.name).ends_with(".inf") && !entry.IsFolder();
         if (isDescription && !EqualIgnoringCase(entry.name, inf) &&
             !files.Find(originals + entry.name))
             files.Delete(theme.workFolder + entry.name);

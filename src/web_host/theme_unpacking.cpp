@@ -48,7 +48,7 @@ class ThemeUnpacker {
         if (!installFailure_.empty()) listed_.skipped.push_back(installFailure_);
         std::stable_sort(
             listed_.themes.begin(), listed_.themes.end(),
-            [](const Theme& a, const Theme& b) { return Lowered(a.name) < Lowered(b.name); });
+            [](const Theme& a, const Theme& b) { return Folded(a.name) < Folded(b.name); });
         return std::move(listed_);
     }
 
@@ -115,7 +115,7 @@ class ThemeUnpacker {
         const auto entries = folder ? Readable([&] { return (*folder)->Entries(); }) : std::nullopt;
         const FolderEntry* description = entries ? FindFile(*entries, name + ".inf") : nullptr;
         if (entries && !description) return WhereInstalling([&] { installed_->Reserve(name); });
-        if (!names_.insert(Lowered(name)).second)
+        if (!names_.insert(Folded(name)).second)
             return Skip(themes, name, "another theme has that name");
         if (description) {
             const auto label =
@@ -149,7 +149,7 @@ class ThemeUnpacker {
         std::set<std::string> names;
         for (const FolderEntry& entry : entries) {
             if (entry.kind != EntryKind::kFile || IsTemporaryName(entry.name)) continue;
-            if (!names.insert(Lowered(entry.name)).second) {
+            if (!names.insert(Folded(entry.name)).second) {
                 Skip(theme, entry.name, "another file has that name");
                 continue;
             }
