@@ -13,11 +13,11 @@
 #include "shared/log.h"
 #include "shared/mod_shared_code.h"
 #include "text/ignoring_case.h"
+#include "theme_editor/description_files.h"
 #include "theme_editor/folder_backup.h"
 #include "theme_editor/frm_save_as.h"
 #include "theme_editor/installed_theme.h"
 #include "theme_editor/product.h"
-#include "theme_editor/theme_description.h"
 #include "theme_editor/theme_installation.h"
 #include "theme_editor/web_theme_folder.h"
 
@@ -166,7 +166,10 @@ bool ThemeSaver::WriteTheme(Run& run) {
         // Nothing has been written, and the person must not think otherwise.
         throw RunTimeError(ErrorNumber::kObjectNotSet, "The web has no folder for the theme");
     }
-    MendWorkCopy(run.theme);
+    // A save as a new theme gives the work copy's description the new theme's name and leaves it
+    // so, whether or not the save went well.
+    RestoreDescription(program_.platform, run.theme.workFolder,
+                       run.theme.hostThemes + run.theme.name + '\\', run.theme.name);
     if (run.target.asNew && !AddToWeb(run)) return false;
     if (run.target.applyFlag) UpdateHostThemes(run);
     run.installation.emplace(program_.platform, run.userThemes, run.target.name);
@@ -174,27 +177,9 @@ bool ThemeSaver::WriteTheme(Run& run) {
     return true;
 }
 
-// A save as a new theme gives the work copy's description the new theme's name and leaves it so,
-// whether or not the save went well. Every save begins by putting it back.
-void ThemeSaver::MendWorkCopy(const LoadedTheme& theme) {
-    FileSystem& files = program_.platform.files;
-    const std::string originals = theme.hostThemes + theme.name + '\\';
-    const std::string inf = theme.name + ".inf";
-    if (!files.Find(theme.workFolder + inf) && files.Find(originals + inf))
-        files.Copy(originals + inf, theme.workFolder + inf);
-    for (const FileEntry& entry : files.List(theme.workFolder)) {
-        const bool isDescription = Folded(entry.name).ends_with(".inf") && !entry.IsFolder();
-        if (isDescription && !EqualIgnoringCase(entry.name, inf) &&
-            !files.Find(originals + entry.name))
-            files.Delete(theme.workFolder + entry.name);
-    }
-}
-
 bool ThemeSaver::AddToWeb(Run& run) {
     const std::string& work = run.theme.workFolder;
-    const std::string inf = work + run.target.name + ".inf";
-    program_.platform.files.Move(work + run.theme.name + ".inf", inf);
-    SetThemeTitle(program_.platform, inf, run.target.title);
+    RenameDescription(program_.platform, work, run.theme.name, run.target.name, run.target.title);
 
     Log("Copying theme files to the web...");
     run.webFolder->AddFilesOf(

@@ -65,7 +65,6 @@ class ThemeSaver {
     void OpenWebFolder(Run& run);
     bool WriteTheme(Run& run);
     bool AddToWeb(Run& run);
-    void MendWorkCopy(const LoadedTheme& theme);
     void UpdateHostThemes(Run& run);
     void ShowInWeb(Run& run);
     void RemoveWebFolder(Run& run);

@@ -4,9 +4,9 @@
 #include <functional>
 #include <set>
 
-#include "formats/profile_text.h"
+#include "formats/theme_description.h"
+#include "formats/windows_1252_code_page.h"
 #include "text/ignoring_case.h"
-#include "text/windows_1252.h"
 #include "web_host/installed_themes.h"
 #include "web_host/limits.h"
 
@@ -24,9 +24,10 @@ const FolderEntry* FindFile(const std::vector<FolderEntry>& entries, const std::
 
 // The title that the theme's description gives it, or its name.
 std::string LabelOf(const Folder& folder, const std::string& description, const std::string& name) {
-    const ProfileText profile(ReadWholeFile(folder, description, kMaxThemeFileBytes));
-    const auto title = profile.Value("info", "title");
-    return title && !title->empty() ? TextOfUnknownCoding(*title) : name;
+    const Windows1252CodePage codePage;
+    const std::string bytes = ReadWholeFile(folder, description, kMaxThemeFileBytes);
+    const std::string title = ThemeDescription(codePage, bytes).Title();
+    return title.empty() ? name : title;
 }
 
 class ThemeUnpacker {
@@ -194,7 +195,7 @@ class ThemeUnpacker {
     std::unique_ptr<Folder> unpackFolder_;
     std::optional<InstalledThemes> installed_;
     std::string installFailure_;
-    std::set<std::string> names_;  // of the themes, in lower case
+    std::set<std::string> names_;  // of the themes, folded
     ListedThemes listed_;
 };
 
