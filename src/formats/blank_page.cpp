@@ -54,8 +54,8 @@ class ReadStyleSheet : public StyleSheet {
 
 void BlankPageDocument::InsertAdjacentHtml(std::string_view where, std::string_view html) {
     RequireOpen(*page_);
-    const bool atBegin = EqualIgnoringCase(where, "AfterBegin");
-    if (!atBegin && !EqualIgnoringCase(where, "BeforeEnd"))
+    const bool atBegin = EqualIgnoringAsciiCase(where, "AfterBegin");
+    if (!atBegin && !EqualIgnoringAsciiCase(where, "BeforeEnd"))
         Refuse("A page takes text after its beginning or before its end only.");
     auto& sheets = page_->styleSheets;
     auto place = atBegin ? sheets.begin() : sheets.end();

@@ -187,7 +187,7 @@ class CssReader {
 std::optional<std::string> CssRule::Value(std::string_view property) const {
     for (auto declaration = declarations.rbegin(); declaration != declarations.rend();
          ++declaration) {
-        if (EqualIgnoringCase(declaration->name, property)) return declaration->value;
+        if (EqualIgnoringAsciiCase(declaration->name, property)) return declaration->value;
     }
     return {};
 }

@@ -107,7 +107,7 @@ CssTokenType CssTokenizer::ReadIdentLike() {
     if (Peek() != '(') return CssTokenType::kIdent;
     const std::string name = UnescapedCssName(text_.substr(start, position_ - start));
     ++position_;
-    if (!EqualIgnoringCase(name, "url")) return CssTokenType::kFunction;
+    if (!EqualIgnoringAsciiCase(name, "url")) return CssTokenType::kFunction;
     std::size_t ahead = 0;
     while (IsWhitespace(Peek(ahead)))
         ++ahead;

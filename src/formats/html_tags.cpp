@@ -18,7 +18,7 @@ constexpr std::array<std::string_view, 8> kTextElements = {
 
 // Whether the rest of the page begins with the end tag of this element.
 bool EndsText(std::string_view rest, const std::string& name) {
-    if (!StartsWithIgnoringCase(rest, "</" + name)) return false;
+    if (!StartsWithIgnoringAsciiCase(rest, "</" + name)) return false;
     rest.remove_prefix(name.size() + 2);
     return rest.empty() || kEndOfName.find(rest.front()) != kEndOfName.npos;
 }
@@ -70,7 +70,7 @@ std::optional<HtmlTag> HtmlTagReader::ReadTag() {
         ++position_;
     }
     if (AtEnd() || !IsLetter(page_[position_])) return {};
-    tag.name += Lowered(PassTo(kEndOfName));
+    tag.name += AsciiLowered(PassTo(kEndOfName));
     ReadAttributes(tag);
     if (AtEnd()) return {};
     tag.end = ++position_;
@@ -90,7 +90,7 @@ void HtmlTagReader::ReadAttributes(HtmlTag& tag) {
         // A name may begin with "=", but not go on with it.
         const std::size_t start = position_++;
         PassTo(" \t\r\n\f/>=");
-        HtmlAttribute attribute{Lowered(page_.substr(start, position_ - start)), {}};
+        HtmlAttribute attribute{AsciiLowered(page_.substr(start, position_ - start)), {}};
         SkipBlanks();
         if (StartsWith("=")) {
             ++position_;

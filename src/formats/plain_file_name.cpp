@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 
+#include "text/ascii.h"
 #include "text/ignoring_case.h"
 #include "text/trim.h"
 
@@ -13,7 +14,7 @@ namespace {
 
 // Names that mean a device of the system in every folder, with any extension.
 bool IsDeviceName(std::string_view name) {
-    const std::string stem = Lowered(Trim(name.substr(0, name.find('.'))));
+    const std::string stem = AsciiLowered(Trim(name.substr(0, name.find('.'))));
     constexpr std::array<std::string_view, 4> kDevices = {"con", "prn", "aux", "nul"};
     if (std::find(kDevices.begin(), kDevices.end(), stem) != kDevices.end()) return true;
     return stem.size() == 4 && (stem.starts_with("com") || stem.starts_with("lpt")) &&
@@ -26,10 +27,6 @@ bool IsPlainFileName(std::string_view name) {
     return !name.empty() && std::none_of(name.begin(), name.end(), IsControl) &&
            name.find_first_of("\\/:*?<>|\"") == std::string_view::npos && name.back() != '.' &&
            name.back() != ' ' && name.front() != ' ' && !IsDeviceName(name);
-}
-
-bool IsControl(char c) {
-    return static_cast<unsigned char>(c) < ' ' || c == '\x7F';
 }
 
 }  // namespace morpho

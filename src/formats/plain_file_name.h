@@ -9,7 +9,4 @@ namespace morpho {
 // no full stop at the last.
 bool IsPlainFileName(std::string_view name);
 
-// Whether the byte of an ANSI or UTF-8 text is one of the control characters of ASCII.
-bool IsControl(char c);
-
 }  // namespace morpho

@@ -11,10 +11,6 @@ namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-std::string_view TrimmedLine(std::string_view text) {
-    return Trim(text, kWhiteSpace);
-}
-
 std::string_view Unquoted(std::string_view text) {
     const bool quoted = text.size() >= 2 && (text.front() == '"' || text.front() == '\'') &&
                         text.front() == text.back();
@@ -22,22 +18,22 @@ std::string_view Unquoted(std::string_view text) {
 }
 
 bool IsComment(std::string_view line) {
-    return TrimmedLine(line).starts_with(';');
+    return Trim(line, kWhiteSpace).starts_with(';');
 }
 
 // The name in a section's header; nothing for another line.
 std::optional<std::string_view> HeaderName(std::string_view line) {
-    const std::string_view text = TrimmedLine(line);
+    const std::string_view text = Trim(line, kWhiteSpace);
     const std::size_t close = text.find(']');
     if (!text.starts_with('[') || close == text.npos) return {};
-    return TrimmedLine(text.substr(1, close - 1));
+    return Trim(text.substr(1, close - 1), kWhiteSpace);
 }
 
 // The key of a "key=value" line; nothing for another line.
 std::optional<std::string_view> KeyName(std::string_view line) {
     const std::size_t equals = line.find('=');
     if (equals == line.npos || IsComment(line)) return {};
-    return TrimmedLine(line.substr(0, equals));
+    return Trim(line.substr(0, equals), kWhiteSpace);
 }
 
 std::string_view EndOf(std::string_view line) {
@@ -77,7 +73,7 @@ std::optional<std::string> ProfileText::Value(std::string_view section,
     const auto line = FindKey(FindSection(section), key);
     if (!line) return {};
     const std::string_view text = lines_[*line];
-    return std::string(Unquoted(TrimmedLine(text.substr(text.find('=') + 1))));
+    return std::string(Unquoted(Trim(text.substr(text.find('=') + 1), kWhiteSpace)));
 }
 
 void ProfileText::SetValue(std::string_view section, std::string_view key, std::string_view value) {
@@ -88,7 +84,7 @@ void ProfileText::SetValue(std::string_view section, std::string_view key, std::
         return;
     }
     std::size_t place = range.end;
-    while (place > range.begin && TrimmedLine(lines_[place - 1]).empty())
+    while (place > range.begin && Trim(lines_[place - 1], kWhiteSpace).empty())
         --place;
     InsertLine(place, EntryText(key, value));
 }
@@ -98,7 +94,7 @@ void ProfileText::SetSection(std::string_view section, const Entries& entries) {
     const auto begin = lines_.begin() + static_cast<std::ptrdiff_t>(range.begin);
     const auto end = lines_.begin() + static_cast<std::ptrdiff_t>(range.end);
     const auto isEntry = [](const std::string& line) {
-        return !IsComment(line) && !TrimmedLine(line).empty();
+        return !IsComment(line) && !Trim(line, kWhiteSpace).empty();
     };
     lines_.erase(std::remove_if(begin, end, isEntry), end);
     std::size_t place = range.begin;
@@ -114,7 +110,7 @@ std::string ProfileText::Bytes() const {
 }
 
 ProfileText::Range ProfileText::FindSection(std::string_view section) const {
-    const std::string_view wanted = TrimmedLine(section);
+    const std::string_view wanted = Trim(section, kWhiteSpace);
     Range range{lines_.size(), lines_.size(), false};
     for (std::size_t i = 0; i < lines_.size(); ++i) {
         const auto name = HeaderName(lines_[i]);
@@ -123,7 +119,7 @@ ProfileText::Range ProfileText::FindSection(std::string_view section) const {
             range.end = i;
             break;
         }
-        if (EqualIgnoringCase(*name, wanted)) range = {i + 1, lines_.size(), true};
+        if (EqualIgnoringAsciiCase(*name, wanted)) range = {i + 1, lines_.size(), true};
     }
     return range;
 }
@@ -131,7 +127,7 @@ ProfileText::Range ProfileText::FindSection(std::string_view section) const {
 std::optional<std::size_t> ProfileText::FindKey(const Range& range, std::string_view key) const {
     for (std::size_t i = range.begin; i < range.end; ++i) {
         const auto name = KeyName(lines_[i]);
-        if (name && EqualIgnoringCase(*name, TrimmedLine(key))) return i;
+        if (name && EqualIgnoringAsciiCase(*name, Trim(key, kWhiteSpace))) return i;
     }
     return {};
 }

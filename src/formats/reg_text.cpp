@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "text/ignoring_case.h"
+#include "text/trim.h"
 #include "text/utf8.h"
 
 namespace morpho {
@@ -25,12 +26,6 @@ bool IsStringType(RegType type) {
            type == RegType::kMultiString;
 }
 
-std::string_view Trimmed(std::string_view text) {
-    const std::size_t begin = text.find_first_not_of(kBlanks);
-    if (begin == text.npos) return {};
-    return text.substr(begin, text.find_last_not_of(kBlanks) - begin + 1);
-}
-
 std::optional<unsigned> TakeHex(std::string_view& text) {
     unsigned number = 0;
     const auto [end, error] = std::from_chars(text.begin(), text.end(), number, 16);
@@ -40,7 +35,7 @@ std::optional<unsigned> TakeHex(std::string_view& text) {
 }
 
 bool TakeStart(std::string_view& text, std::string_view start) {
-    if (!StartsWithIgnoringCase(text, start)) return false;
+    if (!StartsWithIgnoringAsciiCase(text, start)) return false;
     text.remove_prefix(start.size());
     return true;
 }
@@ -63,11 +58,11 @@ std::optional<std::string> TakeQuoted(std::string_view& text) {
 // "12,ab,..." to the end of the text.
 std::optional<std::string> BytesFromHex(std::string_view text) {
     std::string bytes;
-    for (text = Trimmed(text); !text.empty(); text = Trimmed(text)) {
+    for (text = Trim(text, kBlanks); !text.empty(); text = Trim(text, kBlanks)) {
         const auto byte = TakeHex(text);
         if (!byte || *byte > 0xFF) return {};
         bytes += static_cast<char>(*byte);
-        text = Trimmed(text);
+        text = Trim(text, kBlanks);
         if (!text.empty() && !TakeStart(text, ",")) return {};
     }
     return bytes;
@@ -122,7 +117,7 @@ class RegTextReader {
   private:
     std::string_view NextPhysicalLine() {
         const std::size_t end = std::min(text_.find('\n'), text_.size());
-        const std::string_view line = Trimmed(text_.substr(0, end));
+        const std::string_view line = Trim(text_.substr(0, end), kBlanks);
         text_.remove_prefix(std::min(end + 1, text_.size()));
         return line;
     }
@@ -156,9 +151,9 @@ class RegTextReader {
             if (!name) return;
             value.name = *name;
         }
-        line = Trimmed(line);
+        line = Trim(line, kBlanks);
         if (!TakeStart(line, "=")) return;
-        line = Trimmed(line);
+        line = Trim(line, kBlanks);
         if (line == "-") {
             data_.RemoveValue(key_, value.name);
         } else if (ReadData(line, value)) {

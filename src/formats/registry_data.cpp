@@ -5,38 +5,38 @@
 namespace morpho {
 
 const RegistryKey* RegistryData::Find(std::string_view path) const {
-    const auto key = keys_.find(Lowered(path));
+    const auto key = keys_.find(Folded(path));
     return key == keys_.end() ? nullptr : &key->second;
 }
 
 const RegistryValue* RegistryData::FindValue(std::string_view path, std::string_view name) const {
     const RegistryKey* key = Find(path);
     if (!key) return nullptr;
-    const auto value = key->values.find(Lowered(name));
+    const auto value = key->values.find(Folded(name));
     return value == key->values.end() ? nullptr : &value->second;
 }
 
 RegistryKey& RegistryData::Add(std::string_view path) {
     for (std::size_t end = path.find('\\'); end != path.npos; end = path.find('\\', end + 1)) {
         const std::string_view parent = path.substr(0, end);
-        keys_.try_emplace(Lowered(parent), RegistryKey{std::string(parent), {}});
+        keys_.try_emplace(Folded(parent), RegistryKey{std::string(parent), {}});
     }
-    return keys_.try_emplace(Lowered(path), RegistryKey{std::string(path), {}}).first->second;
+    return keys_.try_emplace(Folded(path), RegistryKey{std::string(path), {}}).first->second;
 }
 
 void RegistryData::Set(std::string_view path, RegistryValue value) {
-    RegistryValue& place = Add(path).values[Lowered(value.name)];
+    RegistryValue& place = Add(path).values[Folded(value.name)];
     if (!place.name.empty()) value.name = place.name;
     place = std::move(value);
 }
 
 bool RegistryData::RemoveValue(std::string_view path, std::string_view name) {
-    const auto key = keys_.find(Lowered(path));
-    return key != keys_.end() && key->second.values.erase(Lowered(name)) > 0;
+    const auto key = keys_.find(Folded(path));
+    return key != keys_.end() && key->second.values.erase(Folded(name)) > 0;
 }
 
 void RegistryData::RemoveKey(std::string_view path) {
-    const std::string key = Lowered(path);
+    const std::string key = Folded(path);
     keys_.erase(key);
     const std::string below = key + '\\';
     auto first = keys_.lower_bound(below);

@@ -20,7 +20,7 @@ struct RegistryValue {
 
 struct RegistryKey {
     std::string path;                             // from the root's name on, as spelled
-    std::map<std::string, RegistryValue> values;  // by name in lower case
+    std::map<std::string, RegistryValue> values;  // by folded name
 };
 
 // Keys and values in memory. Paths are full ("HKEY_CURRENT_USER\Software"); paths and names are
@@ -40,7 +40,7 @@ class RegistryData {
     // Removes the key with all below it.
     void RemoveKey(std::string_view path);
 
-    // By path in lower case: a key comes before those below it.
+    // By folded path: a key comes before those below it.
     const std::map<std::string, RegistryKey>& Keys() const { return keys_; }
 
   private:

@@ -9,7 +9,7 @@ namespace {
 
 bool IsCss(const HtmlTag& tag) {
     const std::string type = tag.Attribute("type").value_or("");
-    return type.empty() || EqualIgnoringCase(type, "text/css");
+    return type.empty() || EqualIgnoringAsciiCase(type, "text/css");
 }
 
 }  // namespace

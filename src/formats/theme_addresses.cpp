@@ -37,7 +37,7 @@ bool GoesUpwards(std::string_view start) {
 
 class AddressFinder {
   public:
-    explicit AddressFinder(std::string_view page) : page_(page), lower_(Lowered(page)) {}
+    explicit AddressFinder(std::string_view page) : page_(page), lower_(AsciiLowered(page)) {}
 
     std::vector<ThemeAddress> Find() {
         HtmlTagReader tags(page_);
@@ -111,7 +111,7 @@ class AddressFinder {
 // Whether the folder part of an address, with its "/" at the end, is another theme's folder as
 // seen from a theme's: its last two names are ".." or "_themes" and one more.
 bool IsForeignFolder(std::string_view folder) {
-    std::string path = Lowered(folder);
+    std::string path = AsciiLowered(folder);
     std::replace(path.begin(), path.end(), '\\', '/');
     if (path.empty()) return false;
     path.pop_back();
@@ -131,7 +131,7 @@ std::vector<ThemeAddress> ThemeAddresses(std::string_view page) {
 std::string WithOwnPictures(std::string_view css,
                             const std::function<bool(const std::string&)>& isOwn) {
     constexpr std::string_view kUrl = "url(";
-    const std::string lower = Lowered(css);
+    const std::string lower = AsciiLowered(css);
     std::string result;
     std::size_t done = 0;
     for (std::size_t hit = lower.find(kUrl); hit != lower.npos; hit = lower.find(kUrl, hit)) {

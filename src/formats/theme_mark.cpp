@@ -16,7 +16,7 @@ ThemeMark ParsedContent(const std::string_view whole, std::size_t begin) {
     std::string_view content = whole;
     const std::size_t comma = content.rfind(',');
     if (comma != content.npos &&
-        EqualIgnoringCase(Trim(content.substr(comma + 1), kWhiteSpace), "default")) {
+        EqualIgnoringAsciiCase(Trim(content.substr(comma + 1), kWhiteSpace), "default")) {
         mark.theme.ofWeb = true;
         content = content.substr(0, comma);
     }
@@ -26,7 +26,7 @@ ThemeMark ParsedContent(const std::string_view whole, std::size_t begin) {
         content = Trim(content.substr(0, blank), kWhiteSpace);
     mark.nameLength = content.size();
     mark.nameBegin = content.empty() ? begin : begin + (content.data() - whole.data());
-    if (!EqualIgnoringCase(content, "none"))
+    if (!EqualIgnoringAsciiCase(content, "none"))
         mark.theme.name = DecodedReferences(TextOfUnknownCoding(content));
     return mark;
 }
@@ -43,7 +43,8 @@ std::optional<ThemeMark> FindThemeMark(std::string_view page) {
     while (const auto tag = tags.Next()) {
         if (tag->name == "body") return {};
         if (tag->name != "meta") continue;
-        if (!EqualIgnoringCase(tag->Attribute("name").value_or(""), "Microsoft Theme")) continue;
+        if (!EqualIgnoringAsciiCase(tag->Attribute("name").value_or(""), "Microsoft Theme"))
+            continue;
         const HtmlAttribute* content = tag->Find("content");
         return content ? ParsedContent(content->value, content->valueBegin) : ThemeMark();
     }

@@ -1,6 +1,5 @@
 #include "formats/theme_package.h"
 
-#include <charconv>
 #include <cstdint>
 #include <optional>
 #include <set>
@@ -9,6 +8,7 @@
 #include "platform/code_page.h"
 #include "platform/run_time_error.h"
 #include "text/ignoring_case.h"
+#include "text/parsed_number.h"
 #include "text/trim.h"
 
 namespace morpho {
@@ -26,12 +26,7 @@ std::string_view TakeLine(std::string_view& rest) {
 
 template <typename Number>
 std::optional<Number> NumberIn(std::string_view text) {
-    if (text.ends_with('\r')) text.remove_suffix(1);
-    text = Trim(text);
-    Number number = 0;
-    const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc() || stop != text.data() + text.size()) return std::nullopt;
-    return number;
+    return ParsedNumber<Number>(Trim(text, " \r"));
 }
 
 void AddMember(const CodePage& codePage, std::string_view line, std::set<std::string>& known,
@@ -40,7 +35,7 @@ void AddMember(const CodePage& codePage, std::string_view line, std::set<std::st
     const std::string name = codePage.ToText(line.substr(0, comma));
     if (!IsPlainFileName(name))
         RefusePackage("names a member that is no plain file: \"" + name + "\"");
-    if (!known.insert(Lowered(name)).second) RefusePackage("names \"" + name + "\" twice");
+    if (!known.insert(Folded(name)).second) RefusePackage("names \"" + name + "\" twice");
     index.names.push_back(name);
     index.lengths.push_back(comma == std::string_view::npos ? std::string_view()
                                                             : line.substr(comma + 1));

@@ -19,12 +19,8 @@ std::size_t IgnoreWhiteSpaces(std::string_view text, std::size_t start) {
     return found == std::string_view::npos ? 0 : found + 1;
 }
 
-std::string TrimWhiteSpaces(std::string_view text) {
-    return std::string(Trim(text, kWhiteSpaces));
-}
-
 bool IsUrlValue(std::string_view value) {
-    return StartsWithIgnoringCase(value, kUrl);
+    return StartsWithIgnoringAsciiCase(value, kUrl);
 }
 
 bool FileNameOfUrl(std::string_view value, std::string& name) {
@@ -34,10 +30,8 @@ bool FileNameOfUrl(std::string_view value, std::string& name) {
         throw RunTimeError(ErrorNumber::kInvalidCall, "Nothing follows url in a style sheet");
     const std::size_t close = value.find(')', first - 1);
     if (close == std::string_view::npos) return false;
-    std::string inside = TrimWhiteSpaces(value.substr(first - 1, close - (first - 1)));
-    inside.erase(0, inside.find_first_not_of(kQuotes));
-    inside.erase(inside.find_last_not_of(kQuotes) + 1);
-    name = TrimWhiteSpaces(inside);
+    const auto inside = Trim(value.substr(first - 1, close - (first - 1)), kWhiteSpaces);
+    name = Trim(Trim(inside, kQuotes), kWhiteSpaces);
     return true;
 }
 

@@ -10,7 +10,6 @@ namespace morpho {
 
 // The position of the first other character at or after `start`; 0 beyond the end of the text.
 std::size_t IgnoreWhiteSpaces(std::string_view text, std::size_t start);
-std::string TrimWhiteSpaces(std::string_view text);
 
 // Whether a property's value begins like url(...).
 bool IsUrlValue(std::string_view value);

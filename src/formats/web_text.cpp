@@ -1,10 +1,10 @@
 #include "formats/web_text.h"
 
 #include <array>
-#include <charconv>
 #include <utility>
 
 #include "text/ignoring_case.h"
+#include "text/parsed_number.h"
 #include "text/utf8.h"
 
 namespace morpho {
@@ -21,25 +21,16 @@ bool IsLetterOrDigit(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
 }
 
-template <typename Number>
-std::optional<Number> NumberOf(std::string_view digits, int base) {
-    Number number = 0;
-    const char* const end = digits.data() + digits.size();
-    const auto [stop, error] = std::from_chars(digits.data(), end, number, base);
-    if (digits.empty() || error != std::errc() || stop != end) return {};
-    return number;
-}
-
 // What the reference between "&" and ";" means.
 std::optional<char32_t> ReferencedCharacter(std::string_view reference) {
     for (const auto& [name, character] : kNamed) {
-        if (EqualIgnoringCase(name, reference)) return character;
+        if (EqualIgnoringAsciiCase(name, reference)) return character;
     }
     if (!reference.starts_with('#')) return {};
     reference.remove_prefix(1);
     const bool hexadecimal = reference.starts_with('x') || reference.starts_with('X');
     const auto number =
-        NumberOf<std::uint32_t>(reference.substr(hexadecimal), hexadecimal ? 16 : 10);
+        ParsedNumber<std::uint32_t>(reference.substr(hexadecimal), hexadecimal ? 16 : 10);
     return number && *number != 0 ? std::optional<char32_t>(*number) : std::nullopt;
 }
 
@@ -91,7 +82,7 @@ std::string DecodedPercents(std::string_view text) {
     std::string decoded;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const auto byte = text[i] == '%' && i + 2 < text.size()
-                              ? NumberOf<unsigned char>(text.substr(i + 1, 2), 16)
+                              ? ParsedNumber<unsigned char>(text.substr(i + 1, 2), 16)
                               : std::nullopt;
         decoded += byte ? static_cast<char>(*byte) : text[i];
         if (byte) i += 2;

@@ -1,6 +1,5 @@
 #include "frontpage/mod_fpole.h"
 
-#include <charconv>
 #include <exception>
 #include <initializer_list>
 #include <vector>
@@ -9,6 +8,7 @@
 #include "platform/automation.h"
 #include "platform/platform.h"
 #include "text/ignoring_case.h"
+#include "text/parsed_number.h"
 
 namespace morpho {
 
@@ -32,11 +32,8 @@ std::int32_t AsNumber(const AutomationValue& value) {
     if (const auto* flag = std::get_if<bool>(&value)) return *flag ? -1 : 0;
     const auto* text = std::get_if<std::string>(&value);
     if (text == nullptr) return 0;
-    if (EqualIgnoringCase(*text, "true")) return -1;
-    const char* const end = text->data() + text->size();
-    std::int32_t spelled = 0;
-    const auto [stop, error] = std::from_chars(text->data(), end, spelled);
-    return error == std::errc() && stop == end ? spelled : 0;
+    if (EqualIgnoringAsciiCase(*text, "true")) return -1;
+    return ParsedNumber<std::int32_t>(*text).value_or(0);
 }
 
 }  // namespace

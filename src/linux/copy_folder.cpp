@@ -23,12 +23,12 @@ class NamesPresent {
   public:
     explicit NamesPresent(const std::string& folder) {
         for (const DiskEntry& entry : DiskFolder::Open(folder, true).Entries())
-            names_[Lowered(entry.name)].push_back(entry.name);
+            names_[Folded(entry.name)].push_back(entry.name);
     }
 
     // The name of the entry that `name` means; `name` itself where there is none.
     std::string Actual(const std::string& name) const {
-        const auto found = names_.find(Lowered(name));
+        const auto found = names_.find(Folded(name));
         if (found == names_.end()) return name;
         for (const std::string& candidate : found->second) {
             if (candidate == name) return name;

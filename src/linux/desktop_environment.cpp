@@ -22,7 +22,8 @@ DesktopEnvironment::DesktopEnvironment(ComponentVersion version, const std::stri
     : version_(std::move(version)), temporaryFolder_(ToWindowsPath(temporaryFolder)) {}
 
 std::string DesktopEnvironment::Variable(std::string_view name) const {
-    if (EqualIgnoringCase(name, "TMP") || EqualIgnoringCase(name, "TEMP")) return temporaryFolder_;
+    if (EqualIgnoringAsciiCase(name, "TMP") || EqualIgnoringAsciiCase(name, "TEMP"))
+        return temporaryFolder_;
     return EnvironmentVariable(std::string(name).c_str());
 }
 

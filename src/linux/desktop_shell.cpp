@@ -26,7 +26,7 @@ constexpr std::string_view kHelpFile = "morpho.hlp";
 
 bool IsAddress(std::string_view file) {
     for (const std::string_view scheme : {"http://", "https://", "ftp://", "mailto:", "file:///"}) {
-        if (StartsWithIgnoringCase(file, scheme)) return true;
+        if (StartsWithIgnoringAsciiCase(file, scheme)) return true;
     }
     return false;
 }
@@ -49,7 +49,7 @@ DesktopShell::DesktopShell(std::vector<std::string> helpPages, Starter start)
     : helpPages_(std::move(helpPages)), start_(std::move(start)) {}
 
 int DesktopShell::WinExec(std::string_view commandLine, int) {
-    const std::string command = Lowered(commandLine);
+    const std::string command = AsciiLowered(commandLine);
     if (!command.starts_with(kHelpViewer) || !command.ends_with(kHelpFile)) return kFileNotFound;
     for (const std::string& page : helpPages_) {
         std::error_code ignored;
@@ -59,7 +59,7 @@ int DesktopShell::WinExec(std::string_view commandLine, int) {
 }
 
 int DesktopShell::Open(std::string_view verb, std::string_view file, std::string_view, int) {
-    if (!verb.empty() && !EqualIgnoringCase(verb, "open")) return kNoAssociation;
+    if (!verb.empty() && !EqualIgnoringAsciiCase(verb, "open")) return kNoAssociation;
     if (IsAddress(file)) return OpenTarget(std::string(file));
     const auto diskPath = FindOnDisk(file);
     std::error_code ignored;

@@ -90,7 +90,7 @@ std::vector<FileEntry> DiskFileSystem::List(std::string_view folder) const {
             entries.push_back(std::move(*found));
     }
     std::stable_sort(entries.begin(), entries.end(), [](const FileEntry& a, const FileEntry& b) {
-        return Lowered(a.name) < Lowered(b.name);
+        return Folded(a.name) < Folded(b.name);
     });
     return entries;
 }

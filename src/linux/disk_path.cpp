@@ -22,7 +22,7 @@ bool StandsForByte(char32_t character) {
 
 // The names of the path below "Z:\", as bytes.
 std::optional<std::vector<std::string>> NamesOf(std::string_view path) {
-    if (!StartsWithIgnoringCase(path, "Z:") || path.find('\0') != path.npos) return {};
+    if (!StartsWithIgnoringAsciiCase(path, "Z:") || path.find('\0') != path.npos) return {};
     path.remove_prefix(2);
     if (!path.empty() && path[0] != '\\' && path[0] != '/') return {};
     std::vector<std::string> names;
@@ -56,12 +56,11 @@ bool Exists(const std::string& diskPath) {
 std::optional<std::string> EntryIgnoringCase(const std::string& folder, const std::string& name) {
     const std::unique_ptr<DIR, int (*)(DIR*)> entries(::opendir(folder.c_str()), ::closedir);
     if (!entries) return {};
-    const std::string wanted = Lowered(name);
     std::optional<std::string> found;
     while (const dirent* entry = ::readdir(entries.get())) {
         const std::string_view candidate = entry->d_name;
         if (candidate == name) return name;
-        if (candidate.size() != wanted.size() || Lowered(candidate) != wanted) continue;
+        if (!EqualIgnoringCase(candidate, name)) continue;
         if (!found || candidate < *found) found = candidate;
     }
     return found;

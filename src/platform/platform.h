@@ -8,7 +8,6 @@ class CodePage;
 class ColorizerFactory;
 class Environment;
 class FileSystem;
-class ProfileFiles;
 class Registry;
 class Resources;
 class Shell;
@@ -19,7 +18,6 @@ class Toolkit;
 struct Platform {
     Registry& registry;
     FileSystem& files;
-    ProfileFiles& profileFiles;
     CodePage& codePage;
     Shell& shell;
     Clock& clock;

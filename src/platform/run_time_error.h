@@ -12,6 +12,7 @@ enum class ErrorNumber : int {
     kInvalidCall = 5,
     kOverflow = 6,
     kOutOfMemory = 7,
+    kTypeMismatch = 13,
     kInternal = 51,
     kFileNotFound = 53,
     kDeviceIo = 57,

@@ -2,11 +2,11 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <charconv>
 #include <map>
 #include <sstream>
 
 #include "text/ignoring_case.h"
+#include "text/parsed_number.h"
 #include "theme_editor/adjustment_sliders.h"
 #include "theme_editor/catalogue.h"
 
@@ -23,7 +23,7 @@ constexpr const char* kSteps =
 
 bool IsSelectionWord(const std::string& word) {
     static constexpr std::array<std::string_view, 4> kGroups{"all", "none", "active", "normal"};
-    const auto isWord = [&](std::string_view known) { return EqualIgnoringCase(known, word); };
+    const auto isWord = [&](std::string_view known) { return EqualIgnoringAsciiCase(known, word); };
     return std::any_of(kGroups.begin(), kGroups.end(), isWord) ||
            std::any_of(kCatalogue.begin(), kCatalogue.end(),
                        [&](const CatalogueElement& element) { return isWord(element.key); });
@@ -38,7 +38,7 @@ Step SelectStep(const std::string& argument) {
                                "--select: \"" + word +
                                    "\" is neither all, none, active, normal nor an element key.");
         }
-        step.words.push_back(Lowered(word));
+        step.words.push_back(AsciiLowered(word));
     }
     if (step.words.empty()) {
         throw CommandError(CommandError::Status::kWrongUsage, "--select: nothing is named.");
@@ -46,19 +46,10 @@ Step SelectStep(const std::string& argument) {
     return step;
 }
 
-// The whole number that the text is, in decimal digits; nothing for another text.
-std::optional<int> WholeNumber(const std::string& text) {
-    int number = 0;
-    const char* const end = text.data() + text.size();
-    const auto read = std::from_chars(text.data(), end, number);
-    if (read.ec != std::errc() || read.ptr != end) return {};
-    return number;
-}
-
 CLI::Validator NumberFrom(int least, int most) {
     const std::string range = std::to_string(least) + " to " + std::to_string(most);
     const auto refusal = [=](const std::string& text) {
-        const auto number = WholeNumber(text);
+        const auto number = ParsedNumber<int>(text);
         if (number && *number >= least && *number <= most) return std::string();
         return "\"" + text + "\" is not a whole number from " + range;
     };
@@ -134,7 +125,7 @@ class StepOptions {
         if (kind == Step::Kind::kSelect) return SelectStep(option.results().at(occurrence));
         Step step{kind};
         if (option.get_items_expected_max() > 0)
-            step.number = WholeNumber(option.results().at(occurrence)).value();
+            step.number = ParsedNumber<int>(option.results().at(occurrence)).value();
         return step;
     }
 

@@ -82,13 +82,12 @@ DesktopPlatform::DesktopPlatform(DesktopUse use, const UserFolders& folders, Too
       folders_(folders),
       registry_(MakeRegistry(use, folders, FoldersOfMachine(folders, workFolder_))),
       files_(workFolder_.Path()),
-      profileFiles_(files_, codePage_),
       shell_(HelpPages(), StartDetached),
       environment_({"Morpho", kVersionMajor, kVersionMinor, kVersionRevision, ""},
                    workFolder_.Temporary()),
       frontPage_(disk_, files_, ToWindowsPath(workFolder_.Cache())),
-      platform_{*registry_,   files_,    profileFiles_, codePage_, shell_,     clock_,
-                environment_, resources, colorizers_,   toolkit,   automation_} {}
+      platform_{*registry_,   files_,    codePage_,   shell_,  clock_,
+                environment_, resources, colorizers_, toolkit, automation_} {}
 
 void DesktopPlatform::OpenForReading(const std::string& folder,
                                      const std::optional<std::string>& onlyTheme) {

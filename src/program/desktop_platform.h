@@ -13,7 +13,6 @@
 #include "platform/platform.h"
 #include "platform/registry.h"
 #include "program/colorizer_adapter.h"
-#include "shared/file_profiles.h"
 #include "shared/memory_registry.h"
 #include "web_host/disk_application.h"
 #include "web_host/disk_explorer.h"
@@ -52,7 +51,6 @@ class DesktopPlatform {
     std::unique_ptr<MemoryRegistry> registry_;
     DiskFileSystem files_;
     Windows1252CodePage codePage_;
-    DiskProfileFiles profileFiles_;
     DesktopShell shell_;
     SystemClock clock_;
     DesktopEnvironment environment_;

@@ -4,6 +4,7 @@
 
 #include "program/batch.h"
 #include "program/theme_report.h"
+#include "text/ascii.h"
 #include "text/ignoring_case.h"
 
 namespace morpho {
@@ -13,9 +14,7 @@ namespace {
 // Names come from files of others: what could move a terminal's cursor is left out.
 std::string Printable(const std::string& text) {
     std::string printable = text;
-    std::replace_if(
-        printable.begin(), printable.end(), [](unsigned char c) { return c < ' ' || c == 0x7F; },
-        '?');
+    std::replace_if(printable.begin(), printable.end(), IsControl, '?');
     return printable;
 }
 

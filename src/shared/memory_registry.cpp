@@ -121,7 +121,8 @@ bool MemoryRegistry::Exists(const std::string& path) const {
 
 std::int32_t MemoryRegistry::MayWrite(const std::string& path) const {
     const RegistryKey* fixed = machine_.Find(path);
-    const bool ofUser = StartsWithIgnoringCase(path + '\\', std::string(kCurrentUserName) + '\\');
+    const bool ofUser =
+        StartsWithIgnoringAsciiCase(path + '\\', std::string(kCurrentUserName) + '\\');
     return ofUser && (!fixed || fixed->values.empty()) ? kRegSuccess : kRegAccessDenied;
 }
 

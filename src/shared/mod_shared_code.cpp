@@ -39,7 +39,7 @@ std::size_t CharacterLength(std::string_view text) {
     return length;
 }
 
-// Both in lower case; "*" stands for any characters, "?" for one.
+// Both folded; "*" stands for any characters, "?" for one.
 bool MatchesPattern(std::string_view name, std::string_view pattern) {
     std::string_view retryName;  // after the last "*": where to go on with one character more
     std::string_view retryPattern;
@@ -81,7 +81,7 @@ int GetImageFileType(std::string_view name) {
                                                                          {"png", kPngFile}}};
     const auto dot = name.rfind('.');
     if (dot == std::string_view::npos) return kNoImageFile;
-    const std::string extension = Lowered(name.substr(dot + 1));
+    const std::string extension = AsciiLowered(name.substr(dot + 1));
     const auto type = std::find_if(kTypes.begin(), kTypes.end(),
                                    [&](const auto& known) { return known.first == extension; });
     return type == kTypes.end() ? kNoImageFile : type->second;
@@ -159,11 +159,11 @@ bool AnyFileMatches(const FileSystem& files, std::string_view path) {
     const std::string_view folder = path.substr(0, path.size() - name.size());
     if (!FolderExists(files, folder)) return false;
     // "*.*" means all names, with a dot or without.
-    const std::string pattern = name.empty() || name == "*.*" ? "*" : Lowered(name);
+    const std::string pattern = name.empty() || name == "*.*" ? "*" : Folded(name);
     try {
         const auto entries = files.List(folder);
         return std::any_of(entries.begin(), entries.end(), [&](const FileEntry& entry) {
-            return IsNormalFile(entry) && MatchesPattern(Lowered(entry.name), pattern);
+            return IsNormalFile(entry) && MatchesPattern(Folded(entry.name), pattern);
         });
     } catch (const RunTimeError&) {
         return false;

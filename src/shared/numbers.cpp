@@ -6,8 +6,39 @@
 #include <string>
 
 #include "platform/run_time_error.h"
+#include "text/trim.h"
 
 namespace morpho {
+
+namespace {
+
+template <typename Integer>
+Integer Rounded(double value) {
+    const double whole = std::nearbyint(value);
+    if (!(whole >= std::numeric_limits<Integer>::min() &&
+          whole <= std::numeric_limits<Integer>::max()))
+        throw RunTimeError(ErrorNumber::kOverflow, "Overflow");
+    return static_cast<Integer>(whole);
+}
+
+double StrictNumber(std::string_view text) {
+    text = Trim(text, kWhiteSpace);
+    if (text.starts_with('+')) text.remove_prefix(text.starts_with("+-") ? 0 : 1);
+    double value = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, value);
+    // from_chars would also take a word, such as "inf".
+    const bool isWord = text.find_first_not_of("+-.0123456789eE") != std::string_view::npos;
+    if (error == std::errc::invalid_argument || stop != end || isWord)
+        throw RunTimeError(ErrorNumber::kTypeMismatch, "Type mismatch");
+    if (error == std::errc()) return value;
+    // Too near to zero for its type, or too far from it.
+    return text.find("e-") != text.npos || text.find("E-") != text.npos
+               ? 0
+               : std::numeric_limits<double>::infinity();
+}
+
+}  // namespace
 
 double Val(std::string_view text) {
     std::string number;
@@ -23,10 +54,15 @@ double Val(std::string_view text) {
 }
 
 int WholeNumber(double value) {
-    const double whole = std::nearbyint(value);
-    if (!(whole >= std::numeric_limits<int>::min() && whole <= std::numeric_limits<int>::max()))
-        throw RunTimeError(ErrorNumber::kOverflow, "Overflow");
-    return static_cast<int>(whole);
+    return Rounded<int>(value);
+}
+
+std::int16_t CInt(std::string_view text) {
+    return Rounded<std::int16_t>(StrictNumber(text));
+}
+
+std::int32_t CLng(std::string_view text) {
+    return Rounded<std::int32_t>(StrictNumber(text));
 }
 
 }  // namespace morpho

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 namespace morpho {
@@ -11,5 +12,11 @@ double Val(std::string_view text);
 // The nearest whole number, halves to the even one. Throws RunTimeError (kOverflow) outside 32
 // bits.
 int WholeNumber(double value);
+
+// The number that the whole text is, as the conversion functions of classic Basic read it: blanks
+// around it, sign, decimal point and exponent are allowed. It is rounded as above. Throw
+// RunTimeError: kTypeMismatch for a text that is no number, kOverflow for one outside the type.
+std::int16_t CInt(std::string_view text);
+std::int32_t CLng(std::string_view text);
 
 }  // namespace morpho

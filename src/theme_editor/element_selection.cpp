@@ -43,7 +43,7 @@ bool ElementSelection::SelectEach(std::string_view prefix, bool selected) {
     bool groupTouched = false;
     for (int row = 0; row < elements_.Count(); ++row) {
         if (elements_.IsSelected(row) == selected) continue;
-        if (!StartsWithIgnoringCase(elements_.Key(row), prefix)) continue;
+        if (!StartsWithIgnoringAsciiCase(elements_.Key(row), prefix)) continue;
         if (elements_.Select(row, selected) > 1) groupTouched = true;
         changed_();
     }

@@ -1,16 +1,18 @@
 #include "theme_editor/frm_save_as.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstdint>
 
 #include "formats/plain_file_name.h"
+#include "formats/theme_description.h"
 #include "platform/code_page.h"
 #include "platform/file_system.h"
 #include "platform/platform.h"
-#include "platform/profile_files.h"
+#include "platform/run_time_error.h"
 #include "shared/mod_shared_code.h"
+#include "text/ascii.h"
 #include "text/ignoring_case.h"
+#include "text/parsed_number.h"
 #include "text/trim.h"
 #include "theme_editor/installed_theme.h"
 #include "theme_editor/product.h"
@@ -20,7 +22,6 @@ namespace morpho {
 
 namespace {
 
-constexpr std::size_t kTitleChars = 1024;
 // More digits than these are not counted on; every number of so many fits the counter.
 constexpr std::size_t kMostDigits = 18;
 
@@ -33,8 +34,7 @@ std::string UniqueSuggestion(std::string_view base, const ListBox& list) {
            base[base.size() - 1 - digits] <= '9')
         ++digits;
     const std::string prefix(base.substr(0, base.size() - digits));
-    std::int64_t counter = 1;
-    std::from_chars(base.data() + prefix.size(), base.data() + base.size(), counter);
+    std::int64_t counter = ParsedNumber<std::int64_t>(base.substr(prefix.size())).value_or(1);
     std::string candidate;
     do {
         candidate = prefix + std::to_string(++counter);
@@ -42,25 +42,37 @@ std::string UniqueSuggestion(std::string_view base, const ListBox& list) {
     return candidate;
 }
 
-// The text with "_" for all that descriptions and packages of themes cannot hold: characters that
-// their code page lacks, and control characters.
-std::string Storable(const CodePage& codePage, std::string_view text) {
-    std::string storable = codePage.ToText(codePage.ToBytes(text, [](char32_t) { return "_"; }));
-    std::replace_if(storable.begin(), storable.end(), IsControl, '_');
-    return storable;
+std::string WithoutControls(std::string text) {
+    std::replace_if(text.begin(), text.end(), IsControl, '_');
+    return text;
+}
+
+// The text with "_" for all that the names in packages cannot hold: characters that their code page
+// lacks, and control characters.
+std::string StorableName(const CodePage& codePage, std::string_view text) {
+    return WithoutControls(codePage.ToText(codePage.ToBytes(text, [](char32_t) { return "_"; })));
 }
 
 // A page whose theme is called "none" has no theme.
 bool CanNameATheme(const CodePage& codePage, const std::string& name) {
     return IsValidFileName(name) && IsPlainFileName(name) && !EqualIgnoringCase(name, "none") &&
-           Storable(codePage, name) == name;
+           StorableName(codePage, name) == name;
 }
 
-// Whether a profile file gives back the same title. It takes a pair of quotes away.
+// Whether a description gives back the same title; it takes a pair of quotes away.
 bool CanBeATitle(const CodePage& codePage, const std::string& title) {
-    const bool quoted = title.size() > 1 && title.front() == title.back() &&
-                        (title.front() == '"' || title.front() == '\'');
-    return !quoted && Storable(codePage, title) == title;
+    ThemeDescription description(codePage, {});
+    description.SetTitle(title);
+    return WithoutControls(title) == title && description.Title() == title;
+}
+
+// The title that the description gives; empty when it cannot be read.
+std::string TitleIn(const Platform& platform, const std::string& inf) {
+    try {
+        return ThemeDescription(platform.codePage, platform.files.ReadFile(inf)).Title();
+    } catch (const RunTimeError&) {
+        return {};
+    }
 }
 
 }  // namespace
@@ -112,8 +124,8 @@ void frmSaveAs::Form_Load() {
     for (const bool shared : {true, false})
         ListThemesOf(GetThemesFolder(TheProgram(), shared));
     const CodePage& codePage = ThePlatform().codePage;
-    txtThemeTitle.SetText(UniqueSuggestion(Storable(codePage, title_), lstAppThemeTitle));
-    txtThemeName.SetText(UniqueSuggestion(Storable(codePage, name_), lstAppThemeName));
+    txtThemeTitle.SetText(UniqueSuggestion(WithoutControls(title_), lstAppThemeTitle));
+    txtThemeName.SetText(UniqueSuggestion(StorableName(codePage, name_), lstAppThemeName));
     chkApplyToWeb.SetValue(applyToWeb_);
 }
 
@@ -135,11 +147,8 @@ void frmSaveAs::ListThemesOf(const std::string& themesFolder) {
         if (entry.attributes != kFolderAttribute) continue;
         if (IsHalfInstalled(files, folder, entry.name)) continue;
         const std::string inf = folder + entry.name + "\\" + entry.name + ".inf";
-        std::string title =
-            ThePlatform().profileFiles.ReadString(inf, "info", "title", {}, kTitleChars);
-        TrimAtNul(title, false);
         lstAppThemeName.AddItem(entry.name);
-        lstAppThemeTitle.AddItem(title);
+        lstAppThemeTitle.AddItem(TitleIn(ThePlatform(), inf));
     }
 }
 

@@ -5,12 +5,11 @@
 #include "platform/platform.h"
 #include "shared/mod_shared_code.h"
 #include "text/ignoring_case.h"
+#include "theme_editor/description_files.h"
 
 namespace morpho {
 
 namespace {
-
-constexpr std::string_view kDescription = ".inf";
 
 std::string StemOf(const std::string& path) {
     const std::string name = FileNameOf(path);
@@ -26,8 +25,10 @@ void RebuildThemePackage(const Platform& platform, const std::string& source,
     const PackageIndex index = ReadPackageIndex(platform.codePage, old);
     ThemePackage package{index.header, index.countLine, {}};
     for (std::string name : index.names) {
-        if (EqualIgnoringCase(name, StemOf(source) + std::string(kDescription)))
-            name = StemOf(destination) + std::string(kDescription);
+        for (const std::string_view extension : kDescriptionExtensions) {
+            if (EqualIgnoringCase(name, StemOf(source) + std::string(extension)))
+                name = StemOf(destination) + std::string(extension);
+        }
         package.members.push_back({name, files.ReadFile(WithSeparator(folder) + name)});
     }
     // As a whole, so that a shorter package keeps no tail of the earlier one.

@@ -4,9 +4,9 @@
 #include "platform/platform.h"
 #include "platform/run_time_error.h"
 #include "shared/mod_shared_code.h"
+#include "theme_editor/description_files.h"
 #include "theme_editor/installed_theme.h"
 #include "theme_editor/rebuilt_package.h"
-#include "theme_editor/theme_description.h"
 
 namespace morpho {
 

@@ -100,7 +100,7 @@ bool ThemeLoader::ReadStyleSheet(const std::string& path) {
     try {
         const std::string text =
             program_.platform.codePage.ToText(program_.platform.files.ReadFile(path));
-        styleHtml_ = ContainsIgnoringCase(text, "<style>")
+        styleHtml_ = AsciiLowered(text).find("<style>") != std::string::npos
                          ? "\r\n" + text + "\r\n"
                          : "\r\n<style>\r\n" + text + "\r\n</style>\r\n";
         return true;
@@ -122,7 +122,7 @@ std::string ThemeLoader::FindAttribute(const CatalogueElement& element,
                                        const StyleSheet& sheet) const {
     for (int i = 0; i < sheet.RuleCount(); ++i) {
         const std::unique_ptr<StyleRule> rule = sheet.Rule(i);
-        if (!EqualIgnoringCase(rule->SelectorText(), element.selector)) continue;
+        if (!EqualIgnoringAsciiCase(rule->SelectorText(), element.selector)) continue;
         WriteLog(program_, "  Selector found. Looking for attribute " +
                                std::string(element.Attribute()) + "...");
         const std::optional<std::string> value = rule->Attribute(element.Attribute());

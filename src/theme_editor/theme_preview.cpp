@@ -73,8 +73,8 @@ std::string ThemePreview::FilledTemplate() const {
         program_.platform.resources.Bytes(kTemplateResource, kPreviewTemplate));
     WriteLog(program_, "  Performing substitutions...");
     for (int row = 0; row < elements_.Count(); ++row) {
-        text = ReplacedIgnoringCase(text, "#" + elements_.Key(row) + "#",
-                                    PathAsAddress(themeName_ + "\\" + elements_.File(row)));
+        text = ReplacedIgnoringAsciiCase(text, "#" + elements_.Key(row) + "#",
+                                         PathAsAddress(themeName_ + "\\" + elements_.File(row)));
     }
     return text;
 }

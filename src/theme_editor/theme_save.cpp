@@ -9,8 +9,8 @@
 #include "shared/log.h"
 #include "shared/mod_shared_code.h"
 #include "text/ignoring_case.h"
+#include "theme_editor/description_files.h"
 #include "theme_editor/product.h"
-#include "theme_editor/theme_description.h"
 
 namespace morpho {
 
@@ -129,7 +129,10 @@ bool ThemeSave::WriteTheme() {
         // Nothing has been written, and the person must not think otherwise.
         throw RunTimeError(ErrorNumber::kObjectNotSet, "The web has no folder for the theme");
     }
-    RepairWorkCopy();
+    // A save as a new theme gives the work copy's description the new theme's name and leaves it
+    // so, whether or not the save went well.
+    RestoreDescription(program_.platform, theme_.workFolder, theme_.hostThemes + theme_.name + '\\',
+                       theme_.name);
     if (target_.asNew && !AddToWeb()) return false;
     if (target_.applyFlag) UpdateHostThemes();
     installation_.emplace(program_.platform, userThemes_, target_.name);
@@ -137,27 +140,9 @@ bool ThemeSave::WriteTheme() {
     return true;
 }
 
-// A save as a new theme gives the work copy's description the new theme's name and leaves it so,
-// whether or not the save went well. Every save begins by restoring it.
-void ThemeSave::RepairWorkCopy() {
-    FileSystem& files = program_.platform.files;
-    const std::string originals = theme_.hostThemes + theme_.name + '\\';
-    const std::string inf = theme_.name + ".inf";
-    if (!files.Find(theme_.workFolder + inf) && files.Find(originals + inf))
-        files.Copy(originals + inf, theme_.workFolder + inf);
-    for (const FileEntry& entry : files.List(theme_.workFolder)) {
-        const bool isDescription = Lowered(entry.name).ends_with(".inf") && !entry.IsFolder();
-        if (isDescription && !EqualIgnoringCase(entry.name, inf) &&
-            !files.Find(originals + entry.name))
-            files.Delete(theme_.workFolder + entry.name);
-    }
-}
-
 bool ThemeSave::AddToWeb() {
     const std::string& work = theme_.workFolder;
-    const std::string inf = work + target_.name + ".inf";
-    program_.platform.files.Move(work + theme_.name + ".inf", inf);
-    SetThemeTitle(program_.platform, inf, target_.title);
+    RenameDescription(program_.platform, work, theme_.name, target_.name, target_.title);
 
     Log("Copying theme files to the web...");
     webFolder_->AddFilesOf(

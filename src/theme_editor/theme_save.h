@@ -82,7 +82,6 @@ class ThemeSave {
     bool Finish();
 
     bool IsNameFree();
-    void RepairWorkCopy();
     bool AddToWeb();
     void UpdateHostThemes();
     void ApplyNewTheme();

@@ -37,7 +37,7 @@ void WebThemeFolder::FindOrCreate() {
 bool WebThemeFolder::ShowsHiddenPages() const {
     try {
         const std::string value = web_.Property("vti_showhiddenpages").value_or(std::string());
-        return EqualIgnoringCase(value, "true") || Val(value) != 0;
+        return EqualIgnoringAsciiCase(value, "true") || Val(value) != 0;
     } catch (const std::exception&) {
         return false;
     }

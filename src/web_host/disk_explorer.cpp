@@ -30,7 +30,7 @@ class Explorer : public AutomationObject {
 
     AutomationValue Call(std::string_view method, Arguments arguments) override {
         for (const Method& known : kMethods) {
-            if (!EqualIgnoringCase(method, known.name)) continue;
+            if (!EqualIgnoringAsciiCase(method, known.name)) continue;
             if (arguments.size() != known.argumentCount)
                 RefuseCall("\"" + std::string(method) + "\" takes another number of arguments.");
             return (this->*known.run)(arguments);
@@ -110,7 +110,7 @@ const std::array<Explorer::Method, 5> Explorer::kMethods = {
 }  // namespace
 
 std::unique_ptr<AutomationObject> DiskAutomation::CreateObject(std::string_view progId) {
-    if (!EqualIgnoringCase(progId, "FrontPage.Explorer." + host_.Version()))
+    if (!EqualIgnoringAsciiCase(progId, "FrontPage.Explorer." + host_.Version()))
         throw RunTimeError(ErrorNumber::kCannotCreateComponent,
                            "\"" + std::string(progId) + "\" is not registered.");
     return std::make_unique<Explorer>(host_, bringToTop_);

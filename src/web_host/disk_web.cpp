@@ -24,7 +24,7 @@ std::optional<std::string> PropertyIn(std::string_view settings, std::string_vie
         settings.remove_prefix(std::min(line.size() + 1, settings.size()));
         const std::size_t colon = line.find(':');
         const std::size_t bar = line.find('|', colon == line.npos ? line.size() : colon);
-        if (bar == line.npos || !EqualIgnoringCase(line.substr(0, colon), key)) continue;
+        if (bar == line.npos || !EqualIgnoringAsciiCase(line.substr(0, colon), key)) continue;
         std::string_view value = line.substr(bar + 1);
         if (value.ends_with('\r')) value.remove_suffix(1);
         return TextOfUnknownCoding(value);

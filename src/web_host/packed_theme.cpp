@@ -108,7 +108,7 @@ void PackedTheme::ReadMembers() {
     }
     if (offset != package_->Size()) RefusePackage("goes on behind its last member");
     for (std::size_t i = 0; i < FileCount(); ++i)
-        names_.push_back(Lowered(FileName(i)));
+        names_.push_back(Folded(FileName(i)));
     std::sort(names_.begin(), names_.end());
 }
 
@@ -125,12 +125,12 @@ std::string PackedTheme::FileBytes(std::size_t index) const {
         marked.size() != kPackageMarker.size() + member.length)
         RefusePackage("has no mark before \"" + member.name + "\"");
     std::string bytes = marked.substr(kPackageMarker.size());
-    if (!Lowered(member.name).ends_with(".css")) return bytes;
+    if (!Folded(member.name).ends_with(".css")) return bytes;
     return WithOwnPictures(bytes, [this](const std::string& file) { return HasMember(file); });
 }
 
 bool PackedTheme::HasMember(const std::string& name) const {
-    return std::binary_search(names_.begin(), names_.end(), Lowered(name));
+    return std::binary_search(names_.begin(), names_.end(), Folded(name));
 }
 
 void PackTheme(const Folder& theme, const std::string& descriptionName,

@@ -41,7 +41,7 @@ class PackedTheme {
     std::string description_;
     std::shared_ptr<const ReadableFile> package_;
     std::vector<Member> members_;
-    std::vector<std::string> names_;  // of the files, in lower case, sorted
+    std::vector<std::string> names_;  // of the files, folded, sorted
 };
 
 // A file that goes into a package.

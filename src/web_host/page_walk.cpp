@@ -22,13 +22,13 @@ bool IsWeb(const std::vector<FolderEntry>& entries) {
 bool HasPages(const FolderEntry& folder) {
     return folder.kind == EntryKind::kFolder && !folder.name.starts_with('.') &&
            !EqualIgnoringCase(folder.name, kThemesFolder) &&
-           !StartsWithIgnoringCase(folder.name, "_vti_");
+           !StartsWithIgnoringAsciiCase(folder.name, "_vti_");
 }
 
 }  // namespace
 
 bool IsPageName(std::string_view name) {
-    const std::string lower = Lowered(name);
+    const std::string lower = Folded(name);
     return std::any_of(kPageExtensions.begin(), kPageExtensions.end(),
                        [&](std::string_view extension) { return lower.ends_with(extension); });
 }

@@ -5,9 +5,9 @@
 namespace morpho {
 
 bool ThemeFiles::Has(const std::string& theme, const std::string& file) {
-    const std::string key = Lowered(theme);
+    const std::string key = Folded(theme);
     const auto known = files_.find(key);
-    return (known == files_.end() ? Listed(theme, key) : known->second).contains(Lowered(file));
+    return (known == files_.end() ? Listed(theme, key) : known->second).contains(Folded(file));
 }
 
 const std::set<std::string>& ThemeFiles::Listed(const std::string& theme, const std::string& key) {
@@ -17,7 +17,7 @@ const std::set<std::string>& ThemeFiles::Listed(const std::string& theme, const 
     const auto folder = path ? web_.FindFolder(*path) : nullptr;
     if (!folder) return files;
     for (const FolderEntry& entry : folder->Entries())
-        files.insert(Lowered(entry.name));
+        files.insert(Folded(entry.name));
     return files;
 }
 

@@ -20,7 +20,7 @@ class ThemeFiles {
     const std::set<std::string>& Listed(const std::string& theme, const std::string& key);
 
     const WebFiles& web_;
-    std::map<std::string, std::set<std::string>> files_;  // by theme; all in lower case
+    std::map<std::string, std::set<std::string>> files_;  // by theme; all folded
 };
 
 }  // namespace morpho

@@ -4,9 +4,9 @@
 #include <functional>
 #include <set>
 
-#include "formats/profile_text.h"
+#include "formats/theme_description.h"
+#include "formats/windows_1252_code_page.h"
 #include "text/ignoring_case.h"
-#include "text/windows_1252.h"
 #include "web_host/installed_themes.h"
 #include "web_host/limits.h"
 
@@ -24,9 +24,10 @@ const FolderEntry* FindFile(const std::vector<FolderEntry>& entries, const std::
 
 // The title that the theme's description gives it, or its name.
 std::string LabelOf(const Folder& folder, const std::string& description, const std::string& name) {
-    const ProfileText profile(ReadWholeFile(folder, description, kMaxThemeFileBytes));
-    const auto title = profile.Value("info", "title");
-    return title && !title->empty() ? TextOfUnknownCoding(*title) : name;
+    const Windows1252CodePage codePage;
+    const std::string bytes = ReadWholeFile(folder, description, kMaxThemeFileBytes);
+    const std::string title = ThemeDescription(codePage, bytes).Title();
+    return title.empty() ? name : title;
 }
 
 class ThemeUnpacker {
@@ -48,7 +49,7 @@ class ThemeUnpacker {
         if (!installFailure_.empty()) listed_.skipped.push_back(installFailure_);
         std::stable_sort(
             listed_.themes.begin(), listed_.themes.end(),
-            [](const Theme& a, const Theme& b) { return Lowered(a.name) < Lowered(b.name); });
+            [](const Theme& a, const Theme& b) { return Folded(a.name) < Folded(b.name); });
         return std::move(listed_);
     }
 
@@ -115,7 +116,7 @@ class ThemeUnpacker {
         const auto entries = folder ? Readable([&] { return (*folder)->Entries(); }) : std::nullopt;
         const FolderEntry* description = entries ? FindFile(*entries, name + ".inf") : nullptr;
         if (entries && !description) return WhereInstalling([&] { installed_->Reserve(name); });
-        if (!names_.insert(Lowered(name)).second)
+        if (!names_.insert(Folded(name)).second)
             return Skip(themes, name, "another theme has that name");
         if (description) {
             const auto label =
@@ -149,7 +150,7 @@ class ThemeUnpacker {
         std::set<std::string> names;
         for (const FolderEntry& entry : entries) {
             if (entry.kind != EntryKind::kFile || IsTemporaryName(entry.name)) continue;
-            if (!names.insert(Lowered(entry.name)).second) {
+            if (!names.insert(Folded(entry.name)).second) {
                 Skip(theme, entry.name, "another file has that name");
                 continue;
             }
@@ -194,7 +195,7 @@ class ThemeUnpacker {
     std::unique_ptr<Folder> unpackFolder_;
     std::optional<InstalledThemes> installed_;
     std::string installFailure_;
-    std::set<std::string> names_;  // of the themes, in lower case
+    std::set<std::string> names_;  // of the themes, folded
     ListedThemes listed_;
 };
 

@@ -17,7 +17,7 @@ std::string WebFiles::Url() const {
 
 std::optional<WebPath> WebFiles::PathOfUrl(std::string_view url) const {
     const std::string whole = Url();
-    if (StartsWithIgnoringCase(url, whole)) {
+    if (EqualIgnoringCase(url.substr(0, whole.size()), whole)) {
         url.remove_prefix(whole.size());
         if (!url.empty() && url[0] != '/' && url[0] != '\\') return {};
     }

@@ -43,7 +43,9 @@ TEST_F(Save, AsAnotherGivesTheWebANewThemeThatItsPagesShow) {
     ExpectPictures(home_.FilesIn("out"), Theme("orrery2"));
     EXPECT_NE(Theme("orrery2")["orrbnra.gif"], Theme("orrery")["orrbnra.gif"]);
     EXPECT_EQ(Theme("orrery2")["orre1011.css"], Theme("orrery")["orre1011.css"]);
-    EXPECT_NE(Theme("orrery2")["orrery2.inf"].find("title=Orrery2"), std::string::npos);
+    for (const char* const description : {"orrery2.inf", "orrery2.utf8"})
+        EXPECT_NE(Theme("orrery2")[description].find("title=Orrery2"), std::string::npos);
+    EXPECT_FALSE(Theme("orrery2").contains("orrery.utf8"));
     EXPECT_EQ(Report("recolor WEB --theme orrery2 --hue 20 --apply --save")["saved"]["applied"],
               true);
     EXPECT_EQ(WithoutTheme(Web(), "orrery2"), Rethemed(before, "orrery2"));

@@ -18,7 +18,7 @@ std::string Normal(std::string_view path) {
 }
 
 std::string Key(std::string_view path) {
-    return Lowered(Normal(path));
+    return Folded(Normal(path));
 }
 
 std::string ParentOf(const std::string& normal) {

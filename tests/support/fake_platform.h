@@ -4,7 +4,6 @@
 #include "forms/headless_toolkit.h"
 #include "platform/platform.h"
 #include "shared/component.h"
-#include "shared/file_profiles.h"
 #include "support/fake_application.h"
 #include "support/fake_automation.h"
 #include "support/fake_colorizer.h"
@@ -20,7 +19,6 @@ struct FakePlatform {
     FakeRegistry registry;
     FakeFileSystem files;
     Windows1252CodePage codePage;
-    DiskProfileFiles profileFiles{files, codePage};
     FakeShell shell;
     FakeClock clock;
     FakeEnvironment environment;
@@ -30,8 +28,8 @@ struct FakePlatform {
     FakeApplication application{files};
     FakeAutomation automation;
 
-    Platform platform{registry,    files,     profileFiles, codePage, shell,     clock,
-                      environment, resources, colorizers,   toolkit,  automation};
+    Platform platform{registry,    files,     codePage,   shell,   clock,
+                      environment, resources, colorizers, toolkit, automation};
     Component component;
     Program program{platform, component};
 

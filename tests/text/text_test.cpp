@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "text/ignoring_case.h"
 #include "text/utf8.h"
 #include "text/windows_1252.h"
 
@@ -40,6 +41,26 @@ TEST(Utf16, GoesThereAndBack) {
     EXPECT_EQ(Utf8FromUtf16(std::string_view("\x3D\xD8\x61\0\x62", 5)),
               "\xEF\xBF\xBD"
               "a");
+}
+
+TEST(IgnoringCase, NamesAreFoldedAsUnicodeSays) {
+    const std::pair<std::string_view, std::string_view> same[] = {
+        {"Blends", "bLENDS"}, {"Grün", "GRÜN"}, {"šum", "ŠUM"},     {"Łódź", "łÓDŹ"},
+        {"ДОМ", "дом"},       {"ΣΑΣ", "σας"},   {"ẞ", "ß"},         {"\u212A", "k"},
+        {"Ⱥ", "ⱥ"},           {"𐐀", "𐐨"},       {"x\xFF", "X\xFF"}, {"×", "×"}};
+    for (const auto& [a, b] : same) {
+        EXPECT_TRUE(EqualIgnoringCase(a, b)) << a;
+        EXPECT_EQ(Folded(a), Folded(b));
+    }
+    for (const auto& [a, b] : {std::pair{"ß", "ss"}, {"×", "÷"}, {"a", "ab"}, {"\xC0", "\xE0"}}) {
+        EXPECT_FALSE(EqualIgnoringCase(a, b)) << a;
+        EXPECT_NE(Folded(a), Folded(b));
+    }
+}
+
+TEST(IgnoringCase, MarkupKeepsItsPositions) {
+    EXPECT_EQ(AsciiLowered("URL(Ⱥ\u212A"), "url(Ⱥ\u212A");
+    EXPECT_EQ(ReplacedIgnoringAsciiCase("\u212A#Key##KEY#", "#key#", "x"), "\u212Axx");
 }
 
 }  // namespace

@@ -79,15 +79,22 @@ TEST_F(SaveAsDialog, RefusesWhatCannotBeATheme) {
          {"My#Theme", "..\\up", "moor.", "None", "aux.x", "COM1", "a\nb", "Łódź"})
         ExpectRefused(invalid, "", "Theme name must be a valid file name.", nameBox);
     ExpectRefused("MOOR", "  ", "You must specify a theme title.", titleBox);
-    for (const char* unstorable : {"Łódź", "\"Dunes\"", "'x'", "a\r\nb", "\tDunes"})
+    for (const char* unstorable : {"\"Dunes\"", "'x'", "a\r\nb", "\tDunes"})
         ExpectRefused("MOOR", unstorable, "Theme title holds characters that cannot be saved.",
                       titleBox);
-    ExpectRefused("MOOR", "x",
-                  "This theme name is being used by another theme. Please specify another name.",
-                  nameBox);
-    ExpectRefused("new", " dunes ",
-                  "This theme title is being used by another theme. Please specify another title.",
-                  titleBox);
+    const char* const nameUsed =
+        "This theme name is being used by another theme. Please specify another name.";
+    const char* const titleUsed =
+        "This theme title is being used by another theme. Please specify another title.";
+    InstallTheme(kUserThemes, "šum", "Küste");
+    InstallTheme(kUserThemes, "shore", "Grün\r\ncodepage=65001");
+    InstallTheme(kUserThemes, "bank",
+                 "\xDC"
+                 "fer");
+    for (const char* used : {"MOOR", "ŠUM"})
+        ExpectRefused(used, "x", nameUsed, nameBox);
+    for (const char* used : {" dunes ", "KÜSTE", "grün", "Üfer"})
+        ExpectRefused("new", used, titleUsed, titleBox);
 }
 
 TEST_F(SaveAsDialog, SuggestsWhatItAccepts) {
@@ -95,7 +102,7 @@ TEST_F(SaveAsDialog, SuggestsWhatItAccepts) {
     title = "\"Köln\tŁódź\"";
     EXPECT_TRUE(Show([&] { dialog.cmdSave.UserClick(); }));
     EXPECT_EQ(name, "_ód_2");
-    EXPECT_EQ(title, "\"Köln__ód_\"2");
+    EXPECT_EQ(title, "\"Köln_Łódź\"2");
 }
 
 TEST_F(SaveAsDialog, GivesBackWhatWasEnteredAndNothingWhenCancelled) {

@@ -52,10 +52,6 @@ TEST_F(SavePackage, TakesThePresentFilesOfTheSourcesListAndLeavesNoTail) {
               Package({{"b.gif", ""}, {"A.gif", "picture a"}}));
     EXPECT_EQ(Rebuilt("head\r\n 1 \r\na.gif\n<==MS-Theme==>whatever", "C:\\new.elm"),
               "head\r\n 1 \r\na.gif,9\n<==MS-Theme==>picture a");
-    // A theme's own description takes the new theme's name.
-    world.files.PutFile("C:\\work\\bay.inf", "[info]");
-    EXPECT_EQ(Rebuilt(Package({{"Coast.inf", "old"}}), "C:\\themes\\bay.elm"),
-              Package({{"bay.inf", "[info]"}}));
 }
 
 TEST_F(SavePackage, RefusesMembersThatAreNoPlainFilesOfTheFolder) {
@@ -67,7 +63,7 @@ TEST_F(SavePackage, RefusesMembersThatAreNoPlainFilesOfTheFolder) {
     ExpectRefused(Package({{"missing.gif", ""}}), "missing.gif");
 }
 
-TEST_F(SavePackage, RefusesACountThatLies) {
+TEST_F(SavePackage, RefusesNumbersThatLie) {
     const std::string members = "\na.gif,1\nb.gif,1\n<==MS-Theme==>a<==MS-Theme==>b";
     for (const char* count : {"1", "0"})
         ExpectRefused("head\n" + std::string(count) + members, "another number");
@@ -75,16 +71,10 @@ TEST_F(SavePackage, RefusesACountThatLies) {
         ExpectRefused("head\n" + std::string(count) + members, "how many");
     for (const std::string& bytes : {"head\n3" + members, std::string("head"), std::string()})
         ExpectRefused(bytes, "ends within its index");
-}
-
-TEST_F(SavePackage, DoesNotReadPastALengthThatLies) {
-    const auto with = [](const std::string& length) {
-        return "head\n1\na.gif" + length + "\n<==MS-Theme==>abc";
-    };
-    for (const char* length :
-         {",4", ",-1", ",18446744073709551615", ",18446744073709551617", ",", ",3x", ""})
-        ExpectUnreadable(with(length), "wrong length");
-    ExpectUnreadable(with(",2"), "goes on");
+    for (const char* length : {",4", ",-1", ",18446744073709551617", ",", ",3x", ""})
+        ExpectUnreadable("head\n1\na.gif" + std::string(length) + "\n<==MS-Theme==>abc",
+                         "wrong length");
+    ExpectUnreadable("head\n1\na.gif,2\n<==MS-Theme==>abc", "goes on");
     ExpectUnreadable("head\n2\na.gif,1\nb.gif,1\n<==MS-Theme==>a<==MS-Scheme==>b", "no mark");
 }
 

@@ -78,6 +78,39 @@ TEST_F(SaveTheme, SaveAsWithoutApplyingLeavesTheWebAsItWas) {
     EXPECT_EQ(world.application.webCalls.back(), "RecalcHyperlinks");
 }
 
+TEST_F(SaveTheme, TheCopyInUtf8FollowsTheDescription) {
+    const std::string utf8 = "[info]\r\ntitle=Coast\r\n[titles]\r\n1033=Coast\r\n";
+    for (const char* const file : {"coast\\coast.utf8", "coast\\coast.inf"})
+        world.files.PutFile(kHostThemes + file, utf8);
+    InstallTheme(kGlobalThemes, "coast", "Coast");
+    OpenAndRecolour();
+    world.files.FailOn(kUserThemes + "bay\\bay.elm");
+    SaveAs("bay", "The Bay", true);
+    world.files.FailNoMore();
+    SaveAs("port", "Łódź", true);
+    ExpectHolds(kUserThemes + "port\\port.elm", "port.utf8,");
+    for (const std::string& folder : {kWebThemes, kHostThemes}) {
+        EXPECT_THAT(world.files.FilesBelow(folder + "port"),
+                    testing::AllOf(Contains("port.utf8"), Not(Contains("coast.utf8")),
+                                   Not(Contains("bay.utf8"))));
+        EXPECT_EQ(world.files.Bytes(folder + "port\\port.utf8"),
+                  world.files.Bytes(folder + "port\\port.inf"));
+        ExpectHolds(folder + "port\\port.inf", "1033=Łódź");
+    }
+}
+
+TEST_F(SaveTheme, SaveKeepsTheBytesOfTheTitle) {
+    for (const std::string title : {"K\xC3\xBCste", "K\xFCste"}) {
+        InstallTheme(kGlobalThemes, "coast", title);
+        world.application.web->themes.front().label = "Küste";
+        OpenAndRecolour();
+        Save(Answer::kYes);
+        EXPECT_EQ(world.files.Bytes(kUserThemes + "coast\\coast.inf"),
+                  "[info]\r\ntitle=" + title +
+                      "\r\nreadonly=0\r\nformat=2\r\n[titles]\r\n1033=" + title + "\r\n");
+    }
+}
+
 TEST_F(SaveTheme, AFolderThatTheWebHadBeforeIsNotDeleted) {
     world.files.PutFile(kWebThemes + "bay\\own.gif", "the web's");
     OpenAndRecolour();

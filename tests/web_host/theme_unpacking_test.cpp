@@ -69,7 +69,10 @@ TEST_F(ThemeUnpackingTest, TakesOneOfTwoNamesThatDifferOnlyInCase) {
     AddTheme("A", "[info]\ntitle=upper\n");
     folder_.Write("web/_themes/A/x.gif", "1");
     folder_.Write("web/_themes/A/X.gif", "2");
-    ExpectThemes("A=upper;", 2);
+    AddTheme("šum");
+    AddTheme("ŠUM");
+    ExpectThemes("A=upper;ŠUM=ŠUM;", 3);
+    fs::remove_all(folder_ / "cache/ŠUM");
     ExpectUnpacked({{"A/", ""}, {"A/A.inf", "[info]\ntitle=upper\n"}, {"A/X.gif", "2"}});
 }
 
