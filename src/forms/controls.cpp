@@ -34,14 +34,37 @@ void Timer::Accept(ControlVisitor& visitor) {
     visitor.Visit(*this);
 }
 
+Control* Label::Buddy() const {
+    if (AccessKey() == '\0' || IsLink()) return nullptr;
+    const auto& siblings = Parent().Controls();
+    const auto self = std::find(siblings.begin(), siblings.end(), this);
+    const auto found = std::find_if(self, siblings.end(),
+                                    [](const Control* control) { return control->TakesFocus(); });
+    return found == siblings.end() ? nullptr : *found;
+}
+
 bool Label::UserClick() {
-    if (!IsOperable() || !click_) return false;
+    if (!IsOpenToUser() || !click_) return false;
     Raise("Click", click_);
     return true;
 }
 
+bool CommandButton::IsDefault() const {
+    return role_ == ButtonRole::kDefault || role_ == ButtonRole::kDefaultAndCancel;
+}
+
+bool CommandButton::IsCancel() const {
+    return role_ == ButtonRole::kCancel || role_ == ButtonRole::kDefaultAndCancel;
+}
+
+std::string CommandButton::ShownToolTip() const {
+    const std::string toolTip = Control::ShownToolTip();
+    if (shortcut_.IsNone()) return toolTip;
+    return (toolTip.empty() ? "" : toolTip + " ") + "(" + shortcut_.Text() + ")";
+}
+
 bool CommandButton::UserClick() {
-    if (!IsOperable()) return false;
+    if (!IsOpenToUser()) return false;
     Raise("Click", click_);
     return true;
 }
@@ -59,7 +82,7 @@ void CheckBox::SetValueQuietly(bool value) {
 }
 
 bool CheckBox::UserSet(bool value) {
-    if (!IsOperable()) return false;
+    if (!IsOpenToUser()) return false;
     SetValue(value);
     return true;
 }
@@ -84,7 +107,7 @@ void Slider::SetValueQuietly(int value) {
 }
 
 bool Slider::UserScroll(int value) {
-    if (!IsOperable()) return false;
+    if (!IsOpenToUser()) return false;
     if (Clamped(value) == value_) return true;
     value_ = Clamped(value);
     Changed(aspect::kValue);
@@ -113,7 +136,7 @@ void ScrollBar::SetValue(int value) {
 }
 
 bool ScrollBar::UserSet(int value) {
-    if (!IsOperable()) return false;
+    if (!IsOpenToUser()) return false;
     SetValue(value);
     return true;
 }
@@ -126,7 +149,7 @@ void PictureBox::SetPicture(std::string encoded) {
 void WebBrowser::Navigate(std::string_view path, int flags) {
     address_ = path;
     flags_ = flags;
-    Changed(aspect::kNavigate);
+    Changed(aspect::kAddress);
 }
 
 void WebBrowser::RefreshPage() {
@@ -138,7 +161,7 @@ void WebBrowser::Refresh2(int level) {
 }
 
 bool Timer::Tick() {
-    if (!IsOperable()) return false;
+    if (!IsOpenToUser()) return false;
     Raise("Timer", tick_);
     return true;
 }

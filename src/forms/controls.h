@@ -4,6 +4,7 @@
 #include <span>
 
 #include "forms/control.h"
+#include "forms/shortcut.h"
 
 namespace morpho {
 
@@ -15,13 +16,13 @@ class Frame : public Control, public Container {
     using Control::Control;
     Form& OwnerForm() override { return Control::OwnerForm(); }
     bool IsOperable() const override { return Control::IsOperable(); }
+    bool TakesFocus() const override { return false; }
     void Accept(ControlVisitor& visitor) override;
 };
 
 enum class Alignment { kLeft, kRight, kCenter };
 
-// Text. With "&" or an access key it leads to the next control in tab order. With a handler it is a
-// link.
+// Text. With a handler it is a link.
 class Label : public Control {
   public:
     Label(Container& parent, const ControlSpec& spec, Alignment alignment = Alignment::kLeft,
@@ -30,6 +31,10 @@ class Label : public Control {
 
     Alignment TextAlignment() const { return alignment_; }
     bool IsLink() const { return click_ != nullptr; }
+    bool TakesFocus() const override { return IsLink(); }
+    // Where the access key leads: the next control of the same container that takes the focus.
+    // Null: there is none, or the label has no such key, or is a link.
+    Control* Buddy() const;
     bool UserClick();
     void Accept(ControlVisitor& visitor) override;
 
@@ -47,21 +52,23 @@ enum class ButtonRole {
 
 class CommandButton : public Control {
   public:
-    // `shortcut` is a key that presses the button from anywhere in the form, such as "Ctrl+Z" or
-    // "F1".
     CommandButton(Container& parent, const ControlSpec& spec, Handler click,
-                  ButtonRole role = ButtonRole::kNone, std::string_view shortcut = {})
+                  ButtonRole role = ButtonRole::kNone, Shortcut shortcut = {})
         : Control(parent, spec), click_(std::move(click)), role_(role), shortcut_(shortcut) {}
 
-    ButtonRole Role() const { return role_; }
-    const std::string& Shortcut() const { return shortcut_; }
+    // Whether Enter, or Escape, presses the button.
+    bool IsDefault() const;
+    bool IsCancel() const;
+    const Shortcut& ShortcutKey() const { return shortcut_; }
+    // With the shortcut behind it.
+    std::string ShownToolTip() const override;
     bool UserClick();
     void Accept(ControlVisitor& visitor) override;
 
   private:
     Handler click_;
     ButtonRole role_;
-    std::string shortcut_;
+    Shortcut shortcut_;
 };
 
 class CheckBox : public Control {
@@ -155,6 +162,7 @@ class PictureBox : public Control {
     PictureBox(Container& parent, const ControlSpec& spec, bool stretch = false)
         : Control(parent, spec), stretch_(stretch) {}
 
+    bool TakesFocus() const override { return false; }
     bool Stretch() const { return stretch_; }
     // The encoded picture (JPEG, GIF, PNG, BMP); empty shows nothing.
     const std::string& Picture() const { return picture_; }
@@ -177,10 +185,13 @@ class WebBrowser : public Control {
   public:
     using Control::Control;
 
-    // Shows the page at this Windows path.
+    // Shows the page at this Windows path, a plain path: a toolkit that needs an address escapes
+    // "%",
+    // "#" and the like.
     void Navigate(std::string_view path, int flags);
     // Shows the current page again; with Refresh2(kRefreshCompletely) every picture of it is read
-    // again too.
+    // again too. Before the page stands this counts as navigating to it once more; without a page
+    // it does nothing.
     void RefreshPage();
     void Refresh2(int level);
 
@@ -201,7 +212,9 @@ class Timer : public Control {
         SetEnabled(false);
     }
 
+    bool TakesFocus() const override { return false; }
     int Interval() const { return interval_; }
+    // Does nothing while a handler runs: the next tick comes.
     bool Tick();
     void Accept(ControlVisitor& visitor) override;
 

@@ -10,6 +10,24 @@ namespace {
 class Arrows : public QSpinBox {
   public:
     explicit Arrows(QWidget* parent) : QSpinBox(parent) { lineEdit()->hide(); }
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override {
+        held_ = true;
+        QSpinBox::mousePressEvent(event);
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        held_ = false;
+        QSpinBox::mouseReleaseEvent(event);
+    }
+    // A handler may give the focus away at every step, which would end the repeating of an arrow
+    // that is held down.
+    void focusOutEvent(QFocusEvent* event) override {
+        if (!held_) QSpinBox::focusOutEvent(event);
+    }
+
+  private:
+    bool held_ = false;
 };
 
 }  // namespace
@@ -23,7 +41,7 @@ SliderPeer::SliderPeer(Slider& slider, QWidget* parent, const PeerContext& conte
     QObject::connect(widget_, &QSlider::valueChanged, Receiver(),
                      [this](int value) { Report([&] { Moved(value); }); });
     QObject::connect(widget_, &QSlider::sliderReleased, Receiver(),
-                     [this] { Did([this] { slider_.UserSettle(widget_->value()); }); });
+                     [this] { Did([this] { LetGo(widget_->value()); }); });
 }
 
 SliderPeer::~SliderPeer() {
@@ -35,6 +53,11 @@ void SliderPeer::Moved(int value) {
     Show(aspect::kValue);
     if (moved && !widget_->isSliderDown())
         Context().settling.Hold(this, [this] { return Settle(); });
+}
+
+// While a handler runs the slider settles later, at the last value that it took.
+void SliderPeer::LetGo(int value) {
+    if (!slider_.UserSettle(value)) Context().settling.Hold(this, [this] { return Settle(); });
 }
 
 bool SliderPeer::Settle() {
