@@ -81,14 +81,14 @@ ScrollBarPeer::ScrollBarPeer(ScrollBar& bar, QWidget* parent, const PeerContext&
     : ControlPeer(bar, new Arrows(parent), context),
       bar_(bar),
       widget_(static_cast<QSpinBox*>(Widget())) {
+    // Once: every setting of the range ends the repeating of an arrow that is held down.
+    widget_->setRange(bar.Minimum(), bar.Maximum());
     QObject::connect(widget_, &QSpinBox::valueChanged, Receiver(),
                      [this](int value) { Did([&] { bar_.UserSet(value); }); });
 }
 
 void ScrollBarPeer::WriteOwn(Aspects changed) {
-    if (!(changed & aspect::kValue)) return;
-    widget_->setRange(bar_.Minimum(), bar_.Maximum());
-    widget_->setValue(bar_.Value());
+    if (changed & aspect::kValue) widget_->setValue(bar_.Value());
 }
 
 }  // namespace morpho

@@ -50,8 +50,7 @@ TEST_F(WebBrowserTest, FindsPicturesAsTheyAreWrittenInOldPages) {
         files_.PutFile("C:\\Work\\" + std::string(name) + "\\a.gif", Picture(Qt::red));
     for (const char* const address :
          {"Blends\\Bild \xE4.GIF", "blends\\BILD%20%C3%A4.gif", "Blends/bild \xE4.gif",
-          "50%25%20grey\\a.gif", "50% grey\\a.gif", "a%23b\\a.gif", "what%2520\\a.gif",
-          "w%3F\\a.gif", "%2523/a.gif",
+          "50%25%20grey\\a.gif", "a%23b\\a.gif", "what%2520\\a.gif", "w%3F\\a.gif", "%2523/a.gif",
           "Stra\xDF"
           "e\\a.gif",
           "Stra%C3%9Fe\\a.gif"}) {
