@@ -15,6 +15,8 @@ class Control;
 class ControlVisitor;
 class Form;
 
+using Handler = std::function<void()>;
+
 // What holds controls: a form or a frame.
 class Container {
   public:

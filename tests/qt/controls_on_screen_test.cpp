@@ -63,9 +63,16 @@ TEST_F(ControlsOnScreen, AThumbThatIsLetGoWhileAHandlerRunsSettlesAfterIt) {
 TEST_F(ControlsOnScreen, TextComesInByOneDoorAloneHoweverItIsEntered) {
     form_.txtQuality.SetTextQuietly("75");
     form_.txtQuality.StepWith(form_.vsQuality);
+    form_.answer = [&] {  // in Form_Load
+        form_.answer = {};
+        form_.txtQuality.SetFocus();
+        form_.txtQuality.SelectAll();
+    };
     Show([&](QWidget& window) {
         auto& box = Find<QLineEdit>(window, form_.txtQuality);
-        box.setFocus();
+        EXPECT_EQ(Focus(window), "txtQuality");
+        EXPECT_EQ(box.selectedText(), "75");
+        box.end(false);
         const auto expectText = [&](const char* text, int cursor, const char* why) {
             EXPECT_EQ(form_.txtQuality.Text(), text) << why;
             EXPECT_EQ(box.text(), text) << why;
