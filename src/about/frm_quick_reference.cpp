@@ -17,8 +17,7 @@ frmQuickReference::frmQuickReference(const Program& program)
                         TextBox::Kind::kMultiLineReadOnly),
       chkDontShow(*this, {.name = "chkDontShow",
                           .place = {180, 5730, 4500, 285},
-                          .caption = "Don't show this message again",
-                          .accessKey = 'D'}),
+                          .caption = "&Don't show this message again"}),
       btnOK(
           *this, {.name = "btnOK", .place = {5895, 5700, 1125, 345}, .caption = "OK"},
           [this] { Unload(); }, ButtonRole::kDefault) {}

@@ -4,25 +4,16 @@
 #include <iterator>
 
 #include "forms/form.h"
+#include "text/trim.h"
 
 namespace morpho {
-
-namespace {
-
-std::string WithoutAmpersands(std::string text) {
-    std::erase(text, '&');
-    return text;
-}
-
-}  // namespace
 
 Control::Control(Container& parent, const ControlSpec& spec)
     : parent_(parent),
       name_(spec.name),
       place_(spec.place),
-      caption_(spec.caption),
+      caption_(ReadMarks(spec.caption)),
       toolTip_(spec.toolTip),
-      accessKey_(spec.accessKey),
       accessibleName_(spec.accessibleName) {
     parent.controls_.push_back(this);
 }
@@ -46,9 +37,13 @@ void Control::SetHeight(int twips) {
 }
 
 void Control::SetCaption(std::string_view caption) {
-    if (caption == caption_) return;
-    caption_ = caption;
+    if (caption == caption_.text && caption_.keyAt == std::string::npos) return;
+    caption_ = {std::string(caption)};
     Changed(aspect::kCaption);
+}
+
+char Control::AccessKey() const {
+    return caption_.keyAt == std::string::npos ? '\0' : caption_.text[caption_.keyAt];
 }
 
 void Control::SetToolTip(std::string_view toolTip) {
@@ -57,21 +52,27 @@ void Control::SetToolTip(std::string_view toolTip) {
     Changed(aspect::kCaption);
 }
 
+std::string Control::ShownToolTip() const {
+    return std::string(Trim(toolTip_));
+}
+
 std::string Control::AccessibleName() const {
     if (!accessibleName_.empty()) return accessibleName_;
-    if (!caption_.empty()) return WithoutAmpersands(caption_);
+    if (!Caption().empty()) return Caption();
     const auto& siblings = parent_.Controls();
     const auto self = std::find(siblings.begin(), siblings.end(), this);
     if (self != siblings.begin() && self != siblings.end() && toolTip_.empty()) {
-        return WithoutAmpersands((*std::prev(self))->Caption());
+        return (*std::prev(self))->Caption();
     }
     return toolTip_;
 }
 
 void Control::SetEnabled(bool enabled) {
     if (enabled == enabled_) return;
+    if (!enabled) OwnerForm().KeepFocus(*this);
     enabled_ = enabled;
     Changed(aspect::kEnabled);
+    if (enabled) OwnerForm().GiveFocusBack();
 }
 
 void Control::SetVisible(bool visible) {
@@ -84,8 +85,12 @@ bool Control::IsOperable() const {
     return enabled_ && visible_ && parent_.IsOperable();
 }
 
+bool Control::IsOpenToUser() const {
+    return IsOperable() && !OwnerForm().RunsHandler();
+}
+
 void Control::SetFocus() {
-    OwnerForm().FocusMoved(this);
+    OwnerForm().FocusGiven(*this);
     Changed(aspect::kFocus);
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "forms/geometry.h"
+#include "forms/marked_caption.h"
 #include "forms/peer.h"
 
 namespace morpho {
@@ -14,6 +15,8 @@ class Control;
 class ControlVisitor;
 class Form;
 
+using Handler = std::function<void()>;
+
 // What holds controls: a form or a frame.
 class Container {
   public:
@@ -21,7 +24,8 @@ class Container {
     Container(const Container&) = delete;
     Container& operator=(const Container&) = delete;
 
-    // The direct children in order of declaration, which is the tab order.
+    // The direct children in order of declaration. This is the tab order, and of two controls that
+    // overlap the one declared later stands above.
     const std::vector<Control*>& Controls() const { return controls_; }
     virtual Form& OwnerForm() = 0;
     // Whether a person can work with what is inside.
@@ -39,11 +43,9 @@ class Container {
 struct ControlSpec {
     std::string_view name;
     Rectangle place;
+    // "&" marks the access key, the letter that reaches the control with Alt (see ReadMarks).
     std::string_view caption = {};
     std::string_view toolTip = {};
-    // The letter that, with Alt, reaches the control; it must occur in the caption (or in the
-    // caption of the label before a control without one). 0: none, or marked by "&" in the caption.
-    char accessKey = 0;
     // What a screen reader says; empty: the caption, else the caption of the label before it, else
     // the tool tip.
     std::string_view accessibleName = {};
@@ -67,11 +69,18 @@ class Control {
     void SetWidth(int twips);
     void SetHeight(int twips);
 
-    const std::string& Caption() const { return caption_; }
+    // As it is read, without marks.
+    const std::string& Caption() const { return caption_.text; }
+    // Takes the text as it is, "&" and all: the control has no access key from now on.
     void SetCaption(std::string_view caption);
+    // Byte index of the access key in the caption; npos: none.
+    std::size_t AccessKeyAt() const { return caption_.keyAt; }
+    // The access key as it stands in the caption; 0: none.
+    char AccessKey() const;
     const std::string& ToolTip() const { return toolTip_; }
     void SetToolTip(std::string_view toolTip);
-    char AccessKey() const { return accessKey_; }
+    // The tool tip as it is shown.
+    virtual std::string ShownToolTip() const;
     std::string AccessibleName() const;
 
     bool Enabled() const { return enabled_; }
@@ -80,9 +89,14 @@ class Control {
     void SetVisible(bool visible);
     // Enabled and visible, and so is everything around it.
     bool IsOperable() const;
+    // Whether what a person does comes in: the control is operable, and no handler of its form
+    // runs.
+    bool IsOpenToUser() const;
 
     // Paints the control now.
     void Refresh() { Changed(aspect::kRepaint); }
+    // Whether the keyboard can reach the control.
+    virtual bool TakesFocus() const { return true; }
     void SetFocus();
 
     // Connects the mirror, which is given the whole state at once; null disconnects. The caller
@@ -99,9 +113,8 @@ class Control {
     Container& parent_;
     std::string name_;
     Rectangle place_;
-    std::string caption_;
+    MarkedCaption caption_;
     std::string toolTip_;
-    char accessKey_;
     std::string accessibleName_;
     bool enabled_ = true;
     bool visible_ = true;

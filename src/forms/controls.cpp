@@ -18,12 +18,6 @@ void CommandButton::Accept(ControlVisitor& visitor) {
 void CheckBox::Accept(ControlVisitor& visitor) {
     visitor.Visit(*this);
 }
-void Slider::Accept(ControlVisitor& visitor) {
-    visitor.Visit(*this);
-}
-void ScrollBar::Accept(ControlVisitor& visitor) {
-    visitor.Visit(*this);
-}
 void PictureBox::Accept(ControlVisitor& visitor) {
     visitor.Visit(*this);
 }
@@ -34,14 +28,37 @@ void Timer::Accept(ControlVisitor& visitor) {
     visitor.Visit(*this);
 }
 
+Control* Label::Buddy() const {
+    if (AccessKey() == '\0' || IsLink()) return nullptr;
+    const auto& siblings = Parent().Controls();
+    const auto self = std::find(siblings.begin(), siblings.end(), this);
+    const auto found = std::find_if(self, siblings.end(),
+                                    [](const Control* control) { return control->TakesFocus(); });
+    return found == siblings.end() ? nullptr : *found;
+}
+
 bool Label::UserClick() {
-    if (!IsOperable() || !click_) return false;
+    if (!IsOpenToUser() || !click_) return false;
     Raise("Click", click_);
     return true;
 }
 
+bool CommandButton::IsDefault() const {
+    return role_ == ButtonRole::kDefault || role_ == ButtonRole::kDefaultAndCancel;
+}
+
+bool CommandButton::IsCancel() const {
+    return role_ == ButtonRole::kCancel || role_ == ButtonRole::kDefaultAndCancel;
+}
+
+std::string CommandButton::ShownToolTip() const {
+    const std::string toolTip = Control::ShownToolTip();
+    if (shortcut_.IsNone()) return toolTip;
+    return (toolTip.empty() ? "" : toolTip + " ") + "(" + shortcut_.Text() + ")";
+}
+
 bool CommandButton::UserClick() {
-    if (!IsOperable()) return false;
+    if (!IsOpenToUser()) return false;
     Raise("Click", click_);
     return true;
 }
@@ -59,61 +76,7 @@ void CheckBox::SetValueQuietly(bool value) {
 }
 
 bool CheckBox::UserSet(bool value) {
-    if (!IsOperable()) return false;
-    SetValue(value);
-    return true;
-}
-
-int Slider::Clamped(int value) const {
-    return std::clamp(value, range_.minimum, range_.maximum);
-}
-
-void Slider::SetValue(int value) {
-    if (Clamped(value) != value_) {
-        value_ = Clamped(value);
-        Changed(aspect::kValue);
-    }
-    Settle();
-}
-
-void Slider::SetValueQuietly(int value) {
-    settled_ = Clamped(value);
-    if (settled_ == value_) return;
-    value_ = settled_;
-    Changed(aspect::kValue);
-}
-
-bool Slider::UserScroll(int value) {
-    if (!IsOperable()) return false;
-    if (Clamped(value) == value_) return true;
-    value_ = Clamped(value);
-    Changed(aspect::kValue);
-    Raise("Scroll", scroll_);
-    return true;
-}
-
-bool Slider::UserSettle(int value) {
-    if (!UserScroll(value)) return false;
-    Settle();
-    return true;
-}
-
-void Slider::Settle() {
-    if (settled_ == value_) return;
-    settled_ = value_;
-    Raise("Change", change_);
-}
-
-void ScrollBar::SetValue(int value) {
-    const int inside = std::clamp(value, minimum_, maximum_);
-    if (inside == value_) return;
-    value_ = inside;
-    Changed(aspect::kValue);
-    Raise("Change", change_);
-}
-
-bool ScrollBar::UserSet(int value) {
-    if (!IsOperable()) return false;
+    if (!IsOpenToUser()) return false;
     SetValue(value);
     return true;
 }
@@ -126,7 +89,7 @@ void PictureBox::SetPicture(std::string encoded) {
 void WebBrowser::Navigate(std::string_view path, int flags) {
     address_ = path;
     flags_ = flags;
-    Changed(aspect::kNavigate);
+    Changed(aspect::kAddress);
 }
 
 void WebBrowser::RefreshPage() {
@@ -138,7 +101,7 @@ void WebBrowser::Refresh2(int level) {
 }
 
 bool Timer::Tick() {
-    if (!IsOperable()) return false;
+    if (!IsOpenToUser()) return false;
     Raise("Timer", tick_);
     return true;
 }

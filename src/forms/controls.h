@@ -1,13 +1,10 @@
 #pragma once
 
-#include <functional>
-#include <span>
-
 #include "forms/control.h"
+#include "forms/shortcut.h"
+#include "forms/sliders.h"
 
 namespace morpho {
-
-using Handler = std::function<void()>;
 
 // A group box with controls inside.
 class Frame : public Control, public Container {
@@ -15,13 +12,13 @@ class Frame : public Control, public Container {
     using Control::Control;
     Form& OwnerForm() override { return Control::OwnerForm(); }
     bool IsOperable() const override { return Control::IsOperable(); }
+    bool TakesFocus() const override { return false; }
     void Accept(ControlVisitor& visitor) override;
 };
 
 enum class Alignment { kLeft, kRight, kCenter };
 
-// Text. With "&" or an access key it leads to the next control in tab order. With a handler it is a
-// link.
+// Text. With a handler it is a link.
 class Label : public Control {
   public:
     Label(Container& parent, const ControlSpec& spec, Alignment alignment = Alignment::kLeft,
@@ -30,6 +27,10 @@ class Label : public Control {
 
     Alignment TextAlignment() const { return alignment_; }
     bool IsLink() const { return click_ != nullptr; }
+    bool TakesFocus() const override { return IsLink(); }
+    // Where the access key leads: the next control of the same container that takes the focus.
+    // Null: there is none, or the label has no such key, or is a link.
+    Control* Buddy() const;
     bool UserClick();
     void Accept(ControlVisitor& visitor) override;
 
@@ -47,21 +48,23 @@ enum class ButtonRole {
 
 class CommandButton : public Control {
   public:
-    // `shortcut` is a key that presses the button from anywhere in the form, such as "Ctrl+Z" or
-    // "F1".
     CommandButton(Container& parent, const ControlSpec& spec, Handler click,
-                  ButtonRole role = ButtonRole::kNone, std::string_view shortcut = {})
+                  ButtonRole role = ButtonRole::kNone, Shortcut shortcut = {})
         : Control(parent, spec), click_(std::move(click)), role_(role), shortcut_(shortcut) {}
 
-    ButtonRole Role() const { return role_; }
-    const std::string& Shortcut() const { return shortcut_; }
+    // Whether Enter, or Escape, presses the button.
+    bool IsDefault() const;
+    bool IsCancel() const;
+    const Shortcut& ShortcutKey() const { return shortcut_; }
+    // With the shortcut behind it.
+    std::string ShownToolTip() const override;
     bool UserClick();
     void Accept(ControlVisitor& visitor) override;
 
   private:
     Handler click_;
     ButtonRole role_;
-    std::string shortcut_;
+    Shortcut shortcut_;
 };
 
 class CheckBox : public Control {
@@ -80,74 +83,6 @@ class CheckBox : public Control {
     Handler click_;
 };
 
-// A slider. Scroll is raised while a person drags the thumb, Change once the value has settled.
-class Slider : public Control {
-  public:
-    struct Range {
-        int minimum = 0;
-        int maximum = 100;
-        int value = 0;          // at the start
-        int smallChange = 1;    // arrow keys
-        int largeChange = 10;   // page keys
-        int tickFrequency = 0;  // 0: no ticks
-    };
-    Slider(Container& parent, const ControlSpec& spec, const Range& range, Handler scroll,
-           Handler change)
-        : Control(parent, spec),
-          range_(range),
-          value_(range.value),
-          settled_(range.value),
-          scroll_(std::move(scroll)),
-          change_(std::move(change)) {}
-
-    const Range& Limits() const { return range_; }
-    int Value() const { return value_; }
-    // A value outside the range becomes the nearest one inside.
-    void SetValue(int value);
-    void SetValueQuietly(int value);
-    // The thumb is being dragged and now stands at `value`.
-    bool UserScroll(int value);
-    // The person let go of the thumb, or set `value` by key or click: Scroll, if it moved, then
-    // Change.
-    bool UserSettle(int value);
-    void Accept(ControlVisitor& visitor) override;
-
-  private:
-    int Clamped(int value) const;
-    void Settle();
-
-    Range range_;
-    int value_;
-    int settled_;
-    Handler scroll_;
-    Handler change_;
-};
-
-// A scroll bar or spin control, vertical.
-class ScrollBar : public Control {
-  public:
-    ScrollBar(Container& parent, const ControlSpec& spec, int minimum, int maximum, int value,
-              Handler change)
-        : Control(parent, spec),
-          minimum_(minimum),
-          maximum_(maximum),
-          value_(value),
-          change_(std::move(change)) {}
-
-    int Minimum() const { return minimum_; }
-    int Maximum() const { return maximum_; }
-    int Value() const { return value_; }
-    void SetValue(int value);
-    bool UserSet(int value);
-    void Accept(ControlVisitor& visitor) override;
-
-  private:
-    int minimum_;
-    int maximum_;
-    int value_;
-    Handler change_;
-};
-
 // A still picture, fitted to nothing: it is shown at its own size from the top left corner unless
 // `stretch`.
 class PictureBox : public Control {
@@ -155,6 +90,7 @@ class PictureBox : public Control {
     PictureBox(Container& parent, const ControlSpec& spec, bool stretch = false)
         : Control(parent, spec), stretch_(stretch) {}
 
+    bool TakesFocus() const override { return false; }
     bool Stretch() const { return stretch_; }
     // The encoded picture (JPEG, GIF, PNG, BMP); empty shows nothing.
     const std::string& Picture() const { return picture_; }
@@ -177,10 +113,13 @@ class WebBrowser : public Control {
   public:
     using Control::Control;
 
-    // Shows the page at this Windows path.
+    // Shows the page at this Windows path, a plain path: a toolkit that needs an address escapes
+    // "%",
+    // "#" and the like.
     void Navigate(std::string_view path, int flags);
     // Shows the current page again; with Refresh2(kRefreshCompletely) every picture of it is read
-    // again too.
+    // again too. Before the page stands this counts as navigating to it once more; without a page
+    // it does nothing.
     void RefreshPage();
     void Refresh2(int level);
 
@@ -201,7 +140,9 @@ class Timer : public Control {
         SetEnabled(false);
     }
 
+    bool TakesFocus() const override { return false; }
     int Interval() const { return interval_; }
+    // Does nothing while a handler runs: the next tick comes.
     bool Tick();
     void Accept(ControlVisitor& visitor) override;
 

@@ -13,15 +13,27 @@ namespace morpho {
 enum class WindowState { kNormal = 0, kMinimized = 1, kMaximized = 2 };
 enum class MousePointer { kDefault = 0, kHourglass = 11 };
 enum class BorderStyle { kSizable, kFixedDialog };
+// Where the window is first seen: in the middle of the window that it stands on (the screen, where
+// there is none), or of the screen. Form_Load may choose another place.
+enum class StartPosition { kCenterOwner, kCenterScreen };
 
 struct FormSpec {
     std::string_view name;
-    std::string_view caption;
-    Size inner;  // the client area, in twips
+    std::string_view caption = {};
+    Size inner = {};  // the client area, in twips
     BorderStyle border = BorderStyle::kFixedDialog;
+    // The smallest outer size, in twips, that a person can drag a sizable window to.
+    Size minimum = {};
+    StartPosition start = StartPosition::kCenterOwner;
+    // Whether the window shows a close button of its own.
+    bool hasCloseButton = true;
 };
 
 // A window. Deriving classes declare their controls as members and override the Form_ events.
+//
+// A host or a toolkit may pass on what a person does within any call that a handler makes. So,
+// while a handler runs, the form and its controls refuse it; a form that the handler shows takes
+// it. Handlers that code raises nest as before.
 class Form : public Container {
   public:
     Form(Toolkit& toolkit, const FormSpec& spec);
@@ -30,6 +42,9 @@ class Form : public Container {
     const std::string& Caption() const { return caption_; }
     void SetCaption(std::string_view caption);
     BorderStyle Border() const { return border_; }
+    Size MinimumSize() const { return minimum_; }
+    StartPosition Start() const { return start_; }
+    bool HasCloseButton() const { return hasCloseButton_; }
     Form& OwnerForm() override { return *this; }
     bool IsOperable() const override { return true; }
 
@@ -37,6 +52,11 @@ class Form : public Container {
     const Rectangle& Bounds() const { return bounds_; }
     void SetBounds(const Rectangle& bounds);
     Size Inner() const { return {bounds_.width - chrome_.width, bounds_.height - chrome_.height}; }
+    // How much larger the outer size is than the inner one, for a toolkit that knows it before
+    // Form_Load. Keeps the inner size; quiet.
+    void SetChrome(Size chrome);
+    // Moves the window before Form_Load; quiet.
+    void SetPosition(int left, int top);
     WindowState State() const { return state_; }
     void SetState(WindowState state);
     MousePointer Pointer() const { return pointer_; }
@@ -57,19 +77,25 @@ class Form : public Container {
     bool IsLoaded() const { return loaded_; }
     bool IsVisible() const { return visible_; }
 
-    // What a window system, a test or a batch reports. UserClose is the window's own close button
-    // or Escape: true when the form went.
+    // What a window system, a test or a batch reports. UserClose is the window's own close button:
+    // true when the form went. UserEscape is the Escape key: it presses the cancel button; without
+    // one it closes a dialog. Sizes and states are facts and come in at any time.
     bool UserClose();
+    bool UserEscape();
     void UserResize(const Rectangle& outer, Size inner, WindowState state);
     void Painted();
 
-    // The control that has the focus; null when none was given it yet.
+    // The control that has the focus; null when none was given it yet. A control that loses it by
+    // being disabled, itself or with a frame around it, gets it back if the same handler enables it
+    // again.
     Control* Focused() const { return focused_; }
+    // The window system tells where the focus went.
     void FocusMoved(Control* control) { focused_ = control; }
 
     // Runs an event handler. Every error that reaches this point ends the handler and goes to
     // HandlerFailed.
     void RunHandler(std::string_view name, const std::function<void()>& handler);
+    bool RunsHandler() const { return handlers_ > 0; }
     // Shows a message box on this form.
     Answer MsgBox(std::string_view text, int flags, std::string_view title);
 
@@ -87,20 +113,34 @@ class Form : public Container {
     Toolkit& TheToolkit() const { return toolkit_; }
 
   private:
+    friend class Control;
+    class HandlerCount;
+
     void Changed(Aspects changed);
     void TryUnload(bool byUser);
+    // Code gives the focus to this control.
+    void FocusGiven(Control& control);
+    // This control is about to be disabled.
+    void KeepFocus(const Control& disabled);
+    // A control was enabled.
+    void GiveFocusBack();
 
     Toolkit& toolkit_;
     std::string name_;
     std::string caption_;
     BorderStyle border_;
+    Size minimum_;
+    StartPosition start_;
+    bool hasCloseButton_;
     Rectangle bounds_;
     Size chrome_;  // outer less inner size
     WindowState state_ = WindowState::kNormal;
     MousePointer pointer_ = MousePointer::kDefault;
     bool loaded_ = false;
     bool visible_ = false;
+    int handlers_ = 0;  // running now, one within the other
     Control* focused_ = nullptr;
+    Control* lostFocus_ = nullptr;  // by being disabled in the handler that runs
     Peer* window_ = nullptr;
 };
 

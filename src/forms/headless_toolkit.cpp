@@ -6,10 +6,8 @@ namespace morpho {
 
 namespace {
 
-constexpr int kButtonsMask = 15;
-
 Answer LeastHarm(int flags) {
-    return (flags & kButtonsMask) == kYesNoCancel ? Answer::kCancel : Answer::kNo;
+    return ButtonsOf(flags) == kYesNoCancel ? Answer::kCancel : Answer::kNo;
 }
 
 }  // namespace
@@ -31,7 +29,7 @@ void HeadlessToolkit::RunModal(Form& form) {
 Answer HeadlessToolkit::ShowMessage(Form* /*owner*/, std::string_view text, int flags,
                                     std::string_view title) {
     messages_.push_back({std::string(text), flags, std::string(title)});
-    if ((flags & kButtonsMask) == kOkOnly) return Answer::kOk;
+    if (ButtonsOf(flags) == kOkOnly) return Answer::kOk;
     if (answers_.empty()) {
         unscripted_.push_back("No answer to: " + std::string(text));
         return LeastHarm(flags);

@@ -45,7 +45,7 @@ void ListControl::SetListIndex(int index) {
 }
 
 bool ListControl::UserSelect(int index) {
-    if (!IsOperable() || index < 0 || index >= ListCount()) return false;
+    if (!IsOpenToUser() || index < 0 || index >= ListCount()) return false;
     SetListIndex(index);
     return true;
 }
@@ -79,7 +79,8 @@ void CheckListBox::SetSelectedQuietly(int index, bool selected) {
 }
 
 bool CheckListBox::UserCheck(int index, bool selected) {
-    if (!IsOperable() || index < 0 || index >= ListCount()) return false;
+    if (!IsOpenToUser() || index < 0 || index >= ListCount()) return false;
+    SetListIndex(index);
     SetSelected(index, selected);
     return true;
 }

@@ -65,6 +65,7 @@ class CheckListBox : public ListControl {
     // Checks or unchecks an entry, which raises ItemCheck.
     void SetSelected(int index, bool selected);
     void SetSelectedQuietly(int index, bool selected);
+    // The person ticks or unticks an entry, which so becomes the current one.
     bool UserCheck(int index, bool selected);
 
     int ItemData(int index) const { return items_.at(static_cast<std::size_t>(index)).data; }

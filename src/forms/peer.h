@@ -17,11 +17,13 @@ inline constexpr Aspects kItems = 32;  // a list's entries
 inline constexpr Aspects kPicture = 64;
 inline constexpr Aspects kPointer = 128;  // a form's mouse pointer
 inline constexpr Aspects kWindowState = 256;
+inline constexpr Aspects kAddress =
+    512;  // the page that a browser was sent to, the same one again too
 inline constexpr Aspects kAll = 0xffff;  // the whole state, on attaching
 // Requests, not state: never part of kAll.
 inline constexpr Aspects kRepaint = 0x10000;  // paint now, without waiting for the event loop
 inline constexpr Aspects kFocus = 0x20000;
-inline constexpr Aspects kNavigate = 0x40000;
+inline constexpr Aspects kSelectAll = 0x40000;  // a text box's text
 inline constexpr Aspects kReload = 0x80000;
 inline constexpr Aspects kReloadCompletely = 0x100000;
 inline constexpr Aspects kToTop = 0x200000;
@@ -29,16 +31,16 @@ inline constexpr Aspects kToTop = 0x200000;
 
 // The mirror of one control in a toolkit. It writes model to widget and reports what the person
 // did, nothing more. A peer is attached with Control::Attach, gets the whole state at once, and
-// must be detached before it dies.
+// must be detached before it dies. Of two controls of a container that overlap, the widget of the
+// one declared later stands above: a picture box and a browser share one place.
 class Peer {
   public:
     virtual ~Peer() = default;
 
     // The control's way to its peer.
     void Show(Aspects changed) {
-        const bool outer = std::exchange(writing_, true);
+        const Writing writing(writing_);
         Write(changed);
-        writing_ = outer;
     }
 
   protected:
@@ -51,7 +53,33 @@ class Peer {
         if (!writing_) std::forward<Function>(report)();
     }
 
+    // Reports what the person did with the control, unless it is an echo, and then shows the
+    // model's value: the model may have refused what was done, or changed it.
+    template <typename Function>
+    void Did(Function&& report) {
+        Report([&] {
+            BeforeReport();
+            report();
+            Show(aspect::kValue);
+        });
+    }
+    // What has to reach the model before anything else that the person does.
+    virtual void BeforeReport() {}
+
   private:
+    // Ends the writing also when it fails.
+    class Writing {
+      public:
+        explicit Writing(bool& writing) : writing_(writing), outer_(std::exchange(writing, true)) {}
+        ~Writing() { writing_ = outer_; }
+        Writing(const Writing&) = delete;
+        Writing& operator=(const Writing&) = delete;
+
+      private:
+        bool& writing_;
+        bool outer_;
+    };
+
     bool writing_ = false;
 };
 

@@ -8,7 +8,8 @@ namespace morpho {
 // Change is raised whenever the text has become another one.
 class TextBox : public Control {
   public:
-    // Gets the character (8 is Backspace); setting it to 0 swallows it.
+    // Gets a whole character of Unicode (never half a surrogate pair); 8 stands for a deletion.
+    // Setting it to 0 swallows it.
     using KeyHandler = std::function<void(char32_t&)>;
     enum class Kind { kSingleLine, kMultiLineReadOnly };
 
@@ -23,22 +24,31 @@ class TextBox : public Control {
     const std::string& Text() const { return text_; }
     void SetText(std::string_view text);
     void SetTextQuietly(std::string_view text);
+    void SelectAll() { Changed(aspect::kSelectAll); }
+    // From now on the keys Up and Down step this bar by one, which must live as long as the box.
+    void StepWith(ScrollBar& bar) { bar_ = &bar; }
 
-    // A character key is pressed: false when it must not reach the box.
-    bool UserKey(char32_t key);
-    // The person's editing has made the text this one.
+    // The person's editing would make the text this one: by a key, a paste, a drop, an input method
+    // or an undo alike. KeyPress is asked about each character that comes in, or once with 8 when
+    // some only go. If it swallows one, the text stays as it was: half a paste is another text.
+    // The toolkit shows Text() afterwards.
     bool UserEdit(std::string_view text);
     // Types at the end of the text, key by key; 8 takes the last character away.
     bool UserType(std::string_view keys);
+    // The key Up (1) or Down (-1); false when there is nothing to step.
+    bool UserStep(int by);
     void Accept(ControlVisitor& visitor) override;
 
   private:
-    bool CanType() const { return IsOperable() && kind_ == Kind::kSingleLine; }
+    bool CanType() const { return IsOpenToUser() && kind_ == Kind::kSingleLine; }
+    bool Admits(char32_t& key);
+    bool AdmitsAll(std::string& characters);
 
     Kind kind_;
     std::string text_;
     KeyHandler keyPress_;
     Handler change_;
+    ScrollBar* bar_ = nullptr;
 };
 
 }  // namespace morpho

@@ -18,6 +18,14 @@ inline constexpr int kCriticalIcon = 16;
 inline constexpr int kQuestionIcon = 32;
 inline constexpr int kInformationIcon = 64;
 
+// The kind of buttons and the icon in a message box's flags.
+constexpr int ButtonsOf(int flags) {
+    return flags & 0x0f;
+}
+constexpr int IconOf(int flags) {
+    return flags & 0xf0;
+}
+
 // What the person answered a message box.
 enum class Answer { kOk = 1, kCancel = 2, kYes = 6, kNo = 7 };
 
@@ -30,8 +38,12 @@ class Toolkit {
   public:
     virtual ~Toolkit() = default;
 
+    // Comes before Form_Load. Gives the form its place on the screen (see StartPosition), and the
+    // size of its window's borders as far as that is known (Form::SetChrome).
+    virtual void PlaceAtStart(Form& /*form*/) {}
     // Makes a window with peers for the form and all its controls, runs the form's Load and first
-    // paint, and returns when the form is hidden or unloaded. Calls may nest.
+    // paint, and returns when the form is hidden or unloaded. Calls may nest: a person then works
+    // the innermost form alone.
     virtual void RunModal(Form& form) = 0;
     // Answers closing the box without a button as Cancel where there is one, else as OK or No.
     virtual Answer ShowMessage(Form* owner, std::string_view text, int flags,

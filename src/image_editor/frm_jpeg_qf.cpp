@@ -3,15 +3,16 @@
 namespace morpho {
 
 frmJPEGQF::frmJPEGQF(const Program& program)
-    : LoggedForm(program, {"frmJPEGQF", "JPEG Quality Factor", {5400, 2400}}),
+    : LoggedForm(program, {.name = "frmJPEGQF",
+                           .caption = "JPEG Quality Factor",
+                           .inner = {5400, 2400},
+                           .hasCloseButton = false}),
       Label1(*this, {.name = "Label1",
                      .place = {180, 180, 5040, 450},
                      .caption = "One or more selected theme elements are using JPEG images. Please "
                                 "specify the quality factor to be used for the colorizer."}),
-      Label3(*this, {.name = "Label3",
-                     .place = {180, 855, 1275, 240},
-                     .caption = "Quality Factor:",
-                     .accessKey = 'Q'}),
+      Label3(*this,
+             {.name = "Label3", .place = {180, 855, 1275, 240}, .caption = "&Quality Factor:"}),
       txtQF(
           *this,
           {.name = "txtQF",
@@ -33,6 +34,11 @@ frmJPEGQF::frmJPEGQF(const Program& program)
           *this, {.name = "btnOK", .place = {4095, 1875, 1125, 345}, .caption = "OK"},
           [this] { btnOK_Click(); }, ButtonRole::kDefault),
       quality_(txtQF, vsQF, [] { return true; }) {}
+
+void frmJPEGQF::Form_Load() {
+    txtQF.SetFocus();
+    txtQF.SelectAll();
+}
 
 void frmJPEGQF::Form_QueryUnload(bool& cancel, bool byUser) {
     cancel = byUser;

@@ -9,7 +9,7 @@
 
 namespace morpho {
 
-// Asks for the JPEG quality factor; whoever shows it reads vsQF afterwards. OK is the only way out.
+// Asks for the JPEG quality factor: whoever shows it reads vsQF afterwards. OK is the only way out.
 class frmJPEGQF : public LoggedForm {
   public:
     explicit frmJPEGQF(const Program& program);
@@ -25,6 +25,7 @@ class frmJPEGQF : public LoggedForm {
     CommandButton btnOK;
 
   protected:
+    void Form_Load() override;
     void Form_QueryUnload(bool& cancel, bool byUser) override;
 
   private:

@@ -17,6 +17,7 @@ QualityFactor::QualityFactor(TextBox& txtQF, ScrollBar& vsQF, std::function<bool
       takesFocus_(std::move(takesFocus)),
       previousText_(std::to_string(kInitialQuality)) {
     txtQF_.SetTextQuietly(previousText_);
+    txtQF_.StepWith(vsQF_);
 }
 
 void QualityFactor::txtQF_KeyPress(char32_t& key) {

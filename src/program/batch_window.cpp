@@ -9,11 +9,9 @@ namespace morpho {
 
 namespace {
 
-constexpr int kButtonsMask = 15;
-
 // Questions have answers of their own; what only wants an OK is a refusal.
 bool IsQuestion(int flags) {
-    return (flags & kButtonsMask) != kOkOnly;
+    return ButtonsOf(flags) != kOkOnly;
 }
 
 }  // namespace

@@ -24,8 +24,11 @@ class PushButton : public QPushButton {
     }
 };
 
-bool IsDefault(ButtonRole role) {
-    return role == ButtonRole::kDefault || role == ButtonRole::kDefaultAndCancel;
+QKeySequence ToQt(const Shortcut& shortcut) {
+    const int key = shortcut.IsFunctionKey() ? Qt::Key_F1 + shortcut.FunctionNumber() - 1
+                                             : Qt::Key_A + shortcut.key - 'A';
+    return shortcut.modifier == Shortcut::Modifier::kControl ? QKeySequence(Qt::CTRL | Qt::Key(key))
+                                                             : QKeySequence(key);
 }
 
 }  // namespace
@@ -37,33 +40,18 @@ CommandButtonPeer::CommandButtonPeer(CommandButton& button, QWidget* parent,
       widget_(static_cast<QPushButton*>(Widget())) {
     // Qt would make any other button the default one where the form has none.
     widget_->setAutoDefault(false);
-    widget_->setDefault(IsDefault(button.Role()));
+    widget_->setDefault(button.IsDefault());
     QObject::connect(widget_, &QPushButton::clicked, Receiver(),
                      [this] { Did([this] { button_.UserClick(); }); });
-    if (button.Shortcut().empty()) return;
+    if (button.ShortcutKey().IsNone()) return;
     // Not the button's own shortcut: its caption's access key takes that.
-    auto* const shortcut = new QShortcut(QKeySequence(ToQt(button.Shortcut())), widget_);
+    auto* const shortcut = new QShortcut(ToQt(button.ShortcutKey()), widget_);
     shortcut->setContext(Qt::WindowShortcut);
-    QObject::connect(shortcut, &QShortcut::activated, Receiver(), [this] { Press(); });
-}
-
-bool CommandButtonPeer::Press() {
-    if (!button_.IsOperable()) return false;
-    widget_->click();
-    return true;
-}
-
-bool CommandButtonPeer::IsCancel() const {
-    return button_.Role() == ButtonRole::kCancel || button_.Role() == ButtonRole::kDefaultAndCancel;
+    QObject::connect(shortcut, &QShortcut::activated, Receiver(), [this] { widget_->click(); });
 }
 
 void CommandButtonPeer::WriteOwn(Aspects changed) {
-    if (!(changed & aspect::kCaption)) return;
-    widget_->setText(CaptionOf(button_).Marked());
-    if (button_.Shortcut().empty()) return;
-    const QString toolTip =
-        ToQt(button_.ToolTip()).trimmed() + " (" + ToQt(button_.Shortcut()) + ")";
-    widget_->setToolTip(PlainToolTip(toolTip.trimmed()));
+    if (changed & aspect::kCaption) widget_->setText(MarkedCaptionOf(button_));
 }
 
 CheckBoxPeer::CheckBoxPeer(CheckBox& box, QWidget* parent, const PeerContext& context)
@@ -75,7 +63,7 @@ CheckBoxPeer::CheckBoxPeer(CheckBox& box, QWidget* parent, const PeerContext& co
 }
 
 void CheckBoxPeer::WriteOwn(Aspects changed) {
-    if (changed & aspect::kCaption) widget_->setText(CaptionOf(box_).Marked());
+    if (changed & aspect::kCaption) widget_->setText(MarkedCaptionOf(box_));
     if (changed & aspect::kValue) widget_->setChecked(box_.Value());
 }
 

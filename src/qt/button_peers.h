@@ -12,10 +12,6 @@ class CommandButtonPeer : public ControlPeer {
   public:
     CommandButtonPeer(CommandButton& button, QWidget* parent, const PeerContext& context);
 
-    // Presses the button as the person would; false when it cannot be pressed.
-    bool Press();
-    bool IsCancel() const;
-
   protected:
     void WriteOwn(Aspects changed) override;
 

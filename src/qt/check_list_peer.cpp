@@ -6,7 +6,6 @@
 #include <QStyledItemDelegate>
 #include <QToolTip>
 
-#include "qt/list_peers.h"
 #include "qt/qt_text.h"
 
 namespace morpho {
@@ -106,7 +105,7 @@ void CheckListPeer::WriteOwn(Aspects changed) {
             item->setCheckState(Qt::Unchecked);
             widget_->addItem(item);
         };
-        WriteEntries(list_, shown_, add, [this] {
+        entries_.Write(list_, add, [this] {
             widget_->clear();
             top_ = 0;
         });

@@ -1,10 +1,8 @@
 #pragma once
 
 #include <QListWidget>
-#include <string>
-#include <vector>
 
-#include "forms/lists.h"
+#include "forms/entries_mirror.h"
 #include "qt/control_peer.h"
 
 namespace morpho {
@@ -24,7 +22,7 @@ class CheckListPeer : public ControlPeer {
 
     CheckListBox& list_;
     QListWidget* widget_;
-    std::vector<std::string> shown_;
+    EntriesMirror entries_;
     int top_ = 0;  // the top row that model and widget agreed on last
 };
 

@@ -1,6 +1,5 @@
 #include "qt/control_peer.h"
 
-#include "forms/form.h"
 #include "qt/qt_text.h"
 
 namespace morpho {
@@ -17,26 +16,16 @@ ControlPeer::~ControlPeer() {
 void ControlPeer::Write(Aspects changed) {
     if (changed & aspect::kPlace) widget_->setGeometry(ToPixels(control_.Place()));
     if (changed & aspect::kCaption) {
-        const QString toolTip = ToQt(control_.ToolTip());
+        const QString toolTip = ToQt(control_.ShownToolTip());
         widget_->setToolTip(PlainToolTip(toolTip));
         widget_->setAccessibleName(ToQt(control_.AccessibleName()));
-        widget_->setAccessibleDescription(toolTip.trimmed());
+        widget_->setAccessibleDescription(toolTip);
     }
-    if (changed & aspect::kEnabled) {
-        widget_->setEnabled(control_.Enabled());
-        KeepFocus();
-    }
+    if (changed & aspect::kEnabled) widget_->setEnabled(control_.Enabled());
     WriteOwn(changed);
     if (changed & aspect::kVisible) widget_->setVisible(control_.Visible());
     if (changed & aspect::kFocus) widget_->setFocus(Qt::OtherFocusReason);
     if (changed & aspect::kRepaint) widget_->repaint();
-}
-
-// A container that is disabled takes the focus off what it holds; enabled again, it gives it back.
-void ControlPeer::KeepFocus() {
-    Control* const focused = control_.OwnerForm().Focused();
-    if (widget_->window()->focusWidget() != nullptr || focused == nullptr) return;
-    if (focused->IsOperable()) focused->SetFocus();
 }
 
 }  // namespace morpho

@@ -32,16 +32,7 @@ class ControlPeer : public Peer {
     // The kind's own state: caption, value, entries, picture.
     virtual void WriteOwn(Aspects changed) = 0;
 
-    // Reports what the person did, unless it is an echo of writing, and then shows the model's
-    // value: it may have refused or changed it.
-    template <typename Function>
-    void Did(Function&& report) {
-        Report([&] {
-            context_.settling.Flush();
-            report();
-            Show(aspect::kValue);
-        });
-    }
+    void BeforeReport() final { context_.settling.Flush(); }
 
     const PeerContext& Context() const { return context_; }
     // The receiver to connect the widget's signals with: they stop when the peer goes, while a
@@ -49,8 +40,6 @@ class ControlPeer : public Peer {
     QObject* Receiver() { return &receiver_; }
 
   private:
-    void KeepFocus();
-
     Control& control_;
     QWidget* widget_;
     PeerContext context_;

@@ -6,9 +6,7 @@
 #include <QShortcut>
 #include <QTimer>
 #include <QWindow>
-#include <algorithm>
 
-#include "qt/button_peers.h"
 #include "qt/peer_factory.h"
 #include "qt/qt_text.h"
 
@@ -16,11 +14,13 @@ namespace morpho {
 
 namespace {
 
-Qt::WindowFlags FlagsOf(BorderStyle border) {
-    const auto common = Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                        Qt::WindowCloseButtonHint;
-    if (border == BorderStyle::kSizable) return Qt::Window | common | Qt::WindowMinMaxButtonsHint;
-    return Qt::Dialog | common | Qt::MSWindowsFixedSizeDialogHint;
+Qt::WindowFlags FlagsOf(const Form& form) {
+    Qt::WindowFlags flags =
+        Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
+    if (form.HasCloseButton()) flags |= Qt::WindowCloseButtonHint;
+    if (form.Border() == BorderStyle::kSizable)
+        return Qt::Window | flags | Qt::WindowMinMaxButtonsHint;
+    return Qt::Dialog | flags | Qt::MSWindowsFixedSizeDialogHint;
 }
 
 WindowState StateOf(const QWidget& window) {
@@ -33,15 +33,15 @@ Qt::WindowState ToQt(WindowState state) {
     return state == WindowState::kMaximized ? Qt::WindowMaximized : Qt::WindowNoState;
 }
 
-// The rectangle moved, and if need be shrunk, into the screen that it is on or nearest to.
-QRect OnScreen(QRect wanted) {
-    const QScreen* screen = QGuiApplication::screenAt(wanted.center());
+// The screen that most of the place is on, or the first one.
+QRect ScreenOf(const QRect& place) {
+    const QScreen* screen = QGuiApplication::screenAt(place.center());
     if (screen == nullptr) screen = QGuiApplication::primaryScreen();
-    const QRect area = screen->availableGeometry();
-    wanted.setSize(wanted.size().boundedTo(area.size()));
-    wanted.moveLeft(std::clamp(wanted.left(), area.left(), area.right() + 1 - wanted.width()));
-    wanted.moveTop(std::clamp(wanted.top(), area.top(), area.bottom() + 1 - wanted.height()));
-    return wanted;
+    return screen->availableGeometry();
+}
+
+QSize SizeOf(const QMargins& margins) {
+    return {margins.left() + margins.right(), margins.top() + margins.bottom()};
 }
 
 }  // namespace
@@ -49,7 +49,7 @@ QRect OnScreen(QRect wanted) {
 // A sizable window is nobody's child, so that it has its own place in the task bar and can be
 // minimised; like every form it is modal to the whole program.
 FormWindow::FormWindow(Form& form, QWidget* owner, PageServer& pages)
-    : QDialog(form.Border() == BorderStyle::kSizable ? nullptr : owner, FlagsOf(form.Border())),
+    : QDialog(form.Border() == BorderStyle::kSizable ? nullptr : owner, FlagsOf(form)),
       form_(form) {
     setObjectName(morpho::ToQt(form.Name()));
     setWindowModality(Qt::ApplicationModal);
@@ -62,6 +62,9 @@ FormWindow::FormWindow(Form& form, QWidget* owner, PageServer& pages)
     peers_ = factory.Take();
     focusConnection_ = connect(qApp, &QApplication::focusChanged, this,
                                [this](QWidget* /*old*/, QWidget* now) { FocusChanged(now); });
+    create();
+    windowHandle()->installEventFilter(this);
+    lastNormalChrome_ = SizeOf(windowHandle()->frameMargins());
     form.Attach(this);
     if (form.Focused() != nullptr) form.Focused()->SetFocus();
 }
@@ -76,10 +79,13 @@ void FormWindow::RunUntilHidden(const std::function<void()>& stands) {
     stands_ = stands;
     form_.Load();
     if (!form_.IsVisible()) return;
-    PlaceFirst();
+    if (IsSizable()) {
+        WriteOuterSize();
+    } else {
+        setFixedSize(InnerPixels());
+    }
+    move(PlaceOnScreen().topLeft());
     setWindowState(ToQt(form_.State()));
-    create();
-    windowHandle()->installEventFilter(this);
     show();
     loop_.exec();
 }
@@ -118,40 +124,34 @@ void FormWindow::Write(Aspects changed) {
     }
 }
 
+Size FormWindow::Chrome() const {
+    return ToTwips(lastNormalChrome_);
+}
+
 QSize FormWindow::InnerPixels() const {
-    const Size inner = form_.Inner();
-    return {morpho::ToPixels(inner.width), morpho::ToPixels(inner.height)};
+    return ToPixels(form_.Inner());
 }
 
 void FormWindow::WritePlace() {
+    if (!isVisible()) return;
     if (IsSizable()) {
         resize(InnerPixels());
     } else {
         setFixedSize(InnerPixels());
     }
-    if (isVisible()) {
-        move(ToPixels(form_.Bounds()).topLeft());
-    } else {
-        placedByCode_ = !peers_.empty() && form_.IsLoaded();
-    }
+    move(ToPixels(form_.Bounds()).topLeft());
 }
 
-// Where the window is first seen: a sizable one where its bounds say, everything else in the middle
-// of its owner or the screen.
-void FormWindow::PlaceFirst() {
+// Where the window is first seen.
+QRect FormWindow::PlaceOnScreen() const {
     const Rectangle& bounds = form_.Bounds();
-    const bool placed = IsSizable() && (placedByCode_ || bounds.left != 0 || bounds.top != 0);
-    QRect wanted = placed ? ToPixels(bounds) : QRect(QPoint(), size());
-    if (!placed) {
-        const QWidget* const owner = parentWidget();
-        wanted.moveCenter(owner != nullptr && owner->isVisible()
-                              ? owner->frameGeometry().center()
-                              : QGuiApplication::primaryScreen()->availableGeometry().center());
-    }
-    wanted = OnScreen(wanted);
-    if (IsSizable()) resize(wanted.size());
-    if (placed) outerAsked_ = wanted.size();
-    move(wanted.topLeft());
+    return ToPixels(MovedInto(bounds, ToTwips(ScreenOf(ToPixels(bounds)))));
+}
+
+// The frame counts as part of the outer size as soon as it is known.
+void FormWindow::WriteOuterSize() {
+    setMinimumSize((ToPixels(form_.MinimumSize()) - lastNormalChrome_).expandedTo({0, 0}));
+    resize(PlaceOnScreen().size() - lastNormalChrome_);
 }
 
 // Not the paint event: the window itself is never painted when a control covers it all.
@@ -166,8 +166,10 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
 void FormWindow::FirstPainted() {
     if (painted_ || !form_.IsVisible() || !windowHandle()->isExposed()) return;
     painted_ = true;
-    if (outerAsked_.isValid() && StateOf(*this) == WindowState::kNormal)
-        resize(outerAsked_ - (frameGeometry().size() - size()));
+    if (StateOf(*this) == WindowState::kNormal) {
+        lastNormalChrome_ = frameGeometry().size() - size();
+        if (IsSizable()) WriteOuterSize();
+    }
     ReportGeometry();
     form_.Painted();
     if (stands_ && form_.IsVisible()) stands_();
@@ -186,11 +188,8 @@ void FormWindow::FocusChanged(QWidget* now) {
 }
 
 void FormWindow::reject() {
-    for (const auto& peer : peers_) {
-        auto* const button = dynamic_cast<CommandButtonPeer*>(peer.get());
-        if (button != nullptr && button->IsCancel() && button->Press()) return;
-    }
-    if (!IsSizable()) close();
+    settling_.Flush();
+    form_.UserEscape();
 }
 
 // The form decides whether it goes, and hides itself.
@@ -243,15 +242,6 @@ void FormWindow::ReportGeometry() {
     const Size chromeTwips = ToTwips(chrome);
     form_.UserResize(outer, {outer.width - chromeTwips.width, outer.height - chromeTwips.height},
                      state);
-    if (state == WindowState::kNormal) LearnMinimumSize(outer);
-}
-
-// A size that the form has just refused is not offered again, or window and form would fight over
-// every step of the person's dragging.
-void FormWindow::LearnMinimumSize(const Rectangle& offered) {
-    if (!IsSizable() || form_.State() != WindowState::kNormal) return;
-    if (form_.Bounds().width > offered.width) setMinimumWidth(InnerPixels().width());
-    if (form_.Bounds().height > offered.height) setMinimumHeight(InnerPixels().height());
 }
 
 }  // namespace morpho

@@ -11,8 +11,6 @@
 
 namespace morpho {
 
-class CommandButtonPeer;
-
 // The window of a form, with the peers of all its controls. Lives as long as the form is shown.
 class FormWindow : public QDialog, public Peer {
   public:
@@ -27,6 +25,8 @@ class FormWindow : public QDialog, public Peer {
     void RunUntilHidden(const std::function<void()>& stands);
 
     const Form& Model() const { return form_; }
+    // Outer less inner size, in twips, as far as it is known.
+    Size Chrome() const;
     // The outer rectangle, in twips, while neither minimised nor maximised.
     Rectangle NormalPlacement() const;
 
@@ -45,12 +45,12 @@ class FormWindow : public QDialog, public Peer {
     bool IsSizable() const { return form_.Border() == BorderStyle::kSizable; }
     QSize InnerPixels() const;
     void WritePlace();
-    void PlaceFirst();
+    QRect PlaceOnScreen() const;
+    void WriteOuterSize();
     void FirstPainted();
     void FocusChanged(QWidget* now);
     void GeometryChanged();
     void ReportGeometry();
-    void LearnMinimumSize(const Rectangle& offered);
 
     Form& form_;
     Settling settling_;
@@ -58,12 +58,11 @@ class FormWindow : public QDialog, public Peer {
     QMetaObject::Connection focusConnection_;
     QEventLoop loop_;
     std::function<void()> stands_;
-    bool painted_ = false;       // the first paint is over: what happens now is reported
-    bool placedByCode_ = false;  // bounds were set before the window was seen
+    bool painted_ = false;  // the first paint is over: what happens now is reported
     bool reportQueued_ = false;
-    QSize outerAsked_;  // by code, in pixels, before the frame's size was known
-    QSize lastNormalChrome_{0,
-                            0};  // outer less inner size, in pixels, outside of the maximised state
+    // Outer less inner size, in pixels, outside of the maximised state; 0 as long as it is not
+    // known.
+    QSize lastNormalChrome_{0, 0};
 };
 
 }  // namespace morpho

@@ -47,7 +47,7 @@ FramePeer::FramePeer(Frame& frame, QWidget* parent, const PeerContext& context)
 
 void FramePeer::WriteOwn(Aspects changed) {
     if (changed & aspect::kCaption)
-        static_cast<QGroupBox*>(Widget())->setTitle(CaptionOf(Model()).Marked());
+        static_cast<QGroupBox*>(Widget())->setTitle(MarkedCaptionOf(Model()));
 }
 
 }  // namespace morpho

@@ -84,17 +84,16 @@ void LabelPeer::SetBuddy(QWidget* widget) {
 }
 
 void LabelPeer::WriteOwn(Aspects changed) {
-    const MnemonicText caption = CaptionOf(label_);
     if (auto* const link = qobject_cast<QAbstractButton*>(Widget())) {
-        if (changed & aspect::kCaption) link->setText(caption.Marked());
+        if (changed & aspect::kCaption) link->setText(MarkedCaptionOf(label_));
         return;
     }
     auto* const text = static_cast<QLabel*>(Widget());
     if (changed & aspect::kCaption) {
         // Qt takes "&" for a mark only in a label that leads somewhere.
-        const bool leads = buddy_ != nullptr && caption.position >= 0;
+        const bool leads = buddy_ != nullptr && label_.AccessKey() != '\0';
         text->setBuddy(leads ? buddy_ : nullptr);
-        text->setText(leads ? caption.Marked() : caption.plain);
+        text->setText(leads ? MarkedCaptionOf(label_) : morpho::ToQt(label_.Caption()));
     }
     // A single line that is too long is better cut off than broken.
     if (changed & aspect::kPlace)

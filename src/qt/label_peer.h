@@ -12,7 +12,7 @@ class LabelPeer : public ControlPeer {
   public:
     LabelPeer(Label& label, QWidget* parent, const PeerContext& context);
 
-    // The widget that this label's access key leads to.
+    // The widget of Label::Buddy.
     void SetBuddy(QWidget* widget);
 
   protected:

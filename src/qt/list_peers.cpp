@@ -35,8 +35,8 @@ ComboBoxPeer::ComboBoxPeer(ComboBox& box, QWidget* parent, const PeerContext& co
 
 void ComboBoxPeer::WriteOwn(Aspects changed) {
     if (changed & aspect::kItems) {
-        WriteEntries(
-            box_, shown_, [this](const std::string& text) { widget_->addItem(ToQt(text)); },
+        entries_.Write(
+            box_, [this](const std::string& text) { widget_->addItem(ToQt(text)); },
             [this] { widget_->clear(); });
     }
     if (changed & (aspect::kValue | aspect::kItems)) widget_->setCurrentIndex(box_.ListIndex());
@@ -52,8 +52,8 @@ ListBoxPeer::ListBoxPeer(ListBox& list, QWidget* parent, const PeerContext& cont
 
 void ListBoxPeer::WriteOwn(Aspects changed) {
     if (changed & aspect::kItems) {
-        WriteEntries(
-            list_, shown_, [this](const std::string& text) { widget_->addItem(ToQt(text)); },
+        entries_.Write(
+            list_, [this](const std::string& text) { widget_->addItem(ToQt(text)); },
             [this] { widget_->clear(); });
     }
     if (changed & (aspect::kValue | aspect::kItems)) widget_->setCurrentRow(list_.ListIndex());

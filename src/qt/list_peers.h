@@ -2,10 +2,8 @@
 
 #include <QComboBox>
 #include <QListWidget>
-#include <string>
-#include <vector>
 
-#include "forms/lists.h"
+#include "forms/entries_mirror.h"
 #include "qt/control_peer.h"
 
 namespace morpho {
@@ -20,7 +18,7 @@ class ComboBoxPeer : public ControlPeer {
   private:
     ComboBox& box_;
     QComboBox* widget_;
-    std::vector<std::string> shown_;
+    EntriesMirror entries_;
 };
 
 class ListBoxPeer : public ControlPeer {
@@ -33,26 +31,7 @@ class ListBoxPeer : public ControlPeer {
   private:
     ListBox& list_;
     QListWidget* widget_;
-    std::vector<std::string> shown_;
+    EntriesMirror entries_;
 };
-
-// Brings a widget's entries to the model's: `shown` is what it has, `add` appends one, `clear`
-// removes all. A list grows at its end or is cleared, so what is there already is left alone.
-template <typename Add, typename ClearAll>
-void WriteEntries(const ListControl& model, std::vector<std::string>& shown, Add add,
-                  ClearAll clear) {
-    const auto count = static_cast<std::size_t>(model.ListCount());
-    bool same = shown.size() <= count;
-    for (std::size_t at = 0; same && at < shown.size(); ++at)
-        same = shown[at] == model.List(static_cast<int>(at));
-    if (!same) {
-        clear();
-        shown.clear();
-    }
-    while (shown.size() < count) {
-        shown.push_back(model.List(static_cast<int>(shown.size())));
-        add(shown.back());
-    }
-}
 
 }  // namespace morpho

@@ -17,18 +17,13 @@ namespace morpho {
 
 void PeerFactory::MakePeers(const Container& container, QWidget* widget) {
     QWidget* const outer = std::exchange(parent_, widget);
-    LabelPeer* waiting = nullptr;  // a label for the next control that takes the focus
-    for (Control* const control : container.Controls()) {
-        const std::size_t first = peers_.size();
+    // A widget that is made later stands above its siblings, as a control does.
+    for (Control* const control : container.Controls())
         control->Accept(*this);
-        auto* const peer = dynamic_cast<ControlPeer*>(peers_[first].get());
-        if (peer == nullptr) continue;
-        if (auto* const label = dynamic_cast<LabelPeer*>(peer);
-            label != nullptr && peer->Widget()->focusPolicy() == Qt::NoFocus) {
-            waiting = label;
-        } else if (waiting != nullptr && (peer->Widget()->focusPolicy() & Qt::TabFocus)) {
-            std::exchange(waiting, nullptr)->SetBuddy(peer->Widget());
-        }
+    for (Control* const control : container.Controls()) {
+        const auto* const label = dynamic_cast<const Label*>(control);
+        if (label != nullptr && label->Buddy() != nullptr)
+            static_cast<LabelPeer*>(made_.at(label))->SetBuddy(made_.at(label->Buddy())->Widget());
     }
     parent_ = outer;
 }
@@ -38,6 +33,7 @@ PeerType& PeerFactory::Add(ControlType& control) {
     auto peer = std::make_unique<PeerType>(control, parent_, context_);
     PeerType& added = *peer;
     peers_.push_back(std::move(peer));
+    made_[&control] = &added;
     control.Attach(&added);
     return added;
 }

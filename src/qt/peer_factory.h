@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -39,6 +40,7 @@ class PeerFactory : private ControlVisitor {
     PeerContext context_;
     QWidget* parent_ = nullptr;
     std::vector<std::unique_ptr<Peer>> peers_;
+    std::map<const Control*, ControlPeer*> made_;  // those of them that have a widget
 };
 
 }  // namespace morpho

@@ -14,42 +14,12 @@ std::string FromQt(const QString& text) {
     return text.toStdString();
 }
 
-QString MnemonicText::Marked() const {
-    const auto escaped = [](QString text) { return text.replace("&", "&&"); };
-    if (position < 0) return escaped(plain);
-    return escaped(plain.left(position)) + "&" + escaped(plain.mid(position));
-}
-
-namespace {
-
-int FindKey(const QString& text, QChar key) {
-    for (int at = 0; at < text.size(); ++at) {
-        const bool wordStart = at == 0 || !text[at - 1].isLetterOrNumber();
-        if (wordStart && text[at].toLower() == key) return at;
-    }
-    return static_cast<int>(text.indexOf(key, 0, Qt::CaseInsensitive));
-}
-
-}  // namespace
-
-MnemonicText ReadMnemonic(const QString& caption, char accessKey) {
-    if (accessKey != 0) return {caption, FindKey(caption, QChar::fromLatin1(accessKey).toLower())};
-    MnemonicText read;
-    for (int at = 0; at < caption.size(); ++at) {
-        const bool mark = caption[at] == u'&' && at + 1 < caption.size();
-        if (mark && caption[at + 1] == u'&') {
-            ++at;
-        } else if (mark && caption[at + 1].isLetterOrNumber()) {
-            if (read.position < 0) read.position = static_cast<int>(read.plain.size());
-            continue;
-        }
-        read.plain += caption[at];
-    }
-    return read;
-}
-
-MnemonicText CaptionOf(const Control& control) {
-    return ReadMnemonic(ToQt(control.Caption()), control.AccessKey());
+QString MarkedCaptionOf(const Control& control) {
+    const auto escaped = [](std::string_view text) { return ToQt(text).replace("&", "&&"); };
+    const std::string_view caption = control.Caption();
+    const std::size_t at = control.AccessKeyAt();
+    if (at == std::string::npos) return escaped(caption);
+    return escaped(caption.substr(0, at)) + "&" + escaped(caption.substr(at));
 }
 
 QString PlainToolTip(const QString& text) {
@@ -70,6 +40,10 @@ QRect ToPixels(const Rectangle& twips) {
 Rectangle ToTwips(const QRect& pixels) {
     return {pixels.x() * kTwipsPerPixel, pixels.y() * kTwipsPerPixel,
             pixels.width() * kTwipsPerPixel, pixels.height() * kTwipsPerPixel};
+}
+
+QSize ToPixels(const Size& twips) {
+    return {ToPixels(twips.width), ToPixels(twips.height)};
 }
 
 Size ToTwips(const QSize& pixels) {

@@ -7,6 +7,7 @@
 #include <QLoggingCategory>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QScreen>
 #include <algorithm>
 
 #include "qt/form_window.h"
@@ -18,11 +19,8 @@ namespace morpho {
 
 namespace {
 
-constexpr int kButtonsMask = 15;
-constexpr int kIconMask = 0xf0;
-
-QMessageBox::Icon IconOf(int flags) {
-    switch (flags & kIconMask) {
+QMessageBox::Icon ToQt(int icon) {
+    switch (icon) {
         case kCriticalIcon:
             return QMessageBox::Critical;
         case kQuestionIcon:
@@ -36,7 +34,7 @@ QMessageBox::Icon IconOf(int flags) {
 
 // The buttons; Enter presses the first, Escape the last.
 void AddButtons(QMessageBox& box, int flags) {
-    switch (flags & kButtonsMask) {
+    switch (ButtonsOf(flags)) {
         case kYesNoCancel:
             box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
             box.setDefaultButton(QMessageBox::Yes);
@@ -97,6 +95,16 @@ QtToolkit::QtToolkit(const FileSystem& files, std::string_view icon) : pages_(fi
 
 QtToolkit::~QtToolkit() = default;
 
+void QtToolkit::PlaceAtStart(Form& form) {
+    if (const FormWindow* const window = WindowOf(&form)) form.SetChrome(window->Chrome());
+    const QWidget* const owner =
+        form.Start() == StartPosition::kCenterOwner ? TopWindow() : nullptr;
+    const QRect area = owner != nullptr ? owner->frameGeometry()
+                                        : QGuiApplication::primaryScreen()->availableGeometry();
+    const Rectangle middle = Centered(form.Bounds(), ToTwips(area));
+    form.SetPosition(middle.left, middle.top);
+}
+
 void QtToolkit::RunModal(Form& form) {
     FormWindow window(form, TopWindow(), pages_);
     windows_.push_back(&window);
@@ -113,9 +121,9 @@ Answer QtToolkit::ShowMessage(Form* owner, std::string_view text, int flags,
     QMessageBox box(parent);
     box.setWindowModality(Qt::ApplicationModal);
     box.setTextFormat(Qt::PlainText);
-    box.setText(ToQt(text).remove('\r'));
-    box.setWindowTitle(ToQt(title));
-    box.setIcon(IconOf(flags));
+    box.setText(morpho::ToQt(text).remove('\r'));
+    box.setWindowTitle(morpho::ToQt(title));
+    box.setIcon(ToQt(IconOf(flags)));
     AddButtons(box, flags);
     return AnswerOf(box.exec());
 }

@@ -27,6 +27,7 @@ class QtToolkit : public Toolkit {
     QtToolkit(const FileSystem& files, std::string_view icon);
     ~QtToolkit() override;
 
+    void PlaceAtStart(Form& form) override;
     void RunModal(Form& form) override;
     Answer ShowMessage(Form* owner, std::string_view text, int flags,
                        std::string_view title) override;

@@ -10,6 +10,24 @@ namespace {
 class Arrows : public QSpinBox {
   public:
     explicit Arrows(QWidget* parent) : QSpinBox(parent) { lineEdit()->hide(); }
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override {
+        held_ = true;
+        QSpinBox::mousePressEvent(event);
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        held_ = false;
+        QSpinBox::mouseReleaseEvent(event);
+    }
+    // A handler may give the focus away at every step, which would end the repeating of an arrow
+    // that is held down.
+    void focusOutEvent(QFocusEvent* event) override {
+        if (!held_) QSpinBox::focusOutEvent(event);
+    }
+
+  private:
+    bool held_ = false;
 };
 
 }  // namespace
@@ -23,7 +41,7 @@ SliderPeer::SliderPeer(Slider& slider, QWidget* parent, const PeerContext& conte
     QObject::connect(widget_, &QSlider::valueChanged, Receiver(),
                      [this](int value) { Report([&] { Moved(value); }); });
     QObject::connect(widget_, &QSlider::sliderReleased, Receiver(),
-                     [this] { Did([this] { slider_.UserSettle(widget_->value()); }); });
+                     [this] { Did([this] { LetGo(widget_->value()); }); });
 }
 
 SliderPeer::~SliderPeer() {
@@ -35,6 +53,11 @@ void SliderPeer::Moved(int value) {
     Show(aspect::kValue);
     if (moved && !widget_->isSliderDown())
         Context().settling.Hold(this, [this] { return Settle(); });
+}
+
+// While a handler runs the slider settles later, at the last value that it took.
+void SliderPeer::LetGo(int value) {
+    if (!slider_.UserSettle(value)) Context().settling.Hold(this, [this] { return Settle(); });
 }
 
 bool SliderPeer::Settle() {
@@ -58,14 +81,14 @@ ScrollBarPeer::ScrollBarPeer(ScrollBar& bar, QWidget* parent, const PeerContext&
     : ControlPeer(bar, new Arrows(parent), context),
       bar_(bar),
       widget_(static_cast<QSpinBox*>(Widget())) {
+    // Once: every setting of the range ends the repeating of an arrow that is held down.
+    widget_->setRange(bar.Minimum(), bar.Maximum());
     QObject::connect(widget_, &QSpinBox::valueChanged, Receiver(),
                      [this](int value) { Did([&] { bar_.UserSet(value); }); });
 }
 
 void ScrollBarPeer::WriteOwn(Aspects changed) {
-    if (!(changed & aspect::kValue)) return;
-    widget_->setRange(bar_.Minimum(), bar_.Maximum());
-    widget_->setValue(bar_.Value());
+    if (changed & aspect::kValue) widget_->setValue(bar_.Value());
 }
 
 }  // namespace morpho

@@ -20,6 +20,7 @@ class SliderPeer : public ControlPeer {
 
   private:
     void Moved(int value);
+    void LetGo(int value);
     bool Settle();
 
     Slider& slider_;

@@ -1,10 +1,8 @@
 #include "qt/text_box_peer.h"
 
-#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <utility>
 
 #include "qt/qt_text.h"
 
@@ -12,40 +10,31 @@ namespace morpho {
 
 namespace {
 
-constexpr char32_t kBackspace = 8;
-
-// Asks the text box about every character before it gets in, be it typed or composed.
-class FilteredLineEdit : public QLineEdit {
+// Up and Down are the text box's own. What else the person does to the text is reported when it is
+// done, however it came about.
+class LineEdit : public QLineEdit {
   public:
-    FilteredLineEdit(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {}
+    LineEdit(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {}
 
   protected:
     void keyPressEvent(QKeyEvent* event) override {
-        const bool command = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
-        const bool backspace = event->key() == Qt::Key_Backspace && !command;
-        const bool letter = !command && !event->text().isEmpty() && event->text()[0].isPrint();
-        if (backspace ? box_.UserKey(kBackspace) : !letter || Admits(event->text()))
+        const bool vertical = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+        if (vertical && box_.UserStep(event->key() == Qt::Key_Up ? 1 : -1)) return;
+        // With Alt alone a letter is an access key, even one that no control has.
+        const auto modifiers = event->modifiers() & (Qt::AltModifier | Qt::ControlModifier);
+        if (modifiers == Qt::AltModifier && !event->text().isEmpty()) {
+            event->ignore();
+        } else {
             QLineEdit::keyPressEvent(event);
-    }
-
-    void inputMethodEvent(QInputMethodEvent* event) override {
-        if (!Admits(event->commitString())) event->setCommitString({});
-        QLineEdit::inputMethodEvent(event);
+        }
     }
 
   private:
-    bool Admits(const QString& text) {
-        bool admitted = true;
-        for (const char32_t key : text.toUcs4())
-            admitted = box_.UserKey(key) && admitted;
-        return admitted;
-    }
-
     TextBox& box_;
 };
 
 QWidget* MakeWidget(TextBox& box, QWidget* parent) {
-    if (box.BoxKind() == TextBox::Kind::kSingleLine) return new FilteredLineEdit(box, parent);
+    if (box.BoxKind() == TextBox::Kind::kSingleLine) return new LineEdit(box, parent);
     auto* const page = new QPlainTextEdit(parent);
     page->setReadOnly(true);
     page->setTabChangesFocus(true);
@@ -66,13 +55,16 @@ TextBoxPeer::TextBoxPeer(TextBox& box, QWidget* parent, const PeerContext& conte
 }
 
 void TextBoxPeer::WriteOwn(Aspects changed) {
+    if ((changed & aspect::kSelectAll) && line_ != nullptr) line_->selectAll();
     if (!(changed & aspect::kValue)) return;
     const QString text = ToQt(box_.Text());
-    if (line_ != nullptr) {
-        // Writing moves the cursor to the end, so only what differs is written.
-        if (line_->text() != text) line_->setText(text);
-    } else {
+    if (line_ == nullptr) {
         page_->setPlainText(QString(text).remove('\r'));
+    } else if (line_->text() != text) {
+        // The cursor stays before what it stood before.
+        const auto behind = line_->text().size() - line_->cursorPosition();
+        line_->setText(text);
+        line_->setCursorPosition(static_cast<int>(text.size() - behind));
     }
 }
 

@@ -16,9 +16,7 @@ WebBrowserPeer::~WebBrowserPeer() {
 
 void WebBrowserPeer::WriteOwn(Aspects changed) {
     if (browser_.Address().empty()) return;
-    // The address is state too: a browser that is attached late shows the page it was sent to.
-    const bool attaching = (changed & aspect::kAll) == aspect::kAll;
-    if (attaching || (changed & aspect::kNavigate)) {
+    if (changed & aspect::kAddress) {
         view_->Open(Context().pages.Open(site_, browser_.Address()));
     } else if (changed & (aspect::kReload | aspect::kReloadCompletely)) {
         view_->Reload();

@@ -23,8 +23,7 @@ class frmPromptDuplicate : public LoggedForm {
                         [this] { btnOK_Click(); },
                         ButtonRole::kDefaultAndCancel};
     CheckBox chkDontShowAgain{
-        *this,
-        {"chkDontShowAgain", {840, 1312, 3900, 240}, "Don't show this message again", {}, 'D'}};
+        *this, {"chkDontShowAgain", {840, 1312, 3900, 240}, "&Don't show this message again"}};
 
   private:
     void btnOK_Click() { Unload(); }

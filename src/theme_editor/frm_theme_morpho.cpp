@@ -20,7 +20,8 @@ constexpr Size kDesignSize{14400, 9900};
 }  // namespace
 
 frmThemeMorpho::frmThemeMorpho(const Program& program)
-    : LoggedForm(program, {"frmThemeMorpho", kThemeProduct, kDesignSize, BorderStyle::kSizable}),
+    : LoggedForm(program, {"frmThemeMorpho", kThemeProduct, kDesignSize, BorderStyle::kSizable,
+                           kMinimumSize, StartPosition::kCenterScreen}),
       band_(program, imgBand, picBand),
       renderer_(program, elements_, history_),
       preview_(program, *this, elements_, wbbImagePreview),

@@ -25,11 +25,11 @@ class frmThemeMorpho : public LoggedForm {
 
     static constexpr Size kMinimumSize{11820, 6000};
 
-    Label lblTheme{*this, {"lblTheme", {45, 75, 2880, 195}, "Theme:", {}, 'T'}};
+    Label lblTheme{*this, {"lblTheme", {45, 75, 2880, 195}, "&Theme:"}};
     ComboBox cmbThemeLabel{
-        *this,
-        {"cmbThemeLabel", {30, 285, 2910, 315}, {}, "Select a web theme", 0, "Theme"},
-        [this] { cmbThemeLabel_Click(); }};
+        *this, {"cmbThemeLabel", {30, 285, 2910, 315}, {}, "Select a web theme", "Theme"}, [this] {
+            cmbThemeLabel_Click();
+        }};
     // The names behind the labels, at the same index; never shown.
     ComboBox cmbThemeName{
         *this, {"cmbThemeName", {30, 285, 2910, 315}}, [this] { cmbThemeName_Click(); }};
@@ -40,78 +40,67 @@ class frmThemeMorpho : public LoggedForm {
                                 {30, 300, 2850, 3565},
                                 {},
                                 "Images available for the selected theme",
-                                0,
                                 "Images"},
                                [this](int index) { lstImageNames_ItemCheck(index); }};
     ListBox lstGifNames{frameImageList, {"lstGifNames", {30, 300, 2850, 3565}}};
 
     Frame frameImageListControl{*this, {"frameImageListControl", {30, 7000, 2910, 960}}};
-    CommandButton cmdSelectAll{frameImageListControl,
-                               {"cmdSelectAll",
-                                {0, 60, 1425, 375},
-                                "Select All",
-                                "Select all the images of the theme",
-                                'l'},
-                               [this] { cmdSelectAll_Click(); }};
+    CommandButton cmdSelectAll{
+        frameImageListControl,
+        {"cmdSelectAll", {0, 60, 1425, 375}, "Se&lect All", "Select all the images of the theme"},
+        [this] { cmdSelectAll_Click(); }};
     CommandButton cmdSelectNone{frameImageListControl,
                                 {"cmdSelectNone",
                                  {1485, 60, 1425, 375},
-                                 "Select None",
-                                 "Deselect all the images of the theme",
-                                 'n'},
+                                 "Select &None",
+                                 "Deselect all the images of the theme"},
                                 [this] { cmdSelectNone_Click(); }};
     CommandButton cmdSelectActive{frameImageListControl,
                                   {"cmdSelectActive",
                                    {0, 495, 1425, 375},
-                                   "Select Active",
-                                   "Select the active images of the theme",
-                                   'i'},
+                                   "Select Act&ive",
+                                   "Select the active images of the theme"},
                                   [this] { cmdSelectActive_Click(); }};
     CommandButton cmdSelectNormal{frameImageListControl,
                                   {"cmdSelectNormal",
                                    {1485, 495, 1425, 375},
-                                   "Select Normal",
-                                   "Select the normal images of the theme",
-                                   'm'},
+                                   "Select Nor&mal",
+                                   "Select the normal images of the theme"},
                                   [this] { cmdSelectNormal_Click(); }};
 
     Frame framePreview{*this,
                        {"framePreview", {2955, 60, 11415, 5000}, "Preview:", "Theme preview"}};
     PictureBox picPreview{framePreview, {"picPreview", {30, 330, 11355, 4580}}};
     WebBrowser wbbImagePreview{framePreview,
-                               {"wbbImagePreview", {30, 330, 11355, 4580}, {}, {}, 0, "Preview"}};
+                               {"wbbImagePreview", {30, 330, 11355, 4580}, {}, {}, "Preview"}};
 
     Frame frameProcess{*this, {"frameProcess", {2955, 7000, 8580, 1890}}};
-    Label lblBrightness{frameProcess,
-                        {"lblBrightness", {60, 150, 1020, 225}, "Brightness:", {}, 'g'}};
+    Label lblBrightness{frameProcess, {"lblBrightness", {60, 150, 1020, 225}, "Bri&ghtness:"}};
     Slider sldBrightness{frameProcess,
                          {"sldBrightness",
                           {1080, 75, 5865, 375},
                           {},
                           "Change brightness of the selected images",
-                          0,
                           "Brightness"},
                          AdjustmentSliders::kFactorRange,
                          [this] { Slider_Scroll(); },
                          [this] { Slider_Change(); }};
     Label lblBVal{frameProcess, {"lblBVal", {6990, 150, 510, 225}, "100 %"}, Alignment::kRight};
-    Label lblSaturation{frameProcess,
-                        {"lblSaturation", {60, 555, 1020, 225}, "Saturation:", {}, 'o'}};
+    Label lblSaturation{frameProcess, {"lblSaturation", {60, 555, 1020, 225}, "Saturati&on:"}};
     Slider sldSaturation{frameProcess,
                          {"sldSaturation",
                           {1080, 480, 5865, 375},
                           {},
                           "Change saturation of the selected images",
-                          0,
                           "Saturation"},
                          AdjustmentSliders::kFactorRange,
                          [this] { Slider_Scroll(); },
                          [this] { Slider_Change(); }};
     Label lblSVal{frameProcess, {"lblSVal", {6990, 555, 510, 225}, "100 %"}, Alignment::kRight};
-    Label lblHue{frameProcess, {"lblHue", {60, 960, 1020, 225}, "Hue:", {}, 'H'}};
+    Label lblHue{frameProcess, {"lblHue", {60, 960, 1020, 225}, "&Hue:"}};
     Slider sldHue{
         frameProcess,
-        {"sldHue", {1080, 885, 5865, 375}, {}, "Change hue of the selected images", 0, "Hue"},
+        {"sldHue", {1080, 885, 5865, 375}, {}, "Change hue of the selected images", "Hue"},
         AdjustmentSliders::kHueRange,
         [this] { Slider_Scroll(); },
         [this] { Slider_Change(); }};
@@ -125,52 +114,48 @@ class frmThemeMorpho : public LoggedForm {
     CommandButton cmdApply{frameProcess,
                            {"cmdApply",
                             {7620, 75, 960, 375},
-                            "Apply",
-                            "Apply the changes to the selected images and update the preview",
-                            'A'},
+                            "&Apply",
+                            "Apply the changes to the selected images and update the preview"},
                            [this] { cmdApply_Click(); }};
     CommandButton cmdUndo{frameProcess,
-                          {"cmdUndo", {7620, 510, 960, 375}, "Undo", "Undo ", 'U'},
+                          {"cmdUndo", {7620, 510, 960, 375}, "&Undo", "Undo "},
                           [this] { cmdUndo_Click(); },
                           ButtonRole::kNone,
-                          "Ctrl+Z"};
+                          Ctrl('Z')};
     CommandButton cmdRedo{frameProcess,
-                          {"cmdRedo", {7620, 945, 960, 375}, "Redo", "Redo", 'R'},
+                          {"cmdRedo", {7620, 945, 960, 375}, "&Redo", "Redo"},
                           [this] { cmdRedo_Click(); },
                           ButtonRole::kNone,
-                          "Ctrl+Y"};
+                          Ctrl('Y')};
     CommandButton cmdReset{frameProcess,
                            {"cmdReset",
                             {7620, 1380, 960, 375},
-                            "Reset",
-                            "Restore all the original images of the theme",
-                            'e'},
+                            "R&eset",
+                            "Restore all the original images of the theme"},
                            [this] { cmdReset_Click(); }};
 
     Label lblStatus{*this, {"lblStatus", {45, 9000, 2880, 225}}};
     Frame frameMenu{*this, {"frameMenu", {2955, 9000, 8580, 495}}};
     CommandButton cmdSave{frameMenu,
-                          {"cmdSave", {0, 60, 1275, 375}, "Save", "Save the theme", 'S'},
+                          {"cmdSave", {0, 60, 1275, 375}, "&Save", "Save the theme"},
                           [this] { cmdSave_Click(); },
                           ButtonRole::kNone,
-                          "Ctrl+S"};
+                          Ctrl('S')};
     CommandButton cmdSaveAs{
         frameMenu,
-        {"cmdSaveAs", {1335, 60, 1275, 375}, "Save As...", "Save the theme as another theme", 'v'},
+        {"cmdSaveAs", {1335, 60, 1275, 375}, "Sa&ve As...", "Save the theme as another theme"},
         [this] { cmdSaveAs_Click(); }};
-    CommandButton cmdCancel{
-        frameMenu,
-        {"cmdCancel", {4635, 60, 1275, 375}, "Close", "Close Theme Morpho", 'C'},
-        [this] { cmdCancel_Click(); }};
-    CommandButton btnAbout{
-        frameMenu,
-        {"btnAbout", {5970, 60, 1275, 375}, "About...", "About Theme Morpho", 'b'},
-        [this] { btnAbout_Click(); }};
+    CommandButton cmdCancel{frameMenu,
+                            {"cmdCancel", {4635, 60, 1275, 375}, "&Close", "Close Theme Morpho"},
+                            [this] { cmdCancel_Click(); }};
+    CommandButton btnAbout{frameMenu,
+                           {"btnAbout", {5970, 60, 1275, 375}, "A&bout...", "About Theme Morpho"},
+                           [this] { btnAbout_Click(); }};
     CommandButton btnHelp{frameMenu,
-                          {"btnHelp", {7305, 60, 1275, 375}, "Help", "Help", 'p'},
+                          {"btnHelp", {7305, 60, 1275, 375}, "Hel&p", "Help"},
                           [this] { btnHelp_Click(); },
                           ButtonRole::kNone,
-                          "F1"};
+                          FunctionKey(1)};
     Timer timer{*this, "timer", 50, [this] { timer.SetEnabled(false); }};
 
     // What a batch reads after it has worked the controls.

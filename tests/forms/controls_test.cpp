@@ -99,6 +99,7 @@ TEST_F(Controls, RefuseAPersonWhoCouldNotAndLetInOneWhoCan) {
                 (cause->*set)(true);
             }
         }
+        form.RunHandler("a handler", [&] { EXPECT_FALSE(kind.user(form)); });
         EXPECT_THAT(form.events, IsEmpty());
         EXPECT_TRUE(kind.user(form));
         EXPECT_EQ(form.events, kind.events);
@@ -137,6 +138,8 @@ TEST_F(Controls, ATextBoxSwallowsTheKeysItsHandlerRefuses) {
     EXPECT_TRUE(form_.txtQuality.UserType("1a0-0.\b\bx"));
     EXPECT_EQ(form_.txtQuality.Text(), "1");
     EXPECT_EQ(form_.events.size(), 5u) << "a change for each key that got in";
+    EXPECT_TRUE(form_.txtQuality.UserEdit("1x2"));
+    EXPECT_EQ(form_.txtQuality.Text(), "1") << "a paste comes in whole or not at all";
     EXPECT_FALSE(form_.txtGuide.UserType("no") || form_.txtGuide.UserEdit("no"));
 }
 
@@ -155,6 +158,8 @@ TEST_F(Controls, AListKnowsItsEntries) {
     form_.lstNames.SetSelected(9, true);
     EXPECT_EQ(form_.lstNames.ItemData(7), 70);
     EXPECT_EQ(form_.lstNames.SelectedCount(), 2);
+    form_.lstNames.UserCheck(4, true);
+    EXPECT_EQ(form_.lstNames.ListIndex(), 4) << "what a person ticks becomes the current entry";
     form_.lstNames.SetTopIndex(5);
     form_.lstNames.Clear();
     form_.lstNames.AddItem("again");
@@ -166,6 +171,28 @@ TEST_F(Controls, ATimerTicksOnlyWhenEnabled) {
     EXPECT_FALSE(form_.timer.Tick());
     form_.timer.SetEnabled(true);
     EXPECT_TRUE(form_.timer.Tick());
+}
+
+TEST_F(Controls, ACaptionMarksTheLetterThatAltReaches) {
+    const struct {
+        const char *marked, *read;
+        char key;
+        std::size_t at;
+    } captions[] = {{"&Apply", "Apply", 'A', 0},
+                    {"Tom && Jerry", "Tom & Jerry", 0, 0},
+                    {"Tom & Jerry", "Tom & Jerry", 0, 0},
+                    {"Tom & &Jerry &x", "Tom & Jerry x", 'J', 6},
+                    {"\xC3\x84nder&n", "\xC3\x84ndern", 'n', 6},
+                    {"100 %&", "100 %&", 0, 0}};
+    for (const auto& caption : captions) {
+        Form form(toolkit_, {"frmLabel", {}, {}});
+        const Label label(form, {"lbl", {}, caption.marked});
+        EXPECT_EQ(label.Caption(), caption.read);
+        EXPECT_EQ(label.AccessKey(), caption.key) << caption.marked;
+        EXPECT_TRUE(caption.key == 0 || label.AccessKeyAt() == caption.at) << caption.marked;
+    }
+    form_.cmdApply.SetCaption("R&D");
+    EXPECT_EQ(form_.cmdApply.Caption() + form_.cmdApply.AccessKey(), std::string("R&D\0", 4));
 }
 
 TEST_F(Controls, AScreenReaderHearsANameForEveryControl) {

@@ -34,6 +34,33 @@ TEST_F(FormTest, AsksBeforeItGoesAndTellsWhoWantsIt) {
                                           "Form_QueryUnload", "Form_QueryUnload by user"));
 }
 
+TEST_F(FormTest, AHandlerKeepsTheFormOpenAndMayOpenAnotherThatAPersonWorks) {
+    form_.Load();
+    Gallery inner(toolkit_);
+    toolkit_.WillPlay("frmGallery", [&](Form& form) {
+        EXPECT_FALSE(form_.UserClose() || form_.UserEscape());
+        form_.chkApply.SetValue(true);  // a handler within the handler
+        EXPECT_FALSE(form_.UserClose());
+        EXPECT_TRUE(inner.sldHue.UserSettle(30));
+        EXPECT_TRUE(form.UserEscape());
+    });
+    form_.answer = [&] {
+        form_.answer = {};
+        inner.ShowModal();
+    };
+    form_.cmdApply.UserClick();
+    EXPECT_FALSE(inner.IsLoaded());
+    EXPECT_THAT(form_.events, ElementsAre("Form_Load", "cmdApply_Click", "chkApply_Click"));
+    EXPECT_TRUE(form_.UserClose());
+}
+
+TEST_F(FormTest, TheBordersMayBeKnownBeforeItLoads) {
+    form_.SetChrome({120, 400});
+    EXPECT_EQ(form_.Inner(), Gallery::kMinimum);
+    EXPECT_EQ(form_.Bounds().height, Gallery::kMinimum.height + 400);
+    EXPECT_THAT(form_.events, testing::IsEmpty());
+}
+
 TEST_F(FormTest, ResizesOncePerChangeOfSizeOrStateAndNotForAMove) {
     const auto expectResizes = [&](std::size_t count, const char* why) {
         EXPECT_EQ(form_.events.size(), count) << why;
@@ -62,6 +89,7 @@ TEST_F(FormTest, EveryErrorOfAHandlerIsTrapped) {
         EXPECT_EQ(form_.failures.back(), failure);
     };
     expectFailure([] { throw std::bad_alloc(); }, "cmdApply_Click: Out of memory");
+    expectFailure([] { throw 7; }, "cmdApply_Click: Unknown error");
     expectFailure([&] { form_.lstPlain.SetListIndex(9); }, "cmdApply_Click: list index");
 }
 

@@ -15,7 +15,7 @@ namespace morpho::test {
 class Gallery : public Form {
   public:
     explicit Gallery(Toolkit& toolkit)
-        : Form(toolkit, {"frmGallery", "Gallery", kMinimum, BorderStyle::kSizable}) {
+        : Form(toolkit, {"frmGallery", "Gallery", kMinimum, BorderStyle::kSizable, kMinimum}) {
         for (const char* const theme : {"Arctic", "Tom & Jerry", "Ärger"})
             cmbTheme.AddItem(theme);
         for (const char* const entry : {"one", "two", "three"})
@@ -41,15 +41,14 @@ class Gallery : public Form {
     CheckListBox lstNames{fraPick,
                           {"lstNames", {120, 870, 2535, 3000}, {}, "Images of the theme"},
                           [this](int row) { On("lstNames_ItemCheck " + std::to_string(row))(); }};
-    ListBox lstPlain{fraPick,
-                     {"lstPlain", {120, 3960, 2535, 900}, {}, {}, 0, "Plain list"},
-                     On("lstPlain_Click")};
+    ListBox lstPlain{
+        fraPick, {"lstPlain", {120, 3960, 2535, 900}, {}, {}, "Plain list"}, On("lstPlain_Click")};
     CheckBox chkApply{
         fraPick, {"chkApply", {120, 4950, 2535, 255}, "Appl&y to web"}, On("chkApply_Click")};
 
     Frame fraPreview{*this, {"fraPreview", {2910, 60, 8790, 3420}, "Preview:"}};
     Frame fraProcess{*this, {"fraProcess", {2910, 3540, 8790, 1440}, "Colours"}};
-    Label lblHue{fraProcess, {"lblHue", {120, 300, 960, 210}, "Hue:", {}, 'H'}};
+    Label lblHue{fraProcess, {"lblHue", {120, 300, 960, 210}, "&Hue:"}};
     Slider sldHue{fraProcess,
                   {"sldHue", {1100, 240, 4000, 375}, {}, "Change hue"},
                   {-180, 180, 0, 1, 20, 30},
@@ -64,13 +63,13 @@ class Gallery : public Form {
                            if (key != 8 && (key < '0' || key > '9')) key = 0;
                        },
                        On("txtQuality_Change")};
-    ScrollBar vsQuality{fraProcess, {"vsQuality", {1700, 720, 255, 315}, {}, {}, 0, "Quality"},
+    ScrollBar vsQuality{fraProcess, {"vsQuality", {1700, 720, 255, 315}, {}, {}, "Quality"},
                         0,          100,
                         75,         On("vsQuality_Change")};
     PictureBox picBand{fraProcess, {"picBand", {2200, 800, 3600, 105}}, true};
     PictureBox picOwnSize{fraProcess, {"picOwnSize", {5900, 700, 800, 500}}};
     TextBox txtGuide{fraProcess,
-                     {"txtGuide", {6800, 240, 1900, 1080}, {}, {}, 0, "Guide"},
+                     {"txtGuide", {6800, 240, 1900, 1080}, {}, {}, "Guide"},
                      TextBox::Kind::kMultiLineReadOnly};
 
     Frame fraMenu{*this, {"fraMenu", {2910, 5040, 8790, 420}}};
@@ -86,7 +85,7 @@ class Gallery : public Form {
                           {"cmdUndo", {4150, 30, 1095, 345}, "Undo", "Undo "},
                           On("cmdUndo_Click"),
                           ButtonRole::kNone,
-                          "Ctrl+Z"};
+                          Ctrl('Z')};
     CommandButton cmdOff{fraMenu, {"cmdOff", {5300, 30, 1095, 345}, "Re&do"}, On("cmdOff_Click")};
     CommandButton cmdClose{fraMenu,
                            {"cmdClose", {7500, 30, 1095, 345}, "Close"},

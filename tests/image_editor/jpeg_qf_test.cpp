@@ -31,11 +31,12 @@ TEST_F(JpegQualityTest, KeepsBoxAndScrollBarTogetherWhateverIsTyped) {
     }
 }
 
-TEST_F(JpegQualityTest, TakesPastedTextsByTheNumberInFrontOrPutsTheLastOneBack) {
-    const std::pair<const char*, int> cases[] = {{"0", 1},    {"", 1},     {"abc", 1},
-                                                 {"500", 75}, {"-5", 75},  {"100", 100},
-                                                 {"1e9", 75}, {"60.5", 60}};
+TEST_F(JpegQualityTest, TakesAPastedNumberOrKeepsTheText) {
+    const std::pair<const char*, int> cases[] = {{"0", 1},    {"", 1},    {"abc", 42},
+                                                 {"500", 42}, {"-5", 42}, {"100", 100},
+                                                 {"1e9", 42}, {"8", 8},   {"50.5", 42}};
     for (const auto& [pasted, value] : cases) {
+        form_.txtQF.UserEdit("42");
         form_.txtQF.UserEdit(pasted);
         ExpectBoth(value, pasted);
     }
@@ -47,6 +48,8 @@ TEST_F(JpegQualityTest, TheScrollBarWritesTheBoxAndGivesItTheFocus) {
     EXPECT_EQ(form_.Focused(), &form_.txtQF);
     form_.vsQF.UserSet(0);
     ExpectBoth(1, "to the bottom");
+    form_.txtQF.UserStep(1);
+    ExpectBoth(2, "the key Up in the box");
 }
 
 TEST_F(JpegQualityTest, OnlyOkEndsTheDialog) {

@@ -1,10 +1,12 @@
+#include <QClipboard>
+#include <QInputMethodEvent>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSlider>
 
 #include "qt/on_screen.h"
-#include "qt/qt_text.h"
 
 namespace morpho::test {
 namespace {
@@ -40,6 +42,85 @@ TEST_F(ControlsOnScreen, ABurstOfKeysSettlesOnceAndBeforeAnythingElseIsDone) {
     });
 }
 
+TEST_F(ControlsOnScreen, AThumbThatIsLetGoWhileAHandlerRunsSettlesAfterIt) {
+    Show([&](QWidget& window) {
+        auto& slider = Find<QSlider>(window, form_.sldHue);
+        const QPoint thumb = slider.rect().center();
+        QTest::mousePress(&slider, Qt::LeftButton, {}, thumb);
+        form_.answer = [&] {
+            form_.answer = {};
+            QTest::mouseMove(&slider, thumb + QPoint(40, 0));
+            QTest::mouseRelease(&slider, Qt::LeftButton, {}, thumb + QPoint(40, 0));
+        };
+        QTest::mouseMove(&slider, thumb + QPoint(20, 0));
+        EXPECT_EQ(form_.events, Events{"sldHue_Scroll"});
+        EXPECT_EQ(slider.value(), form_.sldHue.Value());
+        Pause();
+        EXPECT_EQ(form_.events, (Events{"sldHue_Scroll", "sldHue_Change"}));
+    });
+}
+
+TEST_F(ControlsOnScreen, TextComesInByOneDoorAloneHoweverItIsEntered) {
+    form_.txtQuality.SetTextQuietly("75");
+    form_.txtQuality.StepWith(form_.vsQuality);
+    form_.answer = [&] {  // in Form_Load
+        form_.answer = {};
+        form_.txtQuality.SetFocus();
+        form_.txtQuality.SelectAll();
+    };
+    Show([&](QWidget& window) {
+        auto& box = Find<QLineEdit>(window, form_.txtQuality);
+        EXPECT_EQ(Focus(window), "txtQuality");
+        EXPECT_EQ(box.selectedText(), "75");
+        box.end(false);
+        const auto expectText = [&](const char* text, int cursor, const char* why) {
+            EXPECT_EQ(form_.txtQuality.Text(), text) << why;
+            EXPECT_EQ(box.text(), text) << why;
+            EXPECT_EQ(box.cursorPosition(), cursor) << why;
+        };
+        const auto paste = [&](const char* text) {
+            QApplication::clipboard()->setText(text);
+            box.paste();
+        };
+        QTest::keyClick(&box, Qt::Key_Left);
+        QTest::keyClick(&box, Qt::Key_X);
+        expectText("75", 1, "a key that is swallowed");
+        paste("0.5");
+        expectText("75", 1, "a paste with a character that is swallowed");
+        paste("12");
+        expectText("7125", 3, "a paste");
+        box.undo();
+        expectText("75", 1, "undo");
+        QTest::keyClick(&box, Qt::Key_8, Qt::AltModifier);
+        expectText("75", 1, "no access key");
+        QInputMethodEvent composed;
+        composed.setCommitString("x");
+        QApplication::sendEvent(&box, &composed);
+        expectText("75", 1, "an input method");
+        form_.txtQuality.SelectAll();
+        QTest::keyClick(&box, Qt::Key_9);
+        expectText("9", 1, "the text was selected");
+        for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Up, Qt::Key_Down})
+            QTest::keyClick(&box, key);
+        EXPECT_EQ(form_.vsQuality.Value(), 76);
+    });
+}
+
+TEST_F(ControlsOnScreen, AnArrowThatIsHeldRepeatsEvenIfItsHandlerMovesTheFocus) {
+    Show([&](QWidget& window) {
+        form_.answer = [&] { form_.txtQuality.SetFocus(); };
+        QWidget& arrows = Find(window, form_.vsQuality);
+        arrows.setFocus();
+        const QPoint up(arrows.width() - 4, 4);
+        QTest::mousePress(&arrows, Qt::LeftButton, {}, up);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return form_.vsQuality.Value() > 77; }));
+        QTest::mouseRelease(&arrows, Qt::LeftButton, {}, up);
+        const int value = form_.vsQuality.Value();
+        QTest::qWait(300);
+        EXPECT_EQ(form_.vsQuality.Value(), value);
+    });
+}
+
 TEST_F(ControlsOnScreen, ASliderOfOtherLimitsKeepsItsValue) {
     int raised = 0;
     const auto raise = [&] { ++raised; };
@@ -56,8 +137,11 @@ TEST_F(ControlsOnScreen, ASliderOfOtherLimitsKeepsItsValue) {
 TEST_F(ControlsOnScreen, FocusComesBackAfterALongOperation) {
     Show([&](QWidget& window) {
         Find(window, form_.sldHue).setFocus();
-        for (const bool enabled : {false, true})
-            form_.fraProcess.SetEnabled(enabled);
+        form_.RunHandler("long", [&] {
+            for (const bool enabled : {false, true})
+                for (Frame* const frame : {&form_.fraPick, &form_.fraProcess, &form_.fraMenu})
+                    frame->SetEnabled(enabled);
+        });
         EXPECT_EQ(Focus(window), "sldHue");
         EXPECT_EQ(form_.Focused(), &form_.sldHue);
     });
@@ -78,6 +162,10 @@ TEST_F(ControlsOnScreen, OnlyAClickOnTheBoxOrADoubleClickTicks) {
         EXPECT_EQ(form_.lstNames.ListIndex(), 2);
         QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, box);
         expectTicked("click on the box", true, 1);
+        form_.lstNames.SetListIndex(0);
+        list.item(3)->setCheckState(Qt::Checked);
+        EXPECT_EQ(form_.lstNames.ListIndex(), 3) << "what is ticked becomes the current entry";
+        form_.events.pop_back();
         QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, text);
         expectTicked("double click on the text", false, 2);
     });
@@ -121,21 +209,6 @@ TEST_F(ControlsOnScreen, ATimerRunsOnlyWhileItIsEnabled) {
         Pause();
         EXPECT_GE(form_.events.size(), 2u);
     });
-}
-
-TEST(Captions, MarkTheLetterThatAltReaches) {
-    const auto expectMarked = [](const char* caption, char key, const char* marked) {
-        EXPECT_EQ(ReadMnemonic(caption, key).Marked().toStdString(), marked) << caption;
-    };
-    expectMarked("&Apply", 0, "&Apply");
-    expectMarked("Tom && Jerry", 0, "Tom && Jerry");
-    expectMarked("Tom & Jerry", 0, "Tom && Jerry");
-    expectMarked("Tom & &Jerry &x", 0, "Tom && &Jerry x");
-    expectMarked("Close", 'c', "&Close");
-    expectMarked("Select None", 'N', "Select &None");
-    expectMarked("Tom & Jerry", 'r', "Tom && Je&rry");
-    expectMarked("Close", 'x', "Close");
-    expectMarked("100 %&", 0, "100 %&&");
 }
 
 }  // namespace

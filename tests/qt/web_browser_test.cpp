@@ -44,10 +44,29 @@ class WebBrowserTest : public OnScreen {
 
 TEST_F(WebBrowserTest, FindsPicturesAsTheyAreWrittenInOldPages) {
     files_.PutFile("C:\\Work\\Blends\\Bild \xC3\xA4.GIF", Picture(Qt::red));
+    for (const char* const name : {"50% grey", "a#b", "what%20", "w?", "%23",
+                                   "Stra\xC3\x9F"
+                                   "e"})
+        files_.PutFile("C:\\Work\\" + std::string(name) + "\\a.gif", Picture(Qt::red));
     for (const char* const address :
-         {"Blends\\Bild \xE4.GIF", "blends\\BILD%20%C3%A4.gif", "Blends/bild \xE4.gif"}) {
+         {"Blends\\Bild \xE4.GIF", "blends\\BILD%20%C3%A4.gif", "Blends/bild \xE4.gif",
+          "50%25%20grey\\a.gif", "a%23b\\a.gif", "what%2520\\a.gif", "w%3F\\a.gif", "%2523/a.gif",
+          "Stra\xDF"
+          "e\\a.gif",
+          "Stra%C3%9Fe\\a.gif"}) {
         PutPage(address);
         Show([&](QWidget&) { EXPECT_EQ(Shown(), QColor(Qt::red)) << address; });
+    }
+}
+
+TEST_F(WebBrowserTest, OpensAPageWhoseNameLooksLikePartOfAnAddress) {
+    for (const char* const name : {"50% grey", "a#b?c", "what%20",
+                                   "Stra\xC3\x9F"
+                                   "e \xE2\x82\xAC"}) {
+        const std::string page = "C:\\Work\\" + std::string(name) + ".htm";
+        files_.PutFile(page, "<body bgcolor=#ff0000>");
+        page_.Navigate(page, 14);
+        OnScreen::Show(form_, [&](QWidget&) { EXPECT_EQ(Shown(), QColor(Qt::red)) << name; });
     }
 }
 
@@ -112,7 +131,7 @@ TEST_F(WebBrowserTest, LinksAndScriptsDoNothing) {
 
 TEST_F(WebBrowserTest, APictureShowsWindowPageAndDialog) {
     Gallery gallery(toolkit_);
-    WebBrowser page(gallery.fraPreview, {"page", {30, 300, 8700, 3000}, {}, {}, 0, "Preview"});
+    WebBrowser page(gallery.fraPreview, {"page", {30, 300, 8700, 3000}, {}, {}, "Preview"});
     files_.PutFile("C:\\Work\\a.png", Picture(Qt::red));
     PutPage("a.png");
     files_.PutFile("C:\\Other\\Page.htm", "<body bgcolor=#ff00ff>");

@@ -1,5 +1,7 @@
 #include <QAbstractButton>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QSlider>
 #include <QTimer>
 
 #include "qt/on_screen.h"
@@ -72,6 +74,29 @@ TEST_F(WindowTest, EscapePressesTheCancelButtonAndTheFormMayRefuse) {
     });
 }
 
+TEST_F(WindowTest, WhileAHandlerRunsOnlyTheFormThatItOpensTakesWhatAPersonDoes) {
+    Form dialog(toolkit_, {.name = "frmDialog", .inner = {3000, 1500}, .hasCloseButton = false});
+    CommandButton button(dialog, {"btnOK", {60, 60, 900, 345}, "OK"}, [&] { dialog.Hide(); });
+    Show([&](QWidget& window) {
+        auto& slider = Find<QSlider>(window, form_.sldHue);
+        WhenStands("frmDialog", [&](QWidget& over) {
+            EXPECT_FALSE(over.windowFlags() & Qt::WindowCloseButtonHint);
+            // What a toolkit may pass on late.
+            window.close();
+            slider.setValue(70);
+            Find<QPushButton>(window, form_.cmdUndo).click();
+            EXPECT_EQ(form_.events, Events{"cmdApply_Click"});
+            EXPECT_EQ(slider.value(), 0);
+            QTest::mouseClick(&Find(over, button), Qt::LeftButton);
+        });
+        form_.answer = [&] { dialog.ShowModal(); };
+        Find<QPushButton>(window, form_.cmdApply).click();
+        form_.answer = {};
+        EXPECT_FALSE(dialog.IsVisible());
+        EXPECT_TRUE(form_.IsLoaded());
+    });
+}
+
 TEST_F(WindowTest, ADialogStandsInTheMiddleOfItsOwnerAndReturnsToIt) {
     Form dialog(toolkit_, {"frmDialog", "Dialog", {3000, 1500}});
     CommandButton button(dialog, {"btnOK", {60, 60, 900, 345}, "OK"}, [&] { dialog.Hide(); });
@@ -133,7 +158,10 @@ TEST_F(WindowTest, StateGoesBothWaysAndTheNormalPlaceIsKept) {
 }
 
 TEST_F(WindowTest, BoundsOffTheScreenAreBroughtBack) {
-    form_.SetBounds({-30000, 90000, 11820, 6000});
+    form_.answer = [&] {
+        form_.answer = {};
+        form_.SetBounds({-30000, 90000, 11820, 6000});
+    };
     Show([&](QWidget& window) {
         const QRect area = window.screen()->availableGeometry();
         EXPECT_TRUE(area.contains(window.geometry().center()));

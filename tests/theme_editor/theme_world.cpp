@@ -23,7 +23,8 @@ bool IsOneOf(const Control& control) {
 }  // namespace
 
 void Onlooker::Write(Aspects changed) {
-    if (changed == aspect::kNavigate) seen.emplace_back("navigate");
+    if (changed == aspect::kCaption) seen.push_back(control_.Caption());
+    if (changed == aspect::kAddress) seen.emplace_back("navigate");
     if (changed == aspect::kReload) seen.emplace_back("refresh");
     if (changed == aspect::kReloadCompletely) seen.emplace_back("refresh completely");
 }
