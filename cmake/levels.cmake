@@ -1,9 +1,9 @@
 # Reads src/levels.txt: morpho_folders lists the folders from the lowest level up, morpho_allowed_<folder> what each
-# may include besides itself, morpho_system_folders those that are bound to a system.
+# may include besides itself, morpho_built_folders those that are built for the target system.
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/levels.txt)
 file(STRINGS ${CMAKE_SOURCE_DIR}/src/levels.txt morpho_level_lines REGEX "^[^#]")
 set(morpho_folders)
-set(morpho_system_folders)
+set(morpho_built_folders)
 set(below_system_line OFF)
 foreach(line ${morpho_level_lines})
   if(line STREQUAL "system")
@@ -13,8 +13,8 @@ foreach(line ${morpho_level_lines})
     string(STRIP "${CMAKE_MATCH_2}" allowed)
     string(REPLACE " " ";" morpho_allowed_${folder} "${allowed}")
     list(APPEND morpho_folders ${folder})
-    if(below_system_line)
-      list(APPEND morpho_system_folders ${folder})
+    if(NOT (CMAKE_CROSSCOMPILING AND below_system_line))
+      list(APPEND morpho_built_folders ${folder})
     endif()
     # A folder's headers are reached as "folder/header.h" through a directory that holds nothing but this folder.
     file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/include/${folder})
@@ -23,6 +23,10 @@ foreach(line ${morpho_level_lines})
     message(FATAL_ERROR "src/levels.txt: not understood: ${line}")
   endif()
 endforeach()
+if(CMAKE_CROSSCOMPILING)
+  list(REMOVE_ITEM morpho_built_folders colorizer) # There is no libjpeg for the target yet.
+  list(REMOVE_ITEM morpho_built_folders web_host) # It still includes linux/ and system headers.
+endif()
 
 # morpho_include_paths(RESULT FOLDER...): the include paths of these folders alone.
 function(morpho_include_paths result)
