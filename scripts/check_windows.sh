@@ -7,6 +7,6 @@ cd "$(dirname "$0")/.."
 scripts/install_packages.sh
 for preset in windows-x64 windows-x86; do
     echo "== Compiling ($preset)"
-    cmake --preset "$preset" >/dev/null
+    cmake --preset "$preset" --no-warn-unused-cli >/dev/null
     cmake --build --preset "$preset"
 done
