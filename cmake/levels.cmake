@@ -25,7 +25,6 @@ foreach(line ${morpho_level_lines})
 endforeach()
 if(WIN32)
   list(REMOVE_ITEM morpho_built_folders colorizer) # There is no libjpeg for the target yet.
-  list(REMOVE_ITEM morpho_built_folders web_host) # It still includes linux/ and system headers.
 endif()
 
 # morpho_include_paths(RESULT FOLDER...): the include paths of these folders alone.
