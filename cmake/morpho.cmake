@@ -1,6 +1,6 @@
 # How every folder of this program is built: one library for a folder of src/, one test program for a folder of tests/.
 
-include(cmake/levels.cmake)
+include(levels)
 
 add_library(morpho_options INTERFACE)
 # -Wrestrict of g++ 12 misreads the inlined std::string: it warns of overlaps at impossible offsets (GCC bug 105651).
@@ -41,7 +41,7 @@ function(morpho_use target)
 endfunction()
 
 # morpho_test(NAME [FOLDER...] [LIBRARIES library...]): the folder's .cpp files as one test program of these folders of
-# src/. A folder that is not built here, because it belongs to another system, takes its tests along.
+# src/.
 function(morpho_test name)
   cmake_parse_arguments(test "" "" "LIBRARIES" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)

@@ -10,7 +10,7 @@ below_system_line=no
 while read -r line; do
     case $line in
     '#'* | '') ;;
-    system) below_system_line=yes ;;
+    'system '*) below_system_line=yes ;;
     *)
         folder=${line#* }
         folder=${folder%%:*}
