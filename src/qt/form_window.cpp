@@ -44,6 +44,14 @@ QSize SizeOf(const QMargins& margins) {
     return {margins.left() + margins.right(), margins.top() + margins.bottom()};
 }
 
+// Until the window manager has answered, Qt may work out a frame from windows that are still being
+// moved into each other: of any size, negative ones included.
+bool IsFrame(const QSize& chrome) {
+    constexpr int kMaxChrome = 200;  // pixels, both sides together
+    return chrome.width() >= 0 && chrome.height() >= 0 && chrome.width() <= kMaxChrome &&
+           chrome.height() <= kMaxChrome;
+}
+
 }  // namespace
 
 // A sizable window is nobody's child, so that it has its own place in the task bar and can be
@@ -64,7 +72,8 @@ FormWindow::FormWindow(Form& form, QWidget* owner, PageServer& pages)
                                [this](QWidget* /*old*/, QWidget* now) { FocusChanged(now); });
     create();
     windowHandle()->installEventFilter(this);
-    lastNormalChrome_ = SizeOf(windowHandle()->frameMargins());
+    const QSize chrome = SizeOf(windowHandle()->frameMargins());
+    if (IsFrame(chrome)) lastNormalChrome_ = chrome;
     form.Attach(this);
     if (form.Focused() != nullptr) form.Focused()->SetFocus();
 }
@@ -167,7 +176,8 @@ void FormWindow::FirstPainted() {
     if (painted_ || !form_.IsVisible() || !windowHandle()->isExposed()) return;
     painted_ = true;
     if (StateOf(*this) == WindowState::kNormal) {
-        lastNormalChrome_ = frameGeometry().size() - size();
+        const QSize chrome = frameGeometry().size() - size();
+        if (IsFrame(chrome)) lastNormalChrome_ = chrome;
         if (IsSizable()) WriteOuterSize();
     }
     ReportGeometry();
@@ -233,7 +243,8 @@ void FormWindow::GeometryChanged() {
 
 void FormWindow::ReportGeometry() {
     if (!isVisible()) return;
-    const QRect frame = frameGeometry();
+    QRect frame = frameGeometry();
+    if (!IsFrame(frame.size() - size())) frame = {pos(), size() + lastNormalChrome_};
     const QSize chrome = frame.size() - size();
     const WindowState state = StateOf(*this);
     if (state == WindowState::kNormal) lastNormalChrome_ = chrome;
