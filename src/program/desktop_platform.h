@@ -32,6 +32,11 @@ class DesktopPlatform {
     DesktopPlatform(DesktopUse use, const UserFolders& folders, Toolkit& toolkit,
                     const Resources& resources);
 
+    // The host's record of a save goes last: until then a program that is killed has it.
+    ~DesktopPlatform() { workFolder_.Remove(); }
+    DesktopPlatform(const DesktopPlatform&) = delete;
+    DesktopPlatform& operator=(const DesktopPlatform&) = delete;
+
     Platform& Parts() { return platform_; }
     // Opens a web to look at; `folder` is a path of the disk. See DiskApplication::Open.
     void OpenForReading(const std::string& folder,

@@ -71,15 +71,11 @@ void DiskWebFolder::Delete() {
     Opened();
     WebPath parent = path_;
     parent.pop_back();
-    web_->Files().FindFolder(parent)->RemoveFolder(Name());
+    web_->Files().OpenFolder(parent)->RemoveFolder(Name());
 }
 
 std::unique_ptr<Folder> DiskWebFolder::Opened() const {
-    auto folder = web_->Files().FindFolder(path_);
-    if (!folder)
-        throw RunTimeError(ErrorNumber::kPathNotFound,
-                           "\"" + Url() + "\" could not be opened: the web has no such folder.");
-    return folder;
+    return web_->Files().OpenFolder(path_);
 }
 
 std::unique_ptr<WebFolder> DiskWebFolder::Inner(const std::string& name) const {

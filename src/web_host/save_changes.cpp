@@ -43,11 +43,7 @@ std::string DigestOf(const Folder& folder, const std::string& name) {
 }
 
 std::unique_ptr<Folder> SaveChanges::ThemeFolder(const std::string& theme) const {
-    auto folder = web_.FindFolder({std::string(kThemesFolder), theme});
-    if (!folder)
-        throw EntryError(ErrorNumber::kPathNotFound, web_.Root(), theme, "could not be written",
-                         "the web has no such theme");
-    return folder;
+    return web_.OpenFolder({std::string(kThemesFolder), theme});
 }
 
 void SaveChanges::Flush() {

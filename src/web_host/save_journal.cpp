@@ -55,13 +55,17 @@ std::unique_ptr<Folder> SaveJournal::Copies() {
     return folder->Find(CopiesName()) ? folder->Open(CopiesName()) : folder->Create(CopiesName());
 }
 
+void SaveJournal::RemoveCopies() {
+    const auto folder = disk_.OpenOrCreate(path_);
+    if (folder->Find(CopiesName())) folder->RemoveFolder(CopiesName());
+}
+
 void SaveJournal::Remove() {
     const auto folder = disk_.OpenOrCreate(path_);
     // The record goes first: without it the copies mean nothing.
     if (folder->Find(JournalName())) folder->Remove(JournalName());
+    RemoveCopies();
     for (const FolderEntry& entry : folder->Entries()) {
-        if (entry.name == CopiesName() && entry.kind == EntryKind::kFolder)
-            folder->RemoveFolder(entry.name);
         if (entry.kind == EntryKind::kFile && IsTemporaryName(entry.name))
             folder->Remove(entry.name);
     }

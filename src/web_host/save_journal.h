@@ -27,7 +27,8 @@ class SaveJournal {
     void Write(const SaveRecord& record, Durability durability);
     // The folder for the copies, created when it is missing.
     std::unique_ptr<Folder> Copies();
-    // Removes record and copies: the save has ended.
+    void RemoveCopies();
+    // Removes record and copies.
     void Remove();
 
   private:

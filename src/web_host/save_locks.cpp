@@ -4,10 +4,7 @@ namespace morpho {
 
 SaveLocks TryLockForSave(const WebSession& web, std::string& holder) {
     SaveLocks locks;
-    const auto themes = web.Files().FindFolder({std::string(kThemesFolder)});
-    if (!themes)
-        throw EntryError(ErrorNumber::kPathNotFound, web.Files().Root(), kThemesFolder,
-                         "could not be locked", "the web has no such folder");
+    const auto themes = web.Files().OpenFolder({std::string(kThemesFolder)});
     locks.web = themes->TryLock(kLockFile, holder);
     if (!locks.web) return {};
     const std::string& ofUser = web.Options().stores.ofUser;

@@ -47,7 +47,8 @@ bool ReadValue(const std::string& key, const std::string& value, SaveRecord& rec
                                                                 {"folder", &record.webId.number}};
     const std::map<std::string_view, bool*> flags = {{"changesuser", &record.changesUserTheme},
                                                      {"userhad", &record.userHadTheme},
-                                                     {"committed", &record.isCommitted}};
+                                                     {"committed", &record.isCommitted},
+                                                     {"ended", &record.hasEnded}};
     if (const auto text = texts.find(key); text != texts.end()) {
         *text->second = value;
         return true;
@@ -91,6 +92,7 @@ std::string FormatSaveRecord(const SaveRecord& record) {
                       file.digestBefore, file.digestAfter});
     text += Line({"committed", YesOrNo(record.isCommitted)});
     text += Line({"apply", record.appliedTheme});
+    text += Line({"ended", YesOrNo(record.hasEnded)});
     return text.append(kLastLine);
 }
 

@@ -38,6 +38,9 @@ struct SaveRecord {
     std::vector<ThemeFile> files;   // what is replaced in a theme of the web
     bool isCommitted = false;       // from here on it is completed, not rolled back
     std::string appliedTheme;       // the theme that pages get; empty: none
+    // The save is complete. Its record stays until its program ends, so that a program killed
+    // right after the save is not taken for one that has saved nothing.
+    bool hasEnded = false;
 };
 
 // The record as text, a line for each value. Every version of a record replaces the file as a

@@ -28,7 +28,11 @@ class SaveRepair {
 
     std::string Run() {
         std::string completed;
-        if (!IsOfThisWeb()) {
+        if (record_.hasEnded) {
+            web_.Reports().Add("The program was stopped right after it had saved the theme " +
+                               Quoted(record_.theme) + "; the save is complete.");
+            completed = record_.theme;
+        } else if (!IsOfThisWeb()) {
             RollBackForUser();
         } else if (!record_.isCommitted) {
             RollBack();
@@ -114,6 +118,7 @@ std::string RepairOrTell(WebSession& web) {
     TellOfOthers(web, journal);
     auto record = journal.Read();
     if (!record) return {};
+    if (record->hasEnded && !web.Options().IsForSaving()) return {};
     if (!web.Options().IsForSaving()) {
         web.Reports().Add("A save of the theme " + Quoted(record->theme) +
                           " is running, or was interrupted; the next save repairs that.");
@@ -128,6 +133,20 @@ std::string RepairOrTell(WebSession& web) {
 }
 
 }  // namespace
+
+void RemoveEndedRecord(const WebSession& web) {
+    try {
+        SaveJournal journal(web.TheDisk(), web.Options().stores.saves);
+        std::string holder;
+        const SaveLocks locks = TryLockForSave(web, holder);
+        const auto record = locks.AreHeld() ? journal.Read() : std::nullopt;
+        // By now it may be the record of another program's save.
+        if (record && record->hasEnded && record->program == web.TheDisk().Program())
+            journal.Remove();
+    } catch (const RunTimeError&) {
+        return;  // the next start tells that the save is complete
+    }
+}
 
 std::string RepairSave(WebSession& web) {
     if (web.Options().stores.saves.empty()) return {};

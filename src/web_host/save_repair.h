@@ -14,4 +14,7 @@ namespace morpho {
 // Returns the theme whose save was completed; empty for none. Never throws.
 std::string RepairSave(WebSession& web);
 
+// Removes the record of this program's last save, which has ended. Never throws.
+void RemoveEndedRecord(const WebSession& web);
+
 }  // namespace morpho

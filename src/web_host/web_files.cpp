@@ -45,6 +45,16 @@ std::unique_ptr<Folder> WebFiles::FindFolder(const WebPath& names) const {
     return folder;
 }
 
+std::unique_ptr<Folder> WebFiles::OpenFolder(const WebPath& names) const {
+    auto folder = FindFolder(names);
+    if (folder) return folder;
+    std::string url = Url();
+    for (const std::string& name : names)
+        url += '/' + name;
+    throw RunTimeError(ErrorNumber::kPathNotFound,
+                       "\"" + url + "\" could not be opened: the web has no such folder.");
+}
+
 void WebFiles::RedirectTheme(std::string name, std::string temporaryName) {
     redirectedTheme_ = std::move(name);
     temporaryName_ = std::move(temporaryName);

@@ -34,6 +34,9 @@ class WebFiles {
     // The folder at these names, without regard to case; null when there is none, or a link or a
     // file on the way.
     std::unique_ptr<Folder> FindFolder(const WebPath& names) const;
+    // The same for a folder that must be there: throws RunTimeError. Another program may take it
+    // away at any time.
+    std::unique_ptr<Folder> OpenFolder(const WebPath& names) const;
 
     // While a theme is being made its folder has a temporary name: from now on `name` below
     // "_themes" leads there. An empty name ends that.

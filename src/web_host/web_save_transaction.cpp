@@ -89,7 +89,7 @@ void WebSaveTransaction::ProtectUserTheme() {
 }
 
 void WebSaveTransaction::CreateTheme(const std::string& name) {
-    const auto themes = web_.Files().FindFolder({std::string(kThemesFolder)});
+    const auto themes = web_.Files().OpenFolder({std::string(kThemesFolder)});
     if (themes->Find(name) || !record_.newThemeFolder.empty())
         throw EntryError(ErrorNumber::kFileExists, *themes, name, "could not be created",
                          "it exists already");
@@ -105,7 +105,7 @@ bool WebSaveTransaction::HasCreated(const std::string& name) const {
 }
 
 void WebSaveTransaction::DropTheme() {
-    const auto themes = web_.Files().FindFolder({std::string(kThemesFolder)});
+    const auto themes = web_.Files().OpenFolder({std::string(kThemesFolder)});
     themes->RemoveFolder(record_.newThemeFolder);
     web_.Files().RedirectTheme({}, {});
     record_.newThemeFolder.clear();
@@ -135,7 +135,7 @@ void WebSaveTransaction::WriteTemporary(Folder& folder, const SaveRecord::ThemeF
 
 void WebSaveTransaction::ReplaceThemeFile(const std::string& theme, const std::string& name,
                                           const std::string& bytes) {
-    const auto folder = web_.Files().FindFolder({std::string(kThemesFolder), theme});
+    const auto folder = web_.Files().OpenFolder({std::string(kThemesFolder), theme});
     const auto file = PlannedChange(*folder, theme, name, bytes);
     if (!file) return;
     record_.files.push_back(*file);
@@ -180,7 +180,7 @@ void WebSaveTransaction::ApplyTheme(const std::string& name) {
                            "There is no theme \"" + name + "\" to be applied.");
     if (packed && !folder) {
         CreateTheme(name);
-        folder = web_.Files().FindFolder({std::string(kThemesFolder), name});
+        folder = web_.Files().OpenFolder({std::string(kThemesFolder), name});
     }
     if (packed && HasCreated(theme)) {
         FillWithPacked(*packed, *folder);
@@ -244,8 +244,7 @@ void WebSaveTransaction::End() {
     web_.SetTransaction(nullptr);
     const bool removesThemesFolder = createdThemesFolder_ && !record_.isCommitted;
     try {
-        // Without the locks it would be the journal of the program that has them.
-        if (locks_.AreHeld()) journal_.Remove();
+        EndJournal();
         locks_ = {};
         const auto themes = web_.Files().FindFolder({std::string(kThemesFolder)});
         if (removesThemesFolder && themes && themes->Entries().empty())
@@ -255,6 +254,16 @@ void WebSaveTransaction::End() {
     }
     locks_ = {};
     web_.Reports().Deliver();
+}
+
+void WebSaveTransaction::EndJournal() {
+    // Without the locks it would be the journal of the program that has them.
+    if (!locks_.AreHeld()) return;
+    if (!record_.isCommitted) return journal_.Remove();
+    record_.hasEnded = true;
+    WriteRecord(Durability::kUnflushed);
+    journal_.RemoveCopies();
+    web_.SetSaved();
 }
 
 bool ReplacesThemeOfWeb(const WebSession& web, const std::string& name) {

@@ -21,7 +21,7 @@ namespace morpho {
 //     begin      lock; write the record of what is there to the journal
 //     collect    a new theme's folder, and new contents of a theme's files, under temporary names
 //     commit     flush them; mark the record as committed; give them their names; then the pages
-//     end        remove earlier contents and the journal; unlock
+//     end        remove earlier contents; mark the record as ended; unlock
 //
 // Without a commit everything is rolled back, the user's themes included. After a kill the next
 // start reads the journal: a save that was not committed is rolled back, another one completed (see
@@ -74,6 +74,7 @@ class WebSaveTransaction : public SaveTransaction {
     void RollBack();
     void UpdatePages();
     void End();
+    void EndJournal();
 
     WebSession& web_;
     SaveJournal journal_;

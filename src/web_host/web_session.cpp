@@ -14,7 +14,9 @@ WebSession::WebSession(Disk& disk, WebOptions options, WebReports::Log log)
                            {options_.unpackFolder, options_.onlyTheme, options_.stores.forWeb});
 }
 
-WebSession::~WebSession() = default;
+WebSession::~WebSession() {
+    if (hasSaved_) RemoveEndedRecord(*this);
+}
 
 UnpackOptions WebSession::OptionsFor(const std::optional<std::string>& onlyTheme) const {
     return {options_.unpackFolder, onlyTheme, {}, true};

@@ -87,6 +87,9 @@ class WebSession {
     WebSaveTransaction* Transaction() const { return transaction_; }
     void SetTransaction(WebSaveTransaction* transaction) { transaction_ = transaction; }
 
+    // A save has ended: its record goes when this object does.
+    void SetSaved() { hasSaved_ = true; }
+
     // Whether a page uses the theme that was applied last.
     bool IsThemeShown() const { return isThemeShown_; }
     void SetThemeShown(bool shown) { isThemeShown_ = shown; }
@@ -102,6 +105,7 @@ class WebSession {
     std::vector<std::string> repairs_;
     std::string completedTheme_;
     WebSaveTransaction* transaction_ = nullptr;
+    bool hasSaved_ = false;
     bool isThemeShown_ = false;
 };
 
