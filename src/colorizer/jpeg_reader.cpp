@@ -44,6 +44,19 @@ bool Differs(const JHUFF_TBL* table, const JHUFF_TBL* standard) {
            std::memcmp(table->huffval, standard->huffval, sizeof table->huffval) != 0;
 }
 
+// Refuses a file that is made to waste time, before anything is decoded.
+void RequireBoundedWork(const JpegLayout& layout, const JpegPicture& picture) {
+    std::uint64_t blocks = 0;
+    for (const JpegScan& scan : layout.scans) {
+        for (int index = 0; index < scan.componentCount; ++index) {
+            const JpegComponent& component =
+                picture.components[static_cast<std::size_t>(scan.components[index])];
+            blocks += std::uint64_t{component.blocksWide} * component.blocksHigh;
+        }
+    }
+    if (blocks > kMaxScanBlocks) throw Error("The JPEG picture has too many scans for its size.");
+}
+
 }  // namespace
 
 JpegReader::JpegReader(std::span<const std::uint8_t> file, JpegPicture& picture)
@@ -66,6 +79,7 @@ JpegReader::JpegReader(std::span<const std::uint8_t> file, JpegPicture& picture)
         const jpeg_component_info& component = info_.comp_info[index];
         picture_.components.push_back(ComponentOf(component));
     }
+    RequireBoundedWork(layout_, picture_);
     hasOneScan_ = !layout_.isProgressive && layout_.scans.size() == 1 &&
                   layout_.scans[0].componentCount == info_.num_components;
     if (hasOneScan_) FinishTables();

@@ -1,6 +1,7 @@
 #include "formats/theme_addresses.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "formats/html_tags.h"
 #include "formats/web_text.h"
@@ -75,32 +76,45 @@ class AddressFinder {
     }
 
     void Take(std::size_t begin, std::size_t hit, std::size_t end) {
-        const std::string_view before = page_.substr(begin, hit - begin);
-        const std::size_t delimiter = before.find_last_of(kEndsAddress);
-        const std::size_t start = delimiter == before.npos ? 0 : delimiter + 1;
+        const std::size_t start = StartOfAddress(begin, hit);
+        const char before = start > begin ? page_[start - 1] : ' ';
+        if (kEndsAddress.find(before) == kEndsAddress.npos) return;
         ThemeAddress address;
         address.nameBegin = hit + kThemes.size() + 1;
         if (address.nameBegin > end || !IsSeparator(address.nameBegin - 1)) return;
-        if (!GoesUpwards(before.substr(start))) return;
+        if (!GoesUpwards(page_.substr(start, hit - start))) return;
         const std::string_view rest = page_.substr(address.nameBegin, end - address.nameBegin);
         address.nameLength = rest.substr(0, kMaxName).find_first_of(kSeparators);
         if (address.nameLength == rest.npos) return;
+        const auto file = FileIn(rest.substr(address.nameLength + 1), before);
+        if (!file) return;
         address.theme = DecodedName(rest.substr(0, address.nameLength));
-        const char quote = delimiter == before.npos ? ' ' : before[delimiter];
-        address.file = FileIn(rest.substr(address.nameLength + 1), quote);
+        address.file = DecodedName(*file);
         found_.push_back(std::move(address));
+    }
+
+    // Only steps upwards may stand before "_themes", so that the way back is short and no part of
+    // a page is searched for more than one hit.
+    std::size_t StartOfAddress(std::size_t begin, std::size_t hit) const {
+        while (hit > begin && (page_[hit - 1] == '.' || IsSeparator(hit - 1)))
+            --hit;
+        return hit;
     }
 
     bool IsSeparator(std::size_t position) const {
         return kSeparators.find(page_[position]) != kSeparators.npos;
     }
 
-    // The file's name, which may hold blanks where the address stands in quotes.
-    static std::string FileIn(std::string_view rest, char quote) {
+    // The file's name as it stands in the page, which may hold blanks where the address stands in
+    // quotes. Nothing for one that is longer than a name can be.
+    static std::optional<std::string_view> FileIn(std::string_view rest, char quote) {
         const bool quoted = quote == '"' || quote == '\'';
         std::string ends = "?#<>)\r\n";
         ends += quoted ? std::string(1, quote) : std::string(" \t\"'");
-        return DecodedName(rest.substr(0, rest.find_first_of(ends)));
+        const std::string_view nearby = rest.substr(0, kMaxName);
+        const std::size_t end = nearby.find_first_of(ends);
+        if (end == nearby.npos && nearby.size() < rest.size()) return {};
+        return nearby.substr(0, end);
     }
 
     std::string_view page_;
@@ -134,13 +148,17 @@ std::string WithOwnPictures(std::string_view css,
     const std::string lower = AsciiLowered(css);
     std::string result;
     std::size_t done = 0;
-    for (std::size_t hit = lower.find(kUrl); hit != lower.npos; hit = lower.find(kUrl, hit)) {
+    for (std::size_t hit = lower.find(kUrl); hit != lower.npos;) {
         hit += kUrl.size();
         const std::size_t begin = std::min(css.find_first_not_of(" \t\r\n\"'", hit), css.size());
         const std::string_view rest = css.substr(begin);
         const std::string_view path = rest.substr(0, rest.find_first_of("\"')\r\n"));
+        // What stands inside an address is no other one, even if it looks like it.
+        hit = lower.find(kUrl, begin + path.size());
         const std::size_t folder = path.find_last_of(kSeparators);
-        if (folder == path.npos || !IsForeignFolder(path.substr(0, folder + 1))) continue;
+        if (folder == path.npos || path.find('(') != path.npos ||
+            !IsForeignFolder(path.substr(0, folder + 1)))
+            continue;
         const std::string_view file = path.substr(folder + 1);
         if (!isOwn(DecodedName(file.substr(0, file.find_last_not_of(" \t") + 1)))) continue;
         result.append(css.substr(done, begin - done));

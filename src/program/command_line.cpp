@@ -56,9 +56,13 @@ CLI::Validator NumberFrom(int least, int most) {
     return {refusal, range};
 }
 
-// An empty name is most often a variable of a script that was never set.
+// An empty name is most often a variable of a script that was never set; an option in its place, a
+// value that was forgotten.
 CLI::Validator NotEmpty() {
-    return {[](const std::string& text) { return text.empty() ? "nothing is named" : ""; }, ""};
+    return {[](const std::string& text) {
+                return text.empty() || text.starts_with("--") ? "nothing is named" : "";
+            },
+            ""};
 }
 
 void AddWeb(CLI::App& command, std::filesystem::path& web) {
@@ -158,7 +162,8 @@ void AddOutcomes(CLI::App& command, Outcome& outcome) {
             ->add_option_function<std::string>(
                 "--save-as", saveAs,
                 "Save it as a new theme of this name; auto: a free name like the theme's own")
-            ->type_name("NAME");
+            ->type_name("NAME")
+            ->check(NotEmpty());
     outcomes->require_option(1);
     command.add_option("--title", outcome.title, "Title of the new theme; a free one if not given")
         ->type_name("TITLE")
@@ -168,64 +173,99 @@ void AddOutcomes(CLI::App& command, Outcome& outcome) {
         ->needs(newTheme);
 }
 
+// Each of these adds a subcommand that fills in a request.
+
+CLI::App* AddTheme(CLI::App& app, ThemeRequest& theme) {
+    CLI::App* command =
+        app.add_subcommand("theme", "Open a web's theme in the Theme Morpho window");
+    AddWeb(*command, theme.web);
+    command->add_option("--theme", theme.theme, "Theme to open; the web's first if not given")
+        ->type_name("NAME")
+        ->check(NotEmpty());
+    return command;
+}
+
+CLI::App* AddList(CLI::App& app, ListRequest& list) {
+    CLI::App* command = app.add_subcommand("list", "List a web's themes and their elements");
+    AddWeb(*command, list.web);
+    command->add_option("--theme", list.theme, "List this theme's elements: key, file, image group")
+        ->type_name("NAME")
+        ->check(NotEmpty());
+    command->add_flag("--json", list.json, "Print all as JSON")->disable_flag_override();
+    return command;
+}
+
+CLI::App* AddRecolor(CLI::App& app, RecolorRequest& recolor) {
+    CLI::App* command = app.add_subcommand("recolor", "Recolour a theme in a batch");
+    command->footer(kSteps);
+    AddWeb(*command, recolor.web);
+    command->add_option("--theme", recolor.theme, "Theme to recolour")
+        ->type_name("NAME")
+        ->check(NotEmpty())
+        ->required();
+    command
+        ->add_option("--picture", recolor.picture,
+                     "PNG file that gets a picture of the window after the steps")
+        ->type_name("FILE")
+        ->check(NotEmpty());
+    command->add_flag("--json", recolor.json, "Print the elements and the history as JSON")
+        ->disable_flag_override();
+    command->add_flag("--dry-run", recolor.dryRun, "Tell what would be written, and write nothing")
+        ->disable_flag_override();
+    AddOutcomes(*command, recolor.outcome);
+    return command;
+}
+
+CLI::App* AddApply(CLI::App& app, ApplyRequest& apply) {
+    CLI::App* command = app.add_subcommand("apply", "Give a web's pages another theme");
+    AddWeb(*command, apply.web);
+    command->add_option("--theme", apply.theme, "A theme of the web, or one of the user's own")
+        ->type_name("NAME")
+        ->check(NotEmpty())
+        ->required();
+    command
+        ->add_flag("--overwrite", apply.overwrite,
+                   "Replace the web's own theme of that name by the user's")
+        ->disable_flag_override();
+    return command;
+}
+
+// The library gives an option the next argument where its value is empty ("--title= --save").
+void RefuseEmptyValues(int argc, const char* const* argv) {
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view argument = argv[i];
+        if (argument.starts_with("--") && argument.ends_with("=") &&
+            argument.find('=') == argument.size() - 1)
+            throw CommandError(CommandError::Status::kWrongUsage,
+                               std::string(argument) + " has no value. See morpho --help.");
+    }
+}
+
+[[noreturn]] void RefuseCommandLine(const CLI::App& app, const CLI::ParseError& error,
+                                    const char* first) {
+    const bool isUnknown = first != nullptr && first[0] != '-' && app.get_subcommands().empty();
+    throw CommandError(
+        CommandError::Status::kWrongUsage,
+        (isUnknown ? "\"" + std::string(first) + "\" is no command" : std::string(error.what())) +
+            ". See morpho --help.");
+}
+
 }  // namespace
 
 Request ParseCommandLine(int argc, const char* const* argv, const std::string& version) {
     CLI::App app("Recolours the graphics of FrontPage webs.", "morpho");
     app.set_version_flag("--version", "morpho " + version);
     app.require_subcommand(1);
-
     ThemeRequest theme;
-    CLI::App* themeCommand =
-        app.add_subcommand("theme", "Open a web's theme in the Theme Morpho window");
-    AddWeb(*themeCommand, theme.web);
-    themeCommand->add_option("--theme", theme.theme, "Theme to open; the web's first if not given")
-        ->type_name("NAME")
-        ->check(NotEmpty());
-
     ListRequest list;
-    CLI::App* listCommand = app.add_subcommand("list", "List a web's themes and their elements");
-    AddWeb(*listCommand, list.web);
-    listCommand
-        ->add_option("--theme", list.theme, "List this theme's elements: key, file, image group")
-        ->type_name("NAME")
-        ->check(NotEmpty());
-    listCommand->add_flag("--json", list.json, "Print all as JSON")->disable_flag_override();
-
     RecolorRequest recolor;
-    CLI::App* recolorCommand = app.add_subcommand("recolor", "Recolour a theme in a batch");
-    recolorCommand->footer(kSteps);
-    AddWeb(*recolorCommand, recolor.web);
-    recolorCommand->add_option("--theme", recolor.theme, "Theme to recolour")
-        ->type_name("NAME")
-        ->check(NotEmpty())
-        ->required();
-    recolorCommand
-        ->add_option("--picture", recolor.picture,
-                     "PNG file that gets a picture of the window after the steps")
-        ->type_name("FILE")
-        ->check(NotEmpty());
-    recolorCommand->add_flag("--json", recolor.json, "Print the elements and the history as JSON")
-        ->disable_flag_override();
-    recolorCommand
-        ->add_flag("--dry-run", recolor.dryRun, "Tell what would be written, and write nothing")
-        ->disable_flag_override();
-    AddOutcomes(*recolorCommand, recolor.outcome);
-    const StepOptions steps(*recolorCommand);
-
     ApplyRequest apply;
-    CLI::App* applyCommand = app.add_subcommand("apply", "Give a web's pages another theme");
-    AddWeb(*applyCommand, apply.web);
-    applyCommand->add_option("--theme", apply.theme, "A theme of the web, or one of the user's own")
-        ->type_name("NAME")
-        ->check(NotEmpty())
-        ->required();
-
-    applyCommand
-        ->add_flag("--overwrite", apply.overwrite,
-                   "Replace the web's own theme of that name by the user's")
-        ->disable_flag_override();
-
+    const CLI::App* const themeCommand = AddTheme(app, theme);
+    const CLI::App* const listCommand = AddList(app, list);
+    CLI::App* const recolorCommand = AddRecolor(app, recolor);
+    const StepOptions steps(*recolorCommand);
+    const CLI::App* const applyCommand = AddApply(app, apply);
+    RefuseEmptyValues(argc, argv);
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForVersion& call) {
@@ -233,12 +273,7 @@ Request ParseCommandLine(int argc, const char* const* argv, const std::string& v
     } catch (const CLI::CallForHelp&) {
         return TextRequest{app.help()};
     } catch (const CLI::ParseError& error) {
-        if (argc > 1 && argv[1][0] != '-' && app.get_subcommands().empty())
-            throw CommandError(
-                CommandError::Status::kWrongUsage,
-                "\"" + std::string(argv[1]) + "\" is no command. See morpho --help.");
-        throw CommandError(CommandError::Status::kWrongUsage,
-                           std::string(error.what()) + ". See morpho --help.");
+        RefuseCommandLine(app, error, argc > 1 ? argv[1] : nullptr);
     }
     if (*themeCommand) return theme;
     if (*listCommand) return list;

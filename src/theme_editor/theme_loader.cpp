@@ -91,6 +91,7 @@ void ThemeLoader::ListElements() {
         if (element.selector != selector) {
             selector = element.selector;
             WriteLog(program_, "  Selector: " + std::string(selector));
+            if (page.IsOpen()) FindRules(selector, *page.FirstStyleSheet());
         }
         if (page.IsOpen()) LookUp(element, *page.FirstStyleSheet());
     }
@@ -109,6 +110,14 @@ bool ThemeLoader::ReadStyleSheet(const std::string& path) {
     }
 }
 
+// A sheet may have very many rules, and is asked for many elements of one selector.
+void ThemeLoader::FindRules(std::string_view selector, const StyleSheet& sheet) {
+    rules_.clear();
+    for (int i = 0; i < sheet.RuleCount(); ++i) {
+        if (EqualIgnoringAsciiCase(sheet.Rule(i)->SelectorText(), selector)) rules_.push_back(i);
+    }
+}
+
 void ThemeLoader::LookUp(const CatalogueElement& element, const StyleSheet& sheet) {
     WriteLog(program_, "  Parsing " + std::to_string(sheet.RuleCount()) + " rules...");
     const std::string value = FindAttribute(element, sheet);
@@ -120,9 +129,8 @@ void ThemeLoader::LookUp(const CatalogueElement& element, const StyleSheet& shee
 
 std::string ThemeLoader::FindAttribute(const CatalogueElement& element,
                                        const StyleSheet& sheet) const {
-    for (int i = 0; i < sheet.RuleCount(); ++i) {
-        const std::unique_ptr<StyleRule> rule = sheet.Rule(i);
-        if (!EqualIgnoringAsciiCase(rule->SelectorText(), element.selector)) continue;
+    for (const int index : rules_) {
+        const std::unique_ptr<StyleRule> rule = sheet.Rule(index);
         WriteLog(program_, "  Selector found. Looking for attribute " +
                                std::string(element.Attribute()) + "...");
         const std::optional<std::string> value = rule->Attribute(element.Attribute());

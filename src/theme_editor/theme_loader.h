@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/front_page.h"
 #include "shared/component.h"
@@ -30,6 +31,7 @@ class ThemeLoader {
     void ListElements();
     // The sheet as text to insert into a page. False when it cannot be read.
     bool ReadStyleSheet(const std::string& path);
+    void FindRules(std::string_view selector, const StyleSheet& sheet);
     void LookUp(const CatalogueElement& element, const StyleSheet& sheet);
     std::string FindAttribute(const CatalogueElement& element, const StyleSheet& sheet) const;
     void ListPicture(const CatalogueElement& element, const std::string& name);
@@ -38,6 +40,7 @@ class ThemeLoader {
     ElementList& elements_;
     std::string workFolder_;
     std::string styleHtml_;
+    std::vector<int> rules_;  // of the current sheet, with the current selector
 };
 
 }  // namespace morpho

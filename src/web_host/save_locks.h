@@ -13,6 +13,11 @@ struct SaveLocks {
     std::unique_ptr<FolderLock> user;
 
     bool AreHeld() const { return web != nullptr; }
+    // The web's goes last, so that its file tells of a program that was killed here, too.
+    void Release() {
+        user.reset();
+        web.reset();
+    }
 };
 
 // The file that is locked, in "_themes" and among the user's themes. It means nothing otherwise.

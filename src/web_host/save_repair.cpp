@@ -113,10 +113,18 @@ void TellOfOthers(WebSession& web, const SaveJournal& journal) {
                           "else. It is left alone; look at the web's themes before you delete it.");
 }
 
+// A program that was killed leaves the files of its locks. Taking the locks once removes them.
+void RemoveLockFiles(const WebSession& web) {
+    const auto themes = web.Files().FindFolder({std::string(kThemesFolder)});
+    std::string holder;
+    if (themes && themes->Find(kLockFile)) TryLockForSave(web, holder).Release();
+}
+
 std::string RepairOrTell(WebSession& web) {
     const SaveJournal journal(web.TheDisk(), web.Options().stores.saves);
     TellOfOthers(web, journal);
     auto record = journal.Read();
+    if (!record && web.Options().IsForSaving()) RemoveLockFiles(web);
     if (!record) return {};
     if (record->hasEnded && !web.Options().IsForSaving()) return {};
     if (!web.Options().IsForSaving()) {

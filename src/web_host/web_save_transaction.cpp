@@ -245,14 +245,14 @@ void WebSaveTransaction::End() {
     const bool removesThemesFolder = createdThemesFolder_ && !record_.isCommitted;
     try {
         EndJournal();
-        locks_ = {};
+        locks_.Release();
         const auto themes = web_.Files().FindFolder({std::string(kThemesFolder)});
         if (removesThemesFolder && themes && themes->Entries().empty())
             web_.Files().Root().RemoveFolder(kThemesFolder);
     } catch (const RunTimeError& error) {
         web_.Reports().Add(error.what());
     }
-    locks_ = {};
+    locks_.Release();
     web_.Reports().Deliver();
 }
 

@@ -169,6 +169,14 @@ TEST(Jpeg, ThatClaimsTooMuchIsRefused) {
     for (std::size_t count = 0; count < kMaxSegments; ++count)
         segments = std::move(segments) + MakeSegment(0xFE, {});
     ExpectRefused(MakeJpeg({.segments = segments}), "too many marker segments");
+    // Its last scan again and again: little to store, much to decode.
+    Bytes large = MakeJpeg({.width = 4300, .height = 4300, .colour = 'g', .isProgressive = true});
+    const auto lastScan = large.begin() + std::ptrdiff_t(Segments(large, 0xDA, 0xDA).back().start);
+    const Bytes scan(lastScan, large.end() - 2);
+    large.resize(large.size() - 2);
+    for (int count = 0; count < 120; ++count)
+        large = std::move(large) + scan;
+    ExpectRefused(large + Bytes{0xFF, 0xD9}, "too many scans for its size");
 }
 
 TEST(Jpeg, CutAnywhereIsRefused) {

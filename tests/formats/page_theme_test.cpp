@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+
 #include "formats/theme_addresses.h"
 #include "formats/theme_mark.h"
 #include "platform/run_time_error.h"
@@ -135,6 +137,31 @@ TEST(ThemeOfPage, IsNotMisledByWhatIsNoMetaTag) {
     ExpectTheme("<meta name=\"Microsoft Theme\" content=\"a", "-");
     ExpectTheme("< meta", "-");
     ExpectTheme("<!--><style></styl</style>" + Meta("a 1"), "a");
+}
+
+// What a hostile web may hold. Time that grew with the square of the length would take minutes.
+TEST(PageTheme, EndlessAddressesCostNoMoreThanTheirLength) {
+    constexpr std::size_t kLength = 1'000'000;
+    const auto repeated = [](const std::string& part) {
+        std::string text;
+        while (text.size() < kLength)
+            text += part;
+        return text;
+    };
+    const auto start = std::chrono::steady_clock::now();
+    for (const char* const part : {"url(", "url( ", "url(\"../old/", "url(../_themes/old/x.gif"}) {
+        const std::string sheet = repeated(part);
+        EXPECT_EQ(WithOwnPictures(sheet, [](const auto&) { return true; }).size(), sheet.size())
+            << part;
+    }
+    for (const char* const part :
+         {"_themes/", "=_themes/old/", "'_themes/old/", "<!-- _themes/old/", "<a b='", "../",
+          "<style></", "_themes/old/a=", "&"}) {
+        const std::string page = repeated(part);
+        const auto rethemed = Rethemed(kMark + page);
+        EXPECT_LE(rethemed.value_or("").size(), page.size() + kMark.size()) << part;
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
 }
 
 }  // namespace

@@ -91,6 +91,10 @@ TEST_F(Save, RefusesWithTheDialogsOwnWordsAndChangesNothing) {
     expectRefusal("orrery --save-as ORRERY", 1, "This theme name is being used by another theme.");
     expectRefusal("orrery --save --export OUT", 2, "");
     expectRefusal("orrery --save --title T", 2, "title");
+    for (const char* const forgotten :
+         {"--save-as= --title T", "--save-as --title T", "--save-as ''",
+          "--save-as n --title=", "--export= --json", "--select= --save"})
+        expectRefusal(std::string("orrery ") + forgotten, 2, "");
     ExpectRefusal("recolor WEB/nowhere --theme orrery --save --dry-run", 1, "web/nowhere");
     ExpectRefusal("apply WEB --theme nonsense", 1, "nonsense");
     ExpectRefusal("apply WEB --theme ''", 2, "--theme");
