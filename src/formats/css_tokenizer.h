@@ -6,7 +6,7 @@
 
 namespace morpho {
 
-// The tokens that a reader of rules has to tell apart; the rest are kOther.
+// The tokens that matter to a reader of rules; the rest are kOther.
 enum class CssTokenType : unsigned char {
     kEnd,
     kWhitespace,

@@ -10,7 +10,8 @@
 namespace morpho {
 
 // The page with this theme in place of the one that it takes from the web: the name in its theme
-// tag and in those addresses of the old theme's folder that `moves` agrees to, and not a byte else.
+// tag and in those addresses of the old theme's folder for which `moves` returns true. All other
+// bytes stay.
 // Nothing when there is nothing to change: the page has no theme, a theme of its own, or this one.
 // `theme` is a folder name, UTF-8. Throws RunTimeError for a page in broken UTF-16.
 std::optional<std::string> PageWithTheme(std::string_view page, std::string_view theme,

@@ -16,7 +16,7 @@ struct PageTheme {
     bool ofWeb = false;
 };
 
-// Nothing when the page does not say. `page` may be its first part only.
+// Nothing for a page without the tag. `page` may be its first part only.
 std::optional<PageTheme> ThemeOfPage(std::string_view page);
 
 // The same with the place of NAME in the page.

@@ -31,7 +31,7 @@ ThemePackage ReadThemePackage(const CodePage& codePage, std::string_view bytes);
 // The package's file. The count line is written as it is, the lengths as they are now.
 std::string FormatThemePackage(const CodePage& codePage, const ThemePackage& package);
 
-// What a package says of its members, read without them.
+// The index of a package: what it says of its members.
 struct PackageIndex {
     std::string header;
     std::string countLine;

@@ -20,8 +20,8 @@ std::string DecodedPercents(std::string_view text);
 // A name for an address, all in ASCII; everything that could end the address is escaped.
 std::string EncodedPercents(std::string_view name);
 
-// A page in a form that has ASCII in it. UTF-16 pages, told by their byte order mark, are converted
-// for as long as they are worked on; all others stay as they are.
+// A page in a form that has ASCII in it. UTF-16 pages, told by their byte order mark, are
+// converted to UTF-8; all others stay as they are.
 class PageText {
   public:
     explicit PageText(std::string_view bytes);

@@ -83,8 +83,8 @@ class CheckBox : public Control {
     Handler click_;
 };
 
-// A still picture, fitted to nothing: it is shown at its own size from the top left corner unless
-// `stretch`.
+// A still picture, shown at its own size from the top left corner; with `stretch` it fills the
+// control.
 class PictureBox : public Control {
   public:
     PictureBox(Container& parent, const ControlSpec& spec, bool stretch = false)

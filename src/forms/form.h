@@ -31,9 +31,9 @@ struct FormSpec {
 
 // A window. Deriving classes declare their controls as members and override the Form_ events.
 //
-// A host or a toolkit may pass on what a person does within any call that a handler makes. So,
-// while a handler runs, the form and its controls refuse it; a form that the handler shows takes
-// it. Handlers that code raises nest as before.
+// A host or a toolkit may deliver a person's input within any call that a handler makes. While a
+// handler runs, the form and its controls therefore refuse input; a form that the handler shows
+// accepts it. Handlers that code raises nest as before.
 class Form : public Container {
   public:
     Form(Toolkit& toolkit, const FormSpec& spec);

@@ -14,7 +14,7 @@ class frmJPEGQF : public LoggedForm {
   public:
     explicit frmJPEGQF(const Program& program);
 
-    // The value that OK took, as decimal text; empty before.
+    // The value when OK was pressed, as decimal text; empty before.
     const std::string& ValueText() const { return valueText_; }
 
     Label Label1;

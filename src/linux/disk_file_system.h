@@ -7,8 +7,8 @@
 
 namespace morpho {
 
-// The files of this computer; "Z:\" is "/" (see disk_path.h). Of a link, what it leads to is read,
-// but writing replaces the link itself. Copies belong to the user: they are writable even where
+// The files of this computer; "Z:\" is "/" (see disk_path.h). Reads follow links; writing replaces
+// the link itself. Copies belong to the user: they are writable even where
 // their source is not.
 class DiskFileSystem : public FileSystem {
   public:

@@ -5,7 +5,7 @@
 
 namespace morpho {
 
-// An open folder of a Linux disk as the stand-in host wants it: everything goes through the open
+// An open folder of a Linux disk for the stand-in host. Everything goes through the open
 // descriptor. Names are converted by disk_path.h.
 class LinuxFolder : public Folder {
   public:

@@ -6,8 +6,7 @@
 namespace morpho {
 
 // Calls `work` with 0 to count - 1, several at a time and in no order: for work that mostly waits
-// for the disk. What a call throws is thrown on, the first of them, when all that had begun are
-// done.
+// for the disk. The first exception of a call is thrown on when all calls that had begun are done.
 void InParallel(std::size_t count, const std::function<void(std::size_t)>& work);
 
 }  // namespace morpho

@@ -6,8 +6,9 @@
 
 namespace morpho {
 
-// A folder that belongs to the user and to this run of the program alone, for work files. It is
-// held by a lock, so that what a dead program left is told apart and removed at the next start.
+// A folder that belongs to the user and to this run of the program alone, for work files. A lock
+// holds it as long as the program runs, so that the next start can find and remove the folders of
+// programs that were killed.
 class PrivateFolder {
   public:
     // Creates it in `root` (a path of the disk, created too), which must be a folder of the user's

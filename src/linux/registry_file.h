@@ -7,12 +7,12 @@
 namespace morpho {
 
 // The current user's settings, kept in a text file that regedit could import. Several programs may
-// use one file: each change is made, under a lock, on what the file holds by then, and replaces the
-// file as a whole. Where the file cannot be written, changes return an error code and are not made.
+// use one file: each change locks the file, reads it again, and replaces it as a whole. Where the
+// file cannot be written, changes return an error code and are not made.
 class RegistryFile : public MemoryRegistry {
   public:
-    // `diskPath` need not exist, nor its folder; where it is a link, what it leads to counts. A
-    // file that cannot be read has no values, and is not written either.
+    // `diskPath` need not exist, nor its folder; a link is followed. A file that cannot be read
+    // has no values, and is never written.
     RegistryFile(std::string diskPath, RegistryData machine);
 
   protected:

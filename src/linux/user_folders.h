@@ -13,8 +13,8 @@ struct UserFolders {
     std::string data;   // $XDG_DATA_HOME/morpho
 };
 
-// `variable` answers the environment; empty for what is not set. Throws RunTimeError when the home
-// folder is not known.
+// `variable` gives the value of an environment variable; empty when it is not set. Throws
+// RunTimeError when the home folder is not known.
 UserFolders FindUserFolders(const std::function<std::string(const char*)>& variable);
 
 // The environment of this process.

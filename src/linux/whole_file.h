@@ -24,7 +24,7 @@ class WholeFile : public NewFile {
     WholeFile& operator=(const WholeFile&) = delete;
 
     void Write(std::string_view bytes) override;
-    // Writes all that is left to read there; `source` is its path, for the error.
+    // Writes the rest of the open file; `source` is its path, for the error.
     void CopyFrom(const Descriptor& file, const std::string& source);
     void Commit() override;
 
@@ -45,8 +45,8 @@ class WholeFile : public NewFile {
 // Whether a file of this name was left by a program that died while it wrote.
 bool IsAbandonedTemporaryName(std::string_view name);
 
-// Whether a regular file, not a link to one, stands at this path and holds what there is to read in
-// the open `source`, which is at its beginning and is so again. `sourcePath` is for the error.
+// Whether a regular file, no link, stands at this path and holds the same bytes as the open
+// `source`. Reads `source` from its beginning and rewinds it. `sourcePath` is for the error.
 bool HoldsSameBytes(const std::string& diskPath, const Descriptor& source,
                     const std::string& sourcePath);
 

@@ -14,7 +14,8 @@ class Shell;
 class Toolkit;
 
 // Everything outside that the system may touch. Whoever starts the program builds it and owns the
-// parts; they outlive every window. Passed down by reference; there is no other way out.
+// parts; they outlive every window. It is passed down by reference, and nothing outside is reached
+// in another way.
 struct Platform {
     Registry& registry;
     FileSystem& files;

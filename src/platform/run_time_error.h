@@ -6,8 +6,8 @@
 
 namespace morpho {
 
-// Numbers of the run-time errors that the program raises or tells apart. They are the classic Basic
-// numbers, because the log and the start-up of the editors name them.
+// Numbers of the run-time errors that the program raises or distinguishes. They are the classic
+// Basic numbers, because the log and the start-up of the editors name them.
 enum class ErrorNumber : int {
     kInvalidCall = 5,
     kOverflow = 6,

@@ -6,9 +6,9 @@
 
 namespace morpho {
 
-// `morpho apply`. What there is to be told is in `warnings`, a sentence a line. Throws
-// RunTimeError; CommandError when the web would lose a theme of its own, or when no page takes the
-// theme then.
+// `morpho apply`. `warnings` gets what the user should know, a sentence a line. Throws
+// RunTimeError; throws CommandError when the web's different theme of this name would be
+// overwritten, or when no page uses the theme afterwards.
 void Apply(const ApplyRequest& request, std::string& warnings);
 
 }  // namespace morpho

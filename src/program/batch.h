@@ -20,7 +20,7 @@ class Batch {
     // Only one theme is made ready, or all where its name is empty. Throws RunTimeError when the
     // web cannot be opened.
     Batch(const std::filesystem::path& web, const std::string& onlyTheme);
-    // The same, and saving into these folders of the user is possible.
+    // The same for saving, with these folders of the user.
     Batch(const std::filesystem::path& web, const std::string& onlyTheme,
           const UserFolders& folders);
 
@@ -39,7 +39,7 @@ class Batch {
     void ApplyTheme(const std::string& name) { desktop_.FrontPage().ActiveWeb()->ApplyTheme(name); }
     // The theme whose interrupted save was completed when the web was opened; empty for none.
     const std::string& CompletedTheme() { return desktop_.FrontPage().Session()->CompletedTheme(); }
-    // Whether a page takes the theme that was last applied.
+    // Whether a page uses the theme that was applied last.
     bool IsThemeShown() { return desktop_.FrontPage().Session()->IsThemeShown(); }
     // What the host could not do with single pages or files, one sentence each.
     const std::vector<std::string>& Reports() {

@@ -14,8 +14,8 @@ struct SavedTheme {
     std::string title;
 };
 
-// A Theme Morpho window that a batch works in place of a person, through the same controls. What a
-// person could not do, and what the window answers with a message, is refused with CommandError.
+// A Theme Morpho window that a batch operates instead of a person, through the same controls.
+// Throws CommandError where a person could not do it, or would get a message.
 class BatchWindow {
   public:
     // `toolkit` is the program's own.

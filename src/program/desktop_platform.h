@@ -28,7 +28,7 @@ enum class DesktopUse {
 class DesktopPlatform {
   public:
     // The toolkit and the resources must outlive it. Throws RunTimeError when the private work
-    // folder cannot be had.
+    // folder cannot be created.
     DesktopPlatform(DesktopUse use, const UserFolders& folders, Toolkit& toolkit,
                     const Resources& resources);
 
@@ -42,8 +42,8 @@ class DesktopPlatform {
     void OpenForReading(const std::string& folder,
                         const std::optional<std::string>& onlyTheme = {});
     // Opens a web whose themes can be saved: its themes are installed for all users, in a folder of
-    // the program's data that belongs to this web, and the user has a folder for own themes. What
-    // cannot be installed is among the web's skipped; the web is open nevertheless.
+    // the program's data that belongs to this web, and the user has a folder for own themes. The
+    // web opens also when a theme cannot be installed; WebSession::Skipped tells which.
     void OpenForSaving(const std::string& folder, const std::optional<std::string>& onlyTheme = {});
     // The host; it has no web open yet.
     DiskApplication& FrontPage() { return frontPage_; }

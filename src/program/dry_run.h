@@ -10,11 +10,11 @@
 
 namespace morpho {
 
-// A rehearsal: a private copy of what a save reads and changes in a web and in the user's data, on
-// which a batch may do its work, so that what it would write is what it wrote there.
+// A rehearsal of a save on private copies of the files that it reads and changes, in the web and
+// in the user's data. What the save changes in the copies is what it would change.
 class DryRun {
   public:
-    // What may not be read is left out. Throws RunTimeError when the web cannot be opened or
+    // Files that cannot be read are left out. Throws RunTimeError when the web cannot be opened or
     // something cannot be copied.
     DryRun(const std::filesystem::path& web, const UserFolders& folders);
 

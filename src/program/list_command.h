@@ -6,8 +6,8 @@
 
 namespace morpho {
 
-// `morpho list`: the text for standard output. What could not be read is told in `warnings`, one
-// sentence a line, also before a refusal. Throws CommandError.
+// `morpho list`: the text for standard output. `warnings` gets what could not be read, a sentence
+// a line, also when it throws. Throws CommandError.
 std::string List(const ListRequest& request, std::string& warnings);
 
 }  // namespace morpho

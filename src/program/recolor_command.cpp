@@ -63,7 +63,7 @@ std::string Save(const RecolorRequest& request, const UserFolders& folders, std:
     // The same steps may be in it already; taken once more they would double.
     if (EqualIgnoringCase(batch.CompletedTheme(), request.theme))
         throw CommandError(CommandError::Status::kRefused,
-                           "That was all: look at the theme before you recolour it again.");
+                           "An interrupted save was completed; nothing else was done.");
     BatchWindow& window = TakeSteps(batch, request);
     warnings += Warnings(window.Window());
     DrawIfAsked(window, request);

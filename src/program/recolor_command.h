@@ -6,9 +6,9 @@
 
 namespace morpho {
 
-// `morpho recolor`: the text for standard output. Files that were left out and pictures that could
-// not be recoloured are told in `warnings`, one sentence a line, also before a refusal. Throws
-// CommandError, and has written nothing then.
+// `morpho recolor`: the text for standard output. `warnings` gets the files that were left out and
+// the pictures that could not be recoloured, a sentence a line, also when it throws. Throws
+// CommandError; then nothing was written.
 std::string Recolor(const RecolorRequest& request, std::string& warnings);
 
 }  // namespace morpho

@@ -74,8 +74,8 @@ struct TextRequest {
 
 using Request = std::variant<TextRequest, ThemeRequest, ListRequest, RecolorRequest, ApplyRequest>;
 
-// A command line that cannot be understood (status 2), or a world that refuses what it asks for
-// (status 1); one sentence, UTF-8.
+// A command line that cannot be understood (status 2), or a request that cannot be carried out
+// (status 1). The text is one sentence, UTF-8.
 class CommandError : public std::runtime_error {
   public:
     enum class Status { kRefused = 1, kWrongUsage = 2 };

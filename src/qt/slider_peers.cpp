@@ -55,7 +55,7 @@ void SliderPeer::Moved(int value) {
         Context().settling.Hold(this, [this] { return Settle(); });
 }
 
-// While a handler runs the slider settles later, at the last value that it took.
+// While a handler runs the slider settles later, at its last value.
 void SliderPeer::LetGo(int value) {
     if (!slider_.UserSettle(value)) Context().settling.Hold(this, [this] { return Settle(); });
 }

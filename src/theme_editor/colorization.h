@@ -24,7 +24,7 @@ class Colorization {
     // Seals the pending step and drops what could be redone.
     void Commit();
 
-    // Each takes one step away or puts it back, rebuilds the pictures that it changes and selects
+    // Each removes the top step or restores it, rebuilds the pictures that it changes and selects
     // their elements. Without such a step they do nothing.
     void Undo();
     void Redo();

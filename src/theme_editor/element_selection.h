@@ -39,7 +39,7 @@ class ElementSelection {
     ElementList& elements_;
     std::function<bool()> showNotice_;
     std::function<void()> changed_;
-    bool showDuplicateNotice_ = true;  // until the person has had enough of it in this window
+    bool showDuplicateNotice_ = true;  // until the person ticks "Don't show this message again"
 };
 
 }  // namespace morpho

@@ -44,7 +44,7 @@ ThemeInstallation::~ThemeInstallation() {
     const InstalledTheme installed = Installed(themesFolder_, name_);
     const std::string waiting = WaitingInf(themesFolder_, name_);
     try {
-        // A folder that could not be taken back needs it to be told apart from a theme.
+        // If the folder could not be removed, this file marks it as no theme.
         const bool needed = FolderExists(files, installed.folder) && !files.Find(installed.Inf());
         if (!needed && files.Find(waiting)) files.Delete(waiting);
     } catch (const RunTimeError&) {
