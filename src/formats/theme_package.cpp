@@ -41,18 +41,6 @@ void AddMember(const CodePage& codePage, std::string_view line, std::set<std::st
                                                             : line.substr(comma + 1));
 }
 
-std::string_view TakeMember(std::string_view& rest, const std::string& name,
-                            std::string_view lengthText) {
-    const auto length = NumberIn<std::uint64_t>(lengthText);
-    if (!rest.starts_with(kPackageMarker)) RefusePackage("has no mark before \"" + name + "\"");
-    rest.remove_prefix(kPackageMarker.size());
-    if (!length || *length > rest.size())
-        RefusePackage("gives a wrong length for \"" + name + "\"");
-    const std::string_view member = rest.substr(0, static_cast<std::size_t>(*length));
-    rest.remove_prefix(member.size());
-    return member;
-}
-
 }  // namespace
 
 void RefusePackage(const std::string& reason) {
@@ -79,18 +67,6 @@ std::uint64_t MemberLength(const PackageIndex& index, std::size_t member) {
     const auto length = NumberIn<std::uint64_t>(index.lengths[member]);
     if (!length) RefusePackage("gives a wrong length for \"" + index.names[member] + "\"");
     return *length;
-}
-
-ThemePackage ReadThemePackage(const CodePage& codePage, std::string_view bytes) {
-    const PackageIndex index = ReadPackageIndex(codePage, bytes);
-    ThemePackage package{index.header, index.countLine, {}};
-    std::string_view rest = index.contents;
-    for (std::size_t i = 0; i < index.names.size(); ++i) {
-        const std::string_view member = TakeMember(rest, index.names[i], index.lengths[i]);
-        package.members.push_back({index.names[i], std::string(member)});
-    }
-    if (!rest.empty()) RefusePackage("goes on behind its last member");
-    return package;
 }
 
 std::string FormatThemePackage(const CodePage& codePage, const ThemePackage& package) {

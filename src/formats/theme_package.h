@@ -23,11 +23,6 @@ struct ThemePackage {
     std::vector<Member> members;
 };
 
-// Reads a package as a whole. A package that contradicts itself, or that names a member by anything
-// but a plain file name or twice (also in another letter case), throws RunTimeError
-// (kInvalidFileFormat).
-ThemePackage ReadThemePackage(const CodePage& codePage, std::string_view bytes);
-
 // The package's file. The count line is written as it is, the lengths as they are now.
 std::string FormatThemePackage(const CodePage& codePage, const ThemePackage& package);
 
@@ -43,10 +38,12 @@ struct PackageIndex {
 // What stands before the bytes of each member.
 inline constexpr std::string_view kPackageMarker = "<==MS-Theme==>";
 
-// The index of the package in `bytes`, which must outlive it. Throws like ReadThemePackage, but
-// does not look at lengths and contents beyond the first marker.
+// The index of the package in `bytes`, which must outlive it. An index that contradicts itself, or
+// that names a member by anything but a plain file name or twice (also in another letter case),
+// throws RunTimeError (kInvalidFileFormat). Lengths are not looked at, nor contents beyond the
+// first marker.
 PackageIndex ReadPackageIndex(const CodePage& codePage, std::string_view bytes);
-// The length in bytes that the index gives the member; throws like ReadThemePackage.
+// The length in bytes that the index gives the member; throws for what is no number.
 std::uint64_t MemberLength(const PackageIndex& index, std::size_t member);
 
 // Throws the error for a package that cannot be trusted: "The theme package <reason>".

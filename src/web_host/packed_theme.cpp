@@ -24,7 +24,7 @@ bool IsPackable(const std::string& name) {
     const Windows1252CodePage codePage;
     try {
         const std::string bytes = FormatThemePackage(codePage, {"", "1", {{name, ""}}});
-        return ReadThemePackage(codePage, bytes).members.front().name == name;
+        return ReadPackageIndex(codePage, bytes).names.front() == name;
     } catch (const RunTimeError&) {
         return false;
     }

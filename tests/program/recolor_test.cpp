@@ -46,15 +46,6 @@ TEST_F(RecolorCommand, ChangesOnlyColourTablesOfTheSelectedPictures) {
     EXPECT_FALSE(home_.Has("data")) << "the user's settings are left alone";
 }
 
-TEST_F(RecolorCommand, UndoGivesBackEveryByte) {
-    const json report = Report(kTwoSteps + "--undo --undo --export OUT");
-    EXPECT_EQ(home_.FilesIn("out"), Theme("orrery"));
-    EXPECT_EQ(report["undo"], 0);
-    EXPECT_EQ(report["redo"], 2);
-    for (const json& element : report["elements"])
-        EXPECT_FALSE(element["recoloured"]) << element["key"];
-}
-
 TEST_F(RecolorCommand, UndoOfAStepThatWasNotAppliedLeavesTheAppliedOnes) {
     const std::string recolor = "recolor WEB --theme orrery --hue 10 --apply ";
     Report(recolor + "--hue 20 --undo --hue 30 --apply --export " + home_ / "undone");
@@ -71,21 +62,6 @@ TEST_F(RecolorCommand, AsksTheQualityThatWasGivenLast) {
     const auto usual = size("--hue 30", "usual");
     EXPECT_GT(size("--quality 95 --hue 30", "high"), usual);
     EXPECT_LT(size("--quality 10 --hue 30", "low"), usual);
-}
-
-TEST_F(RecolorCommand, ElementsThatShareAPictureAreSelectedTogether) {
-    const json elements =
-        Report("recolor WEB --theme almanac --select none,active/separator-image --export OUT")
-            ["elements"];
-    std::set<int> groups;
-    int selected = 0;
-    for (const json& element : elements) {
-        if (!element["selected"]) continue;
-        groups.insert(element["group"].get<int>());
-        ++selected;
-    }
-    EXPECT_EQ(groups.size(), 1u);
-    EXPECT_GT(selected, 1);
 }
 
 TEST_F(RecolorCommand, RefusesWithOneSentenceAndWritesNothing) {

@@ -121,19 +121,6 @@ TEST_F(ControlsOnScreen, AnArrowThatIsHeldRepeatsEvenIfItsHandlerMovesTheFocus) 
     });
 }
 
-TEST_F(ControlsOnScreen, ASliderOfOtherLimitsKeepsItsValue) {
-    int raised = 0;
-    const auto raise = [&] { ++raised; };
-    Form form(toolkit_, {"frmNarrow", "Narrow", {3000, 900}});
-    Slider slider(form, {"slider", {60, 60, 2800, 375}}, {10, 20, 15}, raise, raise);
-    OnScreen::Show(form, [&](QWidget& window) {
-        Pause();
-        EXPECT_EQ(Find<QSlider>(window, slider).value(), 15);
-    });
-    EXPECT_EQ(slider.Value(), 15);
-    EXPECT_EQ(raised, 0);
-}
-
 TEST_F(ControlsOnScreen, FocusComesBackAfterALongOperation) {
     Show([&](QWidget& window) {
         Find(window, form_.sldHue).setFocus();
@@ -185,29 +172,6 @@ TEST_F(ControlsOnScreen, TheTopEntryIsKnownToBothSides) {
         EXPECT_EQ(form_.lstNames.TopIndex(), top()) << "the list's end stops it";
         form_.lstNames.SetListIndex(0);
         EXPECT_EQ(form_.lstNames.TopIndex(), 0) << "the current entry is scrolled to";
-    });
-}
-
-TEST_F(ControlsOnScreen, EntriesFollowAddingAndClearing) {
-    Show([&](QWidget& window) {
-        auto& list = Find<QListWidget>(window, form_.lstPlain);
-        form_.lstPlain.AddItem("four & more");
-        EXPECT_EQ(list.item(3)->text(), "four & more");
-        form_.lstPlain.Clear();
-        form_.lstPlain.AddItem("new");
-        EXPECT_EQ(list.count(), 1);
-        EXPECT_EQ(list.item(0)->text(), "new");
-        EXPECT_EQ(form_.events, Events{});
-    });
-}
-
-TEST_F(ControlsOnScreen, ATimerRunsOnlyWhileItIsEnabled) {
-    Show([&](QWidget&) {
-        Pause();
-        EXPECT_EQ(form_.events, Events{});
-        form_.timer.SetEnabled(true);
-        Pause();
-        EXPECT_GE(form_.events.size(), 2u);
     });
 }
 

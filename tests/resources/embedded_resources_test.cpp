@@ -30,41 +30,6 @@ TEST(PreviewTemplate, KeepsItsSizeAndCrossesTheActiveHorizontalBarsHoveredAndPus
     EXPECT_LT(hoveredPicture, page.find("Bullets"));
 }
 
-TEST(ColorBand, Is397By7PixelsWithFullColourResolution) {
-    const std::string band = Bytes(kColorBandResource, kColorBand);
-    const size_t frame =
-        band.find("\xFF\xC0");  // baseline; length, precision, height, width, components
-    ASSERT_NE(frame, std::string::npos);
-    EXPECT_EQ(band.substr(frame + 4, 6), std::string("\x08\x00\x07\x01\x8D\x03", 6));
-    EXPECT_EQ(band[frame + 11], 0x11);
-    EXPECT_EQ(band[frame + 14], 0x11);
-}
-
-TEST(ToolbarFace, Is20By20PixelsOnTheFacesGrey) {
-    const std::string face = Bytes(kBitmapResource, kToolbarFace);
-    EXPECT_EQ(face.substr(0, 2), "BM");
-    EXPECT_EQ(face.substr(18, 8), std::string("\x14\0\0\0\x14\0\0\0", 8));
-    const auto corner = static_cast<unsigned char>(face.back());
-    EXPECT_EQ(face.substr(54 + 4 * corner, 3), "\xC0\xC0\xC0");
-}
-
-void ExpectPng(std::string_view type, int id, int width, int height) {
-    const std::string png = Bytes(type, id);
-    ASSERT_EQ(png.substr(0, 8), "\x89PNG\r\n\x1A\n") << type << ' ' << id;
-    EXPECT_EQ(static_cast<unsigned char>(png[19]), width) << type << ' ' << id;
-    EXPECT_EQ(static_cast<unsigned char>(png[23]), height % 256) << type << ' ' << id;
-}
-
-TEST(Icons, HaveTheSizesTheirNamesSay) {
-    ExpectPng(kIconResource, kApplicationIcon16, 16, 16);
-    ExpectPng(kIconResource, kApplicationIcon32, 32, 32);
-    ExpectPng(kIconResource, kApplicationIcon48, 48, 48);
-    ExpectPng(kIconResource, kApplicationIcon128, 128, 128);
-    for (int id : {kStopIconId, kQuestionIconId, kInformationIconId})
-        ExpectPng(kIconResource, id, 64, 64);
-    ExpectPng(kPictureResource, kAboutPicture, 192, 256);
-}
-
 TEST(Strings, AreTheQuickReferenceAndTheUnsavedThemePrompt) {
     EXPECT_EQ(EmbeddedResources().String(kUnsavedThemePrompt),
               "Theme \"%1\" modified.\nDo you wish to save the changes ?");

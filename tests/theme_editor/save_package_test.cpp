@@ -12,6 +12,7 @@ struct SavePackage : testing::Test {
     SavePackage() {
         world.files.PutFile("C:\\work\\a.gif", "picture a");
         world.files.PutFile("C:\\work\\b.gif", "");
+        world.files.PutFile("C:\\work\\caf\xC3\xA9,1.css", "sheet");
         world.files.PutFile("C:\\secret.txt", "secret");
     }
     // What the package of this file becomes, in the file `rebuilt`.
@@ -33,23 +34,14 @@ struct SavePackage : testing::Test {
         ExpectError([&] { Rebuilt(source, elm); }, why);
         EXPECT_EQ(world.files.Bytes(elm), source);
     }
-    void ExpectUnreadable(const std::string& bytes, const std::string& why) {
-        ExpectError([&] { ReadThemePackage(world.codePage, bytes); }, why);
-    }
 };
 
-TEST_F(SavePackage, WritesBackByteForByteWhatItReads) {
-    const std::string bytes =
-        Package({{"a.gif", std::string("\0\n<==MS-Theme==>\r\n", 18)}, {"caf\xE9,1.css", ""}});
-    const ThemePackage package = ReadThemePackage(world.codePage, bytes);
-    ASSERT_EQ(package.members.size(), 2U);
-    EXPECT_EQ(package.members[1].name, "caf\xC3\xA9,1.css");
-    EXPECT_EQ(FormatThemePackage(world.codePage, package), bytes);
-}
-
 TEST_F(SavePackage, TakesThePresentFilesOfTheSourcesListAndLeavesNoTail) {
-    EXPECT_EQ(Rebuilt(Package({{"b.gif", std::string(500, 'x')}, {"A.gif", "old"}}), elm),
-              Package({{"b.gif", ""}, {"A.gif", "picture a"}}));
+    EXPECT_EQ(
+        Rebuilt(
+            Package({{"b.gif", std::string(500, 'x')}, {"A.gif", "old"}, {"caf\xE9,1.css", "x"}}),
+            elm),
+        Package({{"b.gif", ""}, {"A.gif", "picture a"}, {"caf\xE9,1.css", "sheet"}}));
     EXPECT_EQ(Rebuilt("head\r\n 1 \r\na.gif\n<==MS-Theme==>whatever", "C:\\new.elm"),
               "head\r\n 1 \r\na.gif,9\n<==MS-Theme==>picture a");
 }
@@ -71,11 +63,6 @@ TEST_F(SavePackage, RefusesNumbersThatLie) {
         ExpectRefused("head\n" + std::string(count) + members, "how many");
     for (const std::string& bytes : {"head\n3" + members, std::string("head"), std::string()})
         ExpectRefused(bytes, "ends within its index");
-    for (const char* length : {",4", ",-1", ",18446744073709551617", ",", ",3x", ""})
-        ExpectUnreadable("head\n1\na.gif" + std::string(length) + "\n<==MS-Theme==>abc",
-                         "wrong length");
-    ExpectUnreadable("head\n1\na.gif,2\n<==MS-Theme==>abc", "goes on");
-    ExpectUnreadable("head\n2\na.gif,1\nb.gif,1\n<==MS-Theme==>a<==MS-Scheme==>b", "no mark");
 }
 
 }  // namespace
