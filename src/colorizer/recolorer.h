@@ -47,8 +47,8 @@ inline constexpr std::uint64_t kMaxPixels = std::uint64_t{1} << 27;
 /// time.
 inline constexpr std::size_t kMaxScans = 128;
 inline constexpr std::size_t kMaxSegments = 10'000;
-/// So are JPEG files whose scans code more blocks in all: a block of a scan costs time even where it
-/// takes no byte. The largest picture that is accepted needs 30 million blocks for the usual ten
+/// So are JPEG files whose scans code more blocks in all: a block of a scan costs time even where
+/// it takes no byte. The largest picture that is accepted needs 30 million blocks for the usual ten
 /// scans of a progressive file.
 inline constexpr std::uint64_t kMaxScanBlocks = std::uint64_t{1} << 25;
 
