@@ -60,7 +60,8 @@ CLI::Validator NumberFrom(int least, int most) {
 // value that was forgotten.
 CLI::Validator NotEmpty() {
     return {[](const std::string& text) {
-                return text.empty() || text.starts_with("--") ? "nothing is named" : "";
+                const bool isOption = text.starts_with("--") || text == "-h";
+                return text.empty() || isOption ? "nothing is named" : "";
             },
             ""};
 }
@@ -167,6 +168,7 @@ void AddOutcomes(CLI::App& command, Outcome& outcome) {
     outcomes->require_option(1);
     command.add_option("--title", outcome.title, "Title of the new theme; a free one if not given")
         ->type_name("TITLE")
+        ->check(NotEmpty())
         ->needs(newTheme);
     command.add_flag("--apply-to-web", outcome.applyToWeb, "Give the new theme to the web's pages")
         ->disable_flag_override()

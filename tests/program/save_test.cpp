@@ -93,7 +93,8 @@ TEST_F(Save, RefusesWithTheDialogsOwnWordsAndChangesNothing) {
     expectRefusal("orrery --save --title T", 2, "title");
     for (const char* const forgotten :
          {"--save-as= --title T", "--save-as --title T", "--save-as ''",
-          "--save-as n --title=", "--export= --json", "--select= --save"})
+          "--save-as n --title=", "--save-as n --title ''", "--save-as n --title --json",
+          "--export= --json", "--select= --save"})
         expectRefusal(std::string("orrery ") + forgotten, 2, "");
     ExpectRefusal("recolor WEB/nowhere --theme orrery --save --dry-run", 1, "web/nowhere");
     ExpectRefusal("apply WEB --theme nonsense", 1, "nonsense");
