@@ -16,6 +16,10 @@ constexpr std::string_view kEndOfName = " \t\r\n\f/>";
 constexpr std::array<std::string_view, 8> kTextElements = {
     "script", "style", "title", "textarea", "xmp", "iframe", "noembed", "noframes"};
 
+// Tags have some ten attributes. A page of nothing but attributes would otherwise take forty times
+// its size in memory.
+constexpr std::size_t kMaxAttributes = 1000;
+
 // Whether the rest of the page begins with the end tag of this element.
 bool EndsText(std::string_view rest, const std::string& name) {
     if (!StartsWithIgnoringAsciiCase(rest, "</" + name)) return false;
@@ -96,7 +100,7 @@ void HtmlTagReader::ReadAttributes(HtmlTag& tag) {
             ++position_;
             ReadValue(attribute);
         }
-        tag.attributes.push_back(std::move(attribute));
+        if (tag.attributes.size() < kMaxAttributes) tag.attributes.push_back(std::move(attribute));
     }
 }
 

@@ -16,10 +16,10 @@ struct HtmlAttribute {
 
 // A tag of an HTML page with its place in it.
 struct HtmlTag {
-    std::string name;  // lower case; an end tag's begins with "/"
-    std::vector<HtmlAttribute> attributes;
-    std::size_t begin = 0;  // of its "<"
-    std::size_t end = 0;    // behind its ">"
+    std::string name;                       // lower case; an end tag's begins with "/"
+    std::vector<HtmlAttribute> attributes;  // at most the first thousand
+    std::size_t begin = 0;                  // of its "<"
+    std::size_t end = 0;                    // behind its ">"
     std::string_view text;  // content of a style, script or other element that holds only text
 
     // The first attribute of this name; null when the tag does not have it.
