@@ -1,7 +1,6 @@
 #include "formats/theme_addresses.h"
 
 #include <algorithm>
-#include <optional>
 
 #include "formats/html_tags.h"
 #include "formats/web_text.h"
@@ -73,6 +72,7 @@ class AddressFinder {
         for (std::size_t hit = region.find(kThemes, begin); hit != region.npos;
              hit = region.find(kThemes, hit + kThemes.size()))
             Take(begin, hit, end);
+        ReadFileOfLast(end);
     }
 
     void Take(std::size_t begin, std::size_t hit, std::size_t end) {
@@ -86,10 +86,10 @@ class AddressFinder {
         const std::string_view rest = page_.substr(address.nameBegin, end - address.nameBegin);
         address.nameLength = rest.substr(0, kMaxName).find_first_of(kSeparators);
         if (address.nameLength == rest.npos) return;
-        const auto file = FileIn(rest.substr(address.nameLength + 1), before);
-        if (!file) return;
         address.theme = DecodedName(rest.substr(0, address.nameLength));
-        address.file = DecodedName(*file);
+        if (start > begin) ReadFileOfLast(start - 1);
+        fileBegin_ = address.nameBegin + address.nameLength + 1;
+        quote_ = before;
         found_.push_back(std::move(address));
     }
 
@@ -105,21 +105,24 @@ class AddressFinder {
         return kSeparators.find(page_[position]) != kSeparators.npos;
     }
 
-    // The file's name as it stands in the page, which may hold blanks where the address stands in
-    // quotes. Nothing for one that is longer than a name can be.
-    static std::optional<std::string_view> FileIn(std::string_view rest, char quote) {
-        const bool quoted = quote == '"' || quote == '\'';
+    // The file's name of the address found last, which may hold blanks where the address stands in
+    // quotes. It ends before the next address, so that no part of a page is in two names: a page
+    // of nothing but addresses would otherwise take a hundred times its size in memory.
+    void ReadFileOfLast(std::size_t end) {
+        if (fileBegin_ == 0) return;
+        const bool quoted = quote_ == '"' || quote_ == '\'';
         std::string ends = "?#<>)\r\n";
-        ends += quoted ? std::string(1, quote) : std::string(" \t\"'");
-        const std::string_view nearby = rest.substr(0, kMaxName);
-        const std::size_t end = nearby.find_first_of(ends);
-        if (end == nearby.npos && nearby.size() < rest.size()) return {};
-        return nearby.substr(0, end);
+        ends += quoted ? std::string(1, quote_) : std::string(" \t\"'");
+        const std::string_view rest = page_.substr(fileBegin_, end - std::min(end, fileBegin_));
+        found_.back().file = DecodedName(rest.substr(0, rest.find_first_of(ends)));
+        fileBegin_ = 0;
     }
 
     std::string_view page_;
     std::string lower_;
     std::vector<ThemeAddress> found_;
+    std::size_t fileBegin_ = 0;  // where the file of the last one begins; 0 when it was read
+    char quote_ = ' ';           // what stands before the last one
 };
 
 // Whether the folder part of an address, with its "/" at the end, is another theme's folder as

@@ -161,6 +161,13 @@ TEST(PageTheme, EndlessAddressesCostNoMoreThanTheirLength) {
         const auto rethemed = Rethemed(kMark + page);
         EXPECT_LE(rethemed.value_or("").size(), page.size() + kMark.size()) << part;
     }
+    std::string dense;  // names of 1000 bytes, in which the next addresses stand
+    while (dense.size() < 1000)
+        dense += ",_themes/o/";
+    std::size_t read = 0;
+    for (const ThemeAddress& address : ThemeAddresses("<style>" + repeated(dense + "?")))
+        read += address.file.size();
+    EXPECT_LE(read, kLength) << "no part of a page is in two names";
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
 }
 
