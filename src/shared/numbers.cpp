@@ -27,7 +27,7 @@ double StrictNumber(std::string_view text) {
     double value = 0;
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, value);
-    // from_chars would also take a word, such as "inf".
+    // from_chars would also accept a word, such as "inf".
     const bool isWord = text.find_first_not_of("+-.0123456789eE") != std::string_view::npos;
     if (error == std::errc::invalid_argument || stop != end || isWord)
         throw RunTimeError(ErrorNumber::kTypeMismatch, "Type mismatch");
@@ -46,7 +46,7 @@ double Val(std::string_view text) {
         if (c != ' ' && c != '\t' && c != '\r' && c != '\n') number += c;
     }
     if (number.starts_with('+')) number.erase(0, 1);
-    // from_chars would also take a word, such as "inf".
+    // from_chars would also accept a word, such as "inf".
     if (number.find_first_of("0123456789") != number.find_first_not_of("-.")) return 0;
     double value = 0;
     std::from_chars(number.data(), number.data() + number.size(), value);

@@ -38,6 +38,11 @@ class PageUpdate {
     const std::vector<std::string>& BrokenAddresses() const { return broken_; }
 
   private:
+    struct WebPage {
+        const std::shared_ptr<Folder>& folder;
+        const std::string& name;  // of its file
+        std::string url;          // relative to the web, "gallery/index.htm"
+    };
     struct Change {
         std::shared_ptr<Folder> folder;
         std::string name;

@@ -63,18 +63,4 @@ void VisitPageFolders(
     }
 }
 
-void VisitPages(const WebFiles& web, const std::function<void(const WebPage&)>& visit,
-                const std::function<void(const std::string&)>& report) {
-    VisitPageFolders(
-        web,
-        [&](const std::shared_ptr<Folder>& folder, const std::string& url,
-            const std::vector<FolderEntry>& entries) {
-            for (const FolderEntry& entry : entries) {
-                if (entry.kind == EntryKind::kFile && IsPageName(entry.name))
-                    visit({folder, entry.name, url + entry.name});
-            }
-        },
-        report);
-}
-
 }  // namespace morpho

@@ -12,20 +12,10 @@ namespace morpho {
 // Whether a file of this name is a page.
 bool IsPageName(std::string_view name);
 
-// A page of a web.
-struct WebPage {
-    const std::shared_ptr<Folder>& folder;
-    const std::string& name;  // of its file
-    std::string url;          // relative to the web, "gallery/index.htm"
-};
-
-// Calls `visit` with each page of the web, in all its folders but those of the host ("_themes",
-// "_vti_..."), hidden ones and other webs. Links are not followed. `report` gets the reason of a
-// folder that cannot be read; the walk goes on.
-void VisitPages(const WebFiles& web, const std::function<void(const WebPage&)>& visit,
-                const std::function<void(const std::string&)>& report);
-
-// Calls `visit` with each folder that VisitPages looks into.
+// Calls `visit` with each folder of the web that may hold pages, its address relative to the web
+// ("gallery/" or empty) and its entries: all folders but those of the host ("_themes", "_vti_..."),
+// hidden ones and other webs. Links are not followed. `report` gets the reason of a folder that
+// cannot be read; the walk goes on.
 void VisitPageFolders(
     const WebFiles& web,
     const std::function<void(const std::shared_ptr<Folder>& folder, const std::string& url,
