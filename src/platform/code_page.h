@@ -11,8 +11,8 @@ class CodePage {
   public:
     virtual ~CodePage() = default;
 
-    // The bytes as UTF-8. Every byte becomes something. On a page of single bytes, ToBytes gives
-    // the same bytes back.
+    // The bytes as UTF-8. No byte is refused or dropped. With a single-byte code page, ToBytes
+    // restores the same bytes.
     virtual std::string ToText(std::string_view bytes) const = 0;
     // UTF-8 as bytes. A character that the code page lacks becomes what `missing` returns for it,
     // or "?".

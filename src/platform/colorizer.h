@@ -32,7 +32,7 @@ class Colorizer {
 class ColorizerFactory {
   public:
     virtual ~ColorizerFactory() = default;
-    // Throws kCannotCreateComponent when the component is not there.
+    // Throws kCannotCreateComponent when the component is missing.
     virtual std::unique_ptr<Colorizer> Create() = 0;
 };
 

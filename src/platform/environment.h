@@ -15,7 +15,7 @@ struct OsVersion {
     std::uint32_t minor = 0;
     std::uint32_t build = 0;
     std::string servicePack = {};  // may be empty
-    std::string description = {};  // one line for the log, of a system that is none of these two
+    std::string description = {};  // for the log, when the platform is another; one line
 };
 
 // This component's own version, as built.
@@ -27,12 +27,13 @@ struct ComponentVersion {
     std::string comments;  // may be empty
 };
 
-// What surrounds the process.
+// The surroundings of the process: variables, versions, system messages.
 class Environment {
   public:
     virtual ~Environment() = default;
 
-    // The value of an environment variable as a Windows text; empty when it is not set.
+    // The value of an environment variable, UTF-8; empty when it is not set. TMP and TEMP are
+    // Windows paths.
     virtual std::string Variable(std::string_view name) const = 0;
     virtual OsVersion Os() const = 0;
     virtual ComponentVersion Version() const = 0;

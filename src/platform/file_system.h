@@ -25,13 +25,13 @@ struct FileEntry {
 };
 
 // Files and folders by Windows path ("C:\a\b", UTF-8, a doubled or trailing "\" is accepted).
-// Existing entries are found without regard to letter case; new ones get the spelling given.
-// What fails throws RunTimeError with one of the file errors; nothing is ever left half written.
+// Existing entries are found without regard to letter case; new ones get the spelling given. A call
+// that fails throws RunTimeError with the number of a file error and leaves no file half written.
 class FileSystem {
   public:
     virtual ~FileSystem() = default;
 
-    // Nothing when there is no such entry, or when it cannot be looked at.
+    // Nothing when there is no such entry or it cannot be read.
     virtual std::optional<FileEntry> Find(std::string_view path) const = 0;
     // The folder's entries without "." and "..", sorted by name; kPathNotFound when there is no
     // such folder.
@@ -48,7 +48,7 @@ class FileSystem {
     virtual void Move(std::string_view source, std::string_view destination) = 0;
     virtual void Delete(std::string_view path) = 0;
 
-    // The parent must exist. kFileExists when something stands there already.
+    // The parent must exist. Throws kFileExists when the path exists.
     virtual void CreateFolder(std::string_view path) = 0;
     // Copies the folder's regular files and subfolders into `destination`, which is created when
     // missing; files there of the same name are overwritten. Links are not followed and not copied.

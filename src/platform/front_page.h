@@ -7,9 +7,9 @@
 
 namespace morpho {
 
-// The host's automation objects, named after its own, with the members that the editors use.
-// Objects are handed out as views that the caller owns; the host owns what they show. Texts are
-// UTF-8, collections are zero-based. An index out of range and a call that the host refuses throw
+// The host's automation objects, named after its own, with the members that the editors use. The
+// objects are views: the caller owns the view, the host owns what it shows. Texts are UTF-8,
+// collections are zero-based. An index out of range and a call that the host refuses throw
 // RunTimeError (kAutomation).
 
 // One rule of a style sheet.
@@ -17,8 +17,8 @@ class StyleRule {
   public:
     virtual ~StyleRule() = default;
     virtual std::string SelectorText() const = 0;
-    // The declared value of a property, also of one that CSS does not know; compared without regard
-    // to case. Nothing when the rule does not declare it.
+    // The declared value of a property, also of one that is unknown to CSS; names compare without
+    // regard to case. Nothing when the rule does not declare it.
     virtual std::optional<std::string> Attribute(std::string_view name) const = 0;
 };
 
@@ -80,12 +80,12 @@ class WebFolder {
     virtual std::string Url() const = 0;  // absolute
     // The folder of this name directly in this one; null when there is none.
     virtual std::unique_ptr<WebFolder> FindFolder(std::string_view name) = 0;
-    // Creates a folder in this one and returns it; a name that is taken is refused.
+    // Creates a folder in this one and returns it; throws when the name exists.
     virtual std::unique_ptr<WebFolder> AddFolder(std::string_view name) = 0;
-    // Imports a file of the disk under its own name. With `overwrite` a file of that name is
-    // replaced as a whole, without it the call is refused.
+    // Imports a file of the disk under its own name. With `overwrite` it replaces a file of that
+    // name as a whole; without it such a file makes the call throw.
     virtual void AddFile(std::string_view localPath, bool overwrite) = 0;
-    // Deletes the folder with all contents; of this object nothing may be asked afterwards.
+    // Deletes the folder with all contents. The object must not be used afterwards.
     virtual void Delete() = 0;
 };
 
@@ -101,29 +101,29 @@ class Web {
     // The web's absolute address.
     virtual std::string Url() const = 0;
     virtual std::unique_ptr<WebFolder> RootFolder() = 0;
-    // The folder at an address relative to the web, such as "_themes/blends"; null when the web
-    // has, or shows, no such folder.
+    // The folder at an address relative to the web, such as "_themes/blends"; null when the folder
+    // does not exist or is hidden.
     virtual std::unique_ptr<WebFolder> LocateFolder(std::string_view url) = 0;
     // A meta-property of the web, such as "vti_showhiddenpages", as text; keys are in lower case.
     // Nothing when it is not set.
     virtual std::optional<std::string> Property(std::string_view key) const = 0;
-    // Gives the web, with all pages that take its theme, this theme; `themeName` is a folder name,
-    // not a label.
+    // Gives the web, and all pages that follow the web's theme, this theme; `themeName` is a folder
+    // name, not a label.
     virtual void ApplyTheme(std::string_view themeName) = 0;
     // Reads the web's folders and files again.
     virtual void Refresh() = 0;
     virtual void RecalcHyperlinks() = 0;
 };
 
-// A save of a theme as one change of the web and of the user's own themes: what is done to them
-// from its beginning on holds with Commit, or not at all. Refresh and RecalcHyperlinks wait for
-// Commit.
+// One save of a theme as a transaction over the web and the user's own themes. Commit keeps all
+// changes made since BeginSave; without it all are rolled back. Refresh and RecalcHyperlinks are
+// deferred until Commit.
 class SaveTransaction {
   public:
-    // Rolls everything back unless it was committed.
+    // Rolls back all changes unless they were committed.
     virtual ~SaveTransaction() = default;
-    // Throws RunTimeError when the changes cannot be made; they are rolled back then. What happens
-    // to single pages after that is no failure of the save.
+    // Throws RunTimeError when the changes cannot be made, and rolls them back. An error in a
+    // single page after that does not fail the save.
     virtual void Commit() = 0;
 };
 

@@ -7,7 +7,7 @@
 
 namespace morpho {
 
-// What is compiled into the program beside its code.
+// The data compiled into the program: pictures, the preview template, the string table.
 class Resources {
   public:
     virtual ~Resources() = default;
@@ -15,7 +15,7 @@ class Resources {
     // The bytes of the resource of this type and id; empty when there is none. They live as long as
     // the program.
     virtual std::span<const std::byte> Data(std::string_view type, int id) const = 0;
-    // The same as a text of bytes.
+    // The same bytes as a string.
     std::string Bytes(std::string_view type, int id) const {
         const auto data = Data(type, id);
         return {reinterpret_cast<const char*>(data.data()), data.size()};

@@ -7,7 +7,7 @@
 namespace morpho {
 
 // Numbers of the run-time errors that the program raises or distinguishes. They are the classic
-// Basic numbers, because the log and the start-up of the editors name them.
+// Basic numbers, because the log shows them and the editors compare with them at start-up.
 enum class ErrorNumber : int {
     kInvalidCall = 5,
     kOverflow = 6,
@@ -28,8 +28,7 @@ enum class ErrorNumber : int {
     kInvalidPicture = 481,
 };
 
-// What every operation of the platform throws when it fails. The text is one sentence for a person,
-// UTF-8.
+// The exception of every operation of the platform. The text is one sentence for a person, UTF-8.
 class RunTimeError : public std::runtime_error {
   public:
     RunTimeError(ErrorNumber number, const std::string& text)
@@ -41,7 +40,7 @@ class RunTimeError : public std::runtime_error {
     ErrorNumber number_;
 };
 
-// Any error as one of ours: what the standard library throws has a number and a text too.
+// Any exception as a RunTimeError; those of the standard library get a number too.
 inline RunTimeError AsRunTimeError(const std::exception& error) {
     if (const auto* own = dynamic_cast<const RunTimeError*>(&error)) return *own;
     if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr)

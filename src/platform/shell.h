@@ -15,7 +15,7 @@ class Shell {
     // Runs `verb` ("open") on a document or an address. Values above 32 mean success.
     virtual int Open(std::string_view verb, std::string_view file, std::string_view parameters,
                      int showCommand) = 0;
-    // One line to whoever debugs the program, without a line end.
+    // Writes one line to the debugger output; `line` has no line end.
     virtual void DebugOutput(std::string_view line) = 0;
 };
 
