@@ -6,7 +6,7 @@
 
 namespace morpho {
 
-// The 64-bit FNV-1a hash of the bytes. It tells texts apart that nobody has made alike on purpose.
+// The 64-bit FNV-1a hash of the bytes. Not safe against collisions made on purpose.
 std::uint64_t Fnv1a(std::string_view bytes);
 
 // Length and hash of a file's bytes in one word, "5-cbf29ce484222325".

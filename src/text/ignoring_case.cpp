@@ -10,8 +10,7 @@ namespace morpho {
 
 namespace {
 
-// Characters from first to last, each `step` behind the one before, and what makes them their
-// folded form.
+// The characters first, first + step and so on to last. Adding `added` to one folds it.
 struct FoldingRun {
     char32_t first;
     char32_t last;
@@ -40,8 +39,8 @@ char32_t FoldedCharacter(char32_t character) {
     return isInRun ? character + static_cast<char32_t>(run->added) : character;
 }
 
-// The folded character at the position, which moves behind it. A byte that is not UTF-8 gives a
-// number that no character has.
+// Reads the character at `position`, moves behind it and returns it folded. A byte that is not
+// UTF-8 becomes a number above all characters, so that it equals only the same byte.
 char32_t NextFolded(std::string_view text, std::size_t& position) {
     constexpr char32_t kNoCharacter = 0x110000;
     const char byte = text[position];

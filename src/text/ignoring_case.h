@@ -6,15 +6,16 @@
 namespace morpho {
 
 // Names of files, themes and keys: Unicode's simple case folding, as the system's file names and
-// registry keys compare. Bytes that are not UTF-8 count as they are.
+// registry keys compare. Bytes that are not UTF-8 compare as they are.
 
-// The key that names which differ only in case share. It may have another length than the name.
+// A key that is the same for all names that differ only in case. Its length may differ from the
+// name's.
 std::string Folded(std::string_view name);
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
 
 // Markup, style sheets and other words of a fixed alphabet: only ASCII letters have a case.
 
-// The text with these letters in lower case. Every position stays what it was.
+// The text with these letters in lower case. Byte positions do not change.
 std::string AsciiLowered(std::string_view text);
 bool EqualIgnoringAsciiCase(std::string_view a, std::string_view b);
 bool StartsWithIgnoringAsciiCase(std::string_view text, std::string_view start);

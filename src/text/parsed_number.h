@@ -7,8 +7,8 @@
 
 namespace morpho {
 
-// The whole number that the text is, in digits of the base and with "-" before a negative one;
-// nothing when there is anything else in the text or the type cannot hold the number.
+// Reads the whole text as an integer in this base, with "-" before a negative one. Nothing when the
+// text contains anything else or the number does not fit the type.
 template <typename Number>
 std::optional<Number> ParsedNumber(std::string_view text, int base = 10) {
     Number number = 0;

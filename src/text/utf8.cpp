@@ -29,7 +29,8 @@ void AppendUnit(std::string& bytes, char32_t unit) {
     bytes += static_cast<char>(unit >> 8);
 }
 
-// How many bytes follow this first one, and the bits it carries; 0 for ASCII, -1 for no first byte.
+// The number of bytes that follow this lead byte, and the bits it carries; -1 when it is not a lead
+// byte. 0xC0 and 0xC1 would be overlong, 0xF5 and up lie beyond Unicode.
 int FollowingBytes(unsigned char lead, char32_t& bits) {
     if (lead < 0x80) return bits = lead, 0;
     if (lead >= 0xC2 && lead <= 0xDF) return bits = lead & 0x1FU, 1;

@@ -9,8 +9,8 @@ namespace morpho {
 
 inline constexpr char32_t kReplacementCharacter = 0xFFFD;
 
-// Reads the character at `position`, which lies inside the text, and moves behind it. Nothing when
-// no valid UTF-8 starts there; then one byte is passed.
+// Reads the character at `position`, which lies inside the text, and moves behind it. When no valid
+// UTF-8 starts there, returns nothing and moves by one byte.
 std::optional<char32_t> NextCharacter(std::string_view text, std::size_t& position);
 
 // Appends the character; one that is no Unicode scalar value becomes the replacement character.
