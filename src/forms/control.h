@@ -17,18 +17,18 @@ class Form;
 
 using Handler = std::function<void()>;
 
-// What holds controls: a form or a frame.
+// A container of controls: a form or a frame.
 class Container {
   public:
     virtual ~Container() = default;
     Container(const Container&) = delete;
     Container& operator=(const Container&) = delete;
 
-    // The direct children in order of declaration. This is the tab order, and of two controls that
-    // overlap the one declared later stands above.
+    // The direct children in order of declaration. This is also the tab order. Where two controls
+    // overlap, the one declared later is on top.
     const std::vector<Control*>& Controls() const { return controls_; }
     virtual Form& OwnerForm() = 0;
-    // Whether a person can work with what is inside.
+    // Whether the user can operate the controls inside.
     virtual bool IsOperable() const = 0;
 
   protected:
@@ -39,7 +39,7 @@ class Container {
     std::vector<Control*> controls_;
 };
 
-// How a control is declared. Texts are UTF-8; `place` is in twips within the container.
+// The declaration of a control. Texts are UTF-8; `place` is in twips within the container.
 struct ControlSpec {
     std::string_view name;
     Rectangle place;
@@ -69,13 +69,13 @@ class Control {
     void SetWidth(int twips);
     void SetHeight(int twips);
 
-    // As it is read, without marks.
+    // The caption without its access key mark.
     const std::string& Caption() const { return caption_.text; }
-    // Takes the text as it is, "&" and all: the control has no access key from now on.
+    // Sets the text literally: "&" is an ordinary character, and the control loses its access key.
     void SetCaption(std::string_view caption);
     // Byte index of the access key in the caption; npos: none.
     std::size_t AccessKeyAt() const { return caption_.keyAt; }
-    // The access key as it stands in the caption; 0: none.
+    // The letter of the access key, spelled as in the caption; 0: none.
     char AccessKey() const;
     const std::string& ToolTip() const { return toolTip_; }
     void SetToolTip(std::string_view toolTip);
@@ -89,8 +89,7 @@ class Control {
     void SetVisible(bool visible);
     // Enabled and visible, and so is everything around it.
     bool IsOperable() const;
-    // Whether what a person does comes in: the control is operable, and no handler of its form
-    // runs.
+    // Whether user input is accepted: the control is operable, and no handler of its form runs.
     bool IsOpenToUser() const;
 
     // Paints the control now.
@@ -99,14 +98,15 @@ class Control {
     virtual bool TakesFocus() const { return true; }
     void SetFocus();
 
-    // Connects the mirror, which is given the whole state at once; null disconnects. The caller
-    // owns it.
+    // Connects the peer, which immediately shows the whole state; null disconnects. The caller owns
+    // the peer.
     void Attach(Peer* peer);
     virtual void Accept(ControlVisitor& visitor) = 0;
 
   protected:
     void Changed(Aspects changed);
-    // Runs an event handler under the form's error trap; the log knows it as `<control>_<event>`.
+    // Runs an event handler under the form's error trap; its name in the log is
+    // `<control>_<event>`.
     void Raise(std::string_view event, const std::function<void()>& handler);
 
   private:

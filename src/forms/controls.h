@@ -28,8 +28,8 @@ class Label : public Control {
     Alignment TextAlignment() const { return alignment_; }
     bool IsLink() const { return click_ != nullptr; }
     bool TakesFocus() const override { return IsLink(); }
-    // Where the access key leads: the next control of the same container that takes the focus.
-    // Null: there is none, or the label has no such key, or is a link.
+    // The control that the access key leads to: the next one of the same container that can have
+    // the focus. Null when there is none, when the label has no access key, and for a link.
     Control* Buddy() const;
     bool UserClick();
     void Accept(ControlVisitor& visitor) override;
@@ -39,12 +39,8 @@ class Label : public Control {
     Handler click_;
 };
 
-enum class ButtonRole {
-    kNone,
-    kDefault,
-    kCancel,
-    kDefaultAndCancel
-};  // pressed by Enter, by Escape, by both
+// The keys that press a button: Enter (default), Escape (cancel) or both.
+enum class ButtonRole { kNone, kDefault, kCancel, kDefaultAndCancel };
 
 class CommandButton : public Control {
   public:
@@ -56,7 +52,7 @@ class CommandButton : public Control {
     bool IsDefault() const;
     bool IsCancel() const;
     const Shortcut& ShortcutKey() const { return shortcut_; }
-    // With the shortcut behind it.
+    // The tool tip, followed by the shortcut in parentheses.
     std::string ShownToolTip() const override;
     bool UserClick();
     void Accept(ControlVisitor& visitor) override;
@@ -113,13 +109,12 @@ class WebBrowser : public Control {
   public:
     using Control::Control;
 
-    // Shows the page at this Windows path, a plain path: a toolkit that needs an address escapes
-    // "%",
-    // "#" and the like.
+    // Shows the page at this Windows path. A toolkit that needs an address escapes "%", "#" and the
+    // like in it.
     void Navigate(std::string_view path, int flags);
     // Shows the current page again; with Refresh2(kRefreshCompletely) every picture of it is read
-    // again too. Before the page stands this counts as navigating to it once more; without a page
-    // it does nothing.
+    // again too. While the page still loads, this navigates to it again; without a page it does
+    // nothing.
     void RefreshPage();
     void Refresh2(int level);
 
@@ -142,7 +137,7 @@ class Timer : public Control {
 
     bool TakesFocus() const override { return false; }
     int Interval() const { return interval_; }
-    // Does nothing while a handler runs: the next tick comes.
+    // Does nothing while a handler runs; the next tick follows.
     bool Tick();
     void Accept(ControlVisitor& visitor) override;
 

@@ -7,11 +7,12 @@
 
 namespace morpho {
 
-// The entries that a list's widget has, for its peer.
+// The entries that a list's widget shows. Its peer compares them with the model and adds only what
+// is new.
 class EntriesMirror {
   public:
-    // Brings the widget to the model's entries: `add` appends one, `clear` removes all. A list
-    // grows at its end or is cleared, so what is there already is left alone.
+    // Makes the widget show the model's entries: `add` appends one, `clear` removes all. A list
+    // only grows at its end or is cleared, so entries already shown can stay.
     template <typename Add, typename ClearAll>
     void Write(const ListControl& model, Add add, ClearAll clear) {
         if (!StartsLike(model)) {

@@ -129,7 +129,8 @@ void Form::Painted() {
     RunHandler("Form_Paint", [this] { Form_Paint(); });
 }
 
-// Counts a handler as long as it runs, its error's handling included.
+// Counts a handler while it runs, including the handling of its error. The focus that a handler
+// takes from a control is forgotten when the outermost handler ends.
 class Form::HandlerCount {
   public:
     explicit HandlerCount(Form& form) : form_(form) { ++form_.handlers_; }

@@ -13,8 +13,8 @@ namespace morpho {
 enum class WindowState { kNormal = 0, kMinimized = 1, kMaximized = 2 };
 enum class MousePointer { kDefault = 0, kHourglass = 11 };
 enum class BorderStyle { kSizable, kFixedDialog };
-// Where the window is first seen: in the middle of the window that it stands on (the screen, where
-// there is none), or of the screen. Form_Load may choose another place.
+// Where the window first appears: in the middle of its owner (of the screen when it has none), or
+// of the screen. Form_Load may choose another place.
 enum class StartPosition { kCenterOwner, kCenterScreen };
 
 struct FormSpec {
@@ -52,10 +52,10 @@ class Form : public Container {
     const Rectangle& Bounds() const { return bounds_; }
     void SetBounds(const Rectangle& bounds);
     Size Inner() const { return {bounds_.width - chrome_.width, bounds_.height - chrome_.height}; }
-    // How much larger the outer size is than the inner one, for a toolkit that knows it before
-    // Form_Load. Keeps the inner size; quiet.
+    // Sets how much larger the outer size is than the inner one; for a toolkit that knows it before
+    // Form_Load. Keeps the inner size and raises no event.
     void SetChrome(Size chrome);
-    // Moves the window before Form_Load; quiet.
+    // Moves the window before Form_Load; raises no event.
     void SetPosition(int left, int top);
     WindowState State() const { return state_; }
     void SetState(WindowState state);
@@ -67,33 +67,32 @@ class Form : public Container {
     void Load();
     // Loads the form if need be and returns when it has been hidden or unloaded.
     void ShowModal() { ShowModalOn(toolkit_); }
-    // The same on another toolkit than its own: a batch's form drawn as its window would be.
+    // The same on another toolkit than the form's own: a batch can draw its form as a real window.
     void ShowModalOn(Toolkit& toolkit);
     // Makes ShowModal return and keeps the form loaded.
     void Hide();
-    // Asks Form_QueryUnload; unless that refuses, ShowModal returns and the form is no longer
-    // loaded.
+    // Asks Form_QueryUnload. Unless that refuses, the form is unloaded and ShowModal returns.
     void Unload();
     bool IsLoaded() const { return loaded_; }
     bool IsVisible() const { return visible_; }
 
-    // What a window system, a test or a batch reports. UserClose is the window's own close button:
-    // true when the form went. UserEscape is the Escape key: it presses the cancel button; without
-    // one it closes a dialog. Sizes and states are facts and come in at any time.
+    // Input from a window system, a test or a batch. UserClose is the window's own close button; it
+    // returns true when the form was unloaded. UserEscape is the Escape key: it presses the cancel
+    // button; without one it closes a dialog. UserResize is accepted even while a handler runs,
+    // because the window already has the new size.
     bool UserClose();
     bool UserEscape();
     void UserResize(const Rectangle& outer, Size inner, WindowState state);
     void Painted();
 
-    // The control that has the focus; null when none was given it yet. A control that loses it by
-    // being disabled, itself or with a frame around it, gets it back if the same handler enables it
-    // again.
+    // The control that has the focus; null before any has. When a handler disables this control, or
+    // a frame around it, and enables it again, the control gets the focus back.
     Control* Focused() const { return focused_; }
-    // The window system tells where the focus went.
+    // Reports that the window system moved the focus.
     void FocusMoved(Control* control) { focused_ = control; }
 
-    // Runs an event handler. Every error that reaches this point ends the handler and goes to
-    // HandlerFailed.
+    // Runs an event handler. An exception that the handler lets out goes to HandlerFailed and no
+    // further.
     void RunHandler(std::string_view name, const std::function<void()>& handler);
     bool RunsHandler() const { return handlers_ > 0; }
     // Shows a message box on this form.
@@ -106,7 +105,7 @@ class Form : public Container {
     virtual void Form_Load() {}
     virtual void Form_Paint() {}
     virtual void Form_Resize() {}
-    // `byUser`: the window's own close button, not the program, asks.
+    // `byUser`: the user closes the window; otherwise the program unloads the form.
     virtual void Form_QueryUnload(bool& /*cancel*/, bool /*byUser*/) {}
     virtual void HandlerFailed(std::string_view /*handler*/, const RunTimeError& /*error*/) {}
 
@@ -118,11 +117,11 @@ class Form : public Container {
 
     void Changed(Aspects changed);
     void TryUnload(bool byUser);
-    // Code gives the focus to this control.
+    // Records that code gave this control the focus.
     void FocusGiven(Control& control);
-    // This control is about to be disabled.
+    // Remembers the focus when this control, about to be disabled, has or contains it.
     void KeepFocus(const Control& disabled);
-    // A control was enabled.
+    // Restores the remembered focus once its control is operable again.
     void GiveFocusBack();
 
     Toolkit& toolkit_;
@@ -138,9 +137,9 @@ class Form : public Container {
     MousePointer pointer_ = MousePointer::kDefault;
     bool loaded_ = false;
     bool visible_ = false;
-    int handlers_ = 0;  // running now, one within the other
+    int handlers_ = 0;  // running now, nested
     Control* focused_ = nullptr;
-    Control* lostFocus_ = nullptr;  // by being disabled in the handler that runs
+    Control* lostFocus_ = nullptr;  // disabled by the running handler
     Peer* window_ = nullptr;
 };
 

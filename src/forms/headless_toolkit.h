@@ -11,8 +11,7 @@
 namespace morpho {
 
 // A toolkit without a screen: it answers questions from a script, for tests and batches. A question
-// that nobody scripted is remembered as a failure (see Unscripted) and answered in the way that
-// changes least.
+// without a scripted answer is recorded (see Unscripted) and gets the answer that changes least.
 class HeadlessToolkit : public Toolkit {
   public:
     struct Message {
@@ -20,19 +19,19 @@ class HeadlessToolkit : public Toolkit {
         int flags = 0;
         std::string title;
     };
-    // Plays the person in a modal form: works its controls and closes it.
+    // Plays the user of a modal form: operates its controls and closes it.
     using Person = std::function<void(Form&)>;
 
     // Answers the next question (a box with more than an OK button) that has no answer yet.
     void WillAnswer(Answer answer) { answers_.push_back(answer); }
-    // Drops the answers that no question has taken.
+    // Drops the answers that no question has used.
     void ForgetAnswers() { answers_.clear(); }
     // Plays every modal form of this name from now on.
     void WillPlay(const std::string& formName, Person person) {
         people_[formName] = std::move(person);
     }
 
-    // Everything that was said, in order.
+    // All messages shown, in order.
     const std::vector<Message>& Messages() const { return messages_; }
     // Questions without an answer, forms that nobody played and forms left open, one sentence each.
     const std::vector<std::string>& Unscripted() const { return unscripted_; }

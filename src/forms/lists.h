@@ -35,7 +35,7 @@ class ListControl : public Control {
     Handler click_;
 };
 
-// A list from which one entry is picked: a drop-down.
+// A drop-down list.
 class ComboBox : public ListControl {
   public:
     using ListControl::ListControl;
@@ -65,7 +65,7 @@ class CheckListBox : public ListControl {
     // Checks or unchecks an entry, which raises ItemCheck.
     void SetSelected(int index, bool selected);
     void SetSelectedQuietly(int index, bool selected);
-    // The person ticks or unticks an entry, which so becomes the current one.
+    // The user checks or unchecks an entry, which also becomes the current one.
     bool UserCheck(int index, bool selected);
 
     int ItemData(int index) const { return items_.at(static_cast<std::size_t>(index)).data; }
@@ -76,7 +76,7 @@ class CheckListBox : public ListControl {
     // The entry at the top of the visible part.
     int TopIndex() const { return topIndex_; }
     void SetTopIndex(int index);
-    // The person scrolled the list.
+    // The user scrolled the list.
     void UserScroll(int topIndex) { topIndex_ = topIndex; }
     void Accept(ControlVisitor& visitor) override;
 

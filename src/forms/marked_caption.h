@@ -5,7 +5,7 @@
 
 namespace morpho {
 
-// A caption as it is read, and the letter of it that reaches the control with Alt.
+// A caption without its marks, and the letter in it that reaches the control with Alt.
 struct MarkedCaption {
     std::string text;
     std::size_t keyAt = std::string::npos;  // byte index of the letter in `text`; npos: none

@@ -5,7 +5,7 @@
 
 namespace morpho {
 
-// What of a control or form changed, as bits.
+// The parts of a control's or form's state that changed, as bits.
 using Aspects = std::uint32_t;
 namespace aspect {
 inline constexpr Aspects kPlace = 1;    // place, or a form's outer rectangle
@@ -17,9 +17,8 @@ inline constexpr Aspects kItems = 32;  // a list's entries
 inline constexpr Aspects kPicture = 64;
 inline constexpr Aspects kPointer = 128;  // a form's mouse pointer
 inline constexpr Aspects kWindowState = 256;
-inline constexpr Aspects kAddress =
-    512;  // the page that a browser was sent to, the same one again too
-inline constexpr Aspects kAll = 0xffff;  // the whole state, on attaching
+inline constexpr Aspects kAddress = 512;  // a browser navigates, perhaps to the same page again
+inline constexpr Aspects kAll = 0xffff;   // the whole state, on attaching
 // Requests, not state: never part of kAll.
 inline constexpr Aspects kRepaint = 0x10000;  // paint now, without waiting for the event loop
 inline constexpr Aspects kFocus = 0x20000;
@@ -29,22 +28,22 @@ inline constexpr Aspects kReloadCompletely = 0x100000;
 inline constexpr Aspects kToTop = 0x200000;
 }  // namespace aspect
 
-// The mirror of one control in a toolkit. It writes model to widget and reports what the person
-// did, nothing more. A peer is attached with Control::Attach, gets the whole state at once, and
-// must be detached before it dies. Of two controls of a container that overlap, the widget of the
-// one declared later stands above: a picture box and a browser share one place.
+// The mirror of one control in a toolkit. It writes the model's state to the widget and reports
+// user input, nothing more. Control::Attach attaches it and makes it show the whole state; it must
+// be detached before it is destroyed. Where two controls of a container overlap, the widget of the
+// one declared later is on top: a picture box and a browser share one place.
 class Peer {
   public:
     virtual ~Peer() = default;
 
-    // The control's way to its peer.
+    // Called by the control when its state has changed.
     void Show(Aspects changed) {
         const Writing writing(writing_);
         Write(changed);
     }
 
   protected:
-    // Brings the widget to the model's state in these aspects.
+    // Updates the widget from the model in these aspects.
     virtual void Write(Aspects changed) = 0;
 
     // Runs `report` unless the native signal is only the echo of this peer's own writing.
@@ -53,8 +52,8 @@ class Peer {
         if (!writing_) std::forward<Function>(report)();
     }
 
-    // Reports what the person did with the control, unless it is an echo, and then shows the
-    // model's value: the model may have refused what was done, or changed it.
+    // Reports user input, unless it is an echo, and then shows the model's value: the model may
+    // have refused or changed the input.
     template <typename Function>
     void Did(Function&& report) {
         Report([&] {
@@ -63,11 +62,11 @@ class Peer {
             Show(aspect::kValue);
         });
     }
-    // What has to reach the model before anything else that the person does.
+    // Reports earlier input that is still waiting and must reach the model first.
     virtual void BeforeReport() {}
 
   private:
-    // Ends the writing also when it fails.
+    // Restores the flag also when Write throws.
     class Writing {
       public:
         explicit Writing(bool& writing) : writing_(writing), outer_(std::exchange(writing, true)) {}

@@ -14,9 +14,9 @@ struct Shortcut {
 
     bool IsNone() const { return key == 0; }
     bool IsFunctionKey() const { return key > kF0; }
-    // Of a function key, from 1.
+    // The number of the function key, from 1.
     int FunctionNumber() const { return key - kF0; }
-    // As a tool tip names it, such as "Ctrl+Z" or "F1"; empty for none.
+    // The shortcut's name in a tool tip, such as "Ctrl+Z" or "F1"; empty for none.
     std::string Text() const {
         if (IsNone()) return {};
         const std::string name = IsFunctionKey() ? "F" + std::to_string(FunctionNumber())

@@ -4,7 +4,7 @@
 
 namespace morpho {
 
-// A slider. Scroll is raised while a person drags the thumb, Change once the value has settled.
+// A slider. Scroll is raised while the user drags the thumb, Change once the value has settled.
 class Slider : public Control {
   public:
     struct Range {
@@ -29,10 +29,10 @@ class Slider : public Control {
     // A value outside the range becomes the nearest one inside.
     void SetValue(int value);
     void SetValueQuietly(int value);
-    // The thumb is being dragged and now stands at `value`.
+    // The user drags the thumb, now at `value`.
     bool UserScroll(int value);
-    // The person let go of the thumb, or set `value` by key or click: Scroll, if it moved, then
-    // Change.
+    // The user released the thumb, or set `value` by key or click: raises Scroll, if the value
+    // changed, then Change.
     bool UserSettle(int value);
     void Accept(ControlVisitor& visitor) override;
 

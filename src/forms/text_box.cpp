@@ -15,7 +15,7 @@ bool IsInsideCharacter(std::string_view text, std::size_t at) {
     return at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80;
 }
 
-// What two texts have in common at their beginning and their end, in bytes of whole characters.
+// Lengths, in bytes of whole characters, of the beginning and the end that two texts share.
 struct Common {
     std::size_t front = 0;
     std::size_t back = 0;

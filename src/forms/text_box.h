@@ -4,12 +4,12 @@
 
 namespace morpho {
 
-// A box for text. KeyPress sees every character before it reaches the box and may swallow it;
-// Change is raised whenever the text has become another one.
+// A box for text. KeyPress gets every character before the box does and may reject it; Change is
+// raised whenever the text has changed.
 class TextBox : public Control {
   public:
-    // Gets a whole character of Unicode (never half a surrogate pair); 8 stands for a deletion.
-    // Setting it to 0 swallows it.
+    // Gets a whole Unicode character (never half a surrogate pair); 8 stands for a deletion.
+    // Setting it to 0 rejects it.
     using KeyHandler = std::function<void(char32_t&)>;
     enum class Kind { kSingleLine, kMultiLineReadOnly };
 
@@ -25,15 +25,15 @@ class TextBox : public Control {
     void SetText(std::string_view text);
     void SetTextQuietly(std::string_view text);
     void SelectAll() { Changed(aspect::kSelectAll); }
-    // From now on the keys Up and Down step this bar by one, which must live as long as the box.
+    // Makes the keys Up and Down step this bar by one. The bar must live as long as the box.
     void StepWith(ScrollBar& bar) { bar_ = &bar; }
 
-    // The person's editing would make the text this one: by a key, a paste, a drop, an input method
-    // or an undo alike. KeyPress is asked about each character that comes in, or once with 8 when
-    // some only go. If it swallows one, the text stays as it was: half a paste is another text.
-    // The toolkit shows Text() afterwards.
+    // The user's edit would change the text to this one, by a key, a paste, a drop, an input method
+    // or an undo. KeyPress gets each inserted character, or 8 once when characters are only
+    // deleted. If it rejects one, the whole edit is refused, because half a paste would be a text
+    // that nobody meant. The toolkit shows Text() afterwards.
     bool UserEdit(std::string_view text);
-    // Types at the end of the text, key by key; 8 takes the last character away.
+    // Types at the end of the text, key by key; 8 deletes the last character.
     bool UserType(std::string_view keys);
     // The key Up (1) or Down (-1); false when there is nothing to step.
     bool UserStep(int by);

@@ -26,34 +26,35 @@ constexpr int IconOf(int flags) {
     return flags & 0xf0;
 }
 
-// What the person answered a message box.
+// The user's answer to a message box.
 enum class Answer { kOk = 1, kCancel = 2, kYes = 6, kNo = 7 };
 
-// Stands for the window that held the mouse; only the toolkit that gave it out knows what it is.
-// Null: none did.
+// An opaque handle of the window that had captured the mouse; only the toolkit that returned it can
+// use it. Null: no window.
 using CapturedWindow = void*;
 
-// A way to put forms on a screen, or to do without one.
+// Shows forms on a screen, or runs them without one.
 class Toolkit {
   public:
     virtual ~Toolkit() = default;
 
-    // Comes before Form_Load. Gives the form its place on the screen (see StartPosition), and the
-    // size of its window's borders as far as that is known (Form::SetChrome).
+    // Called before Form_Load. Places the form on the screen (see StartPosition) and sets the size
+    // of its window's borders as far as it is known (Form::SetChrome).
     virtual void PlaceAtStart(Form& /*form*/) {}
     // Makes a window with peers for the form and all its controls, runs the form's Load and first
-    // paint, and returns when the form is hidden or unloaded. Calls may nest: a person then works
-    // the innermost form alone.
+    // paint, and returns when the form is hidden or unloaded. Calls may nest: the user can then
+    // operate only the innermost form.
     virtual void RunModal(Form& form) = 0;
-    // Answers closing the box without a button as Cancel where there is one, else as OK or No.
+    // Closing the box without a button answers Cancel if the box has that button, otherwise No or
+    // OK.
     virtual Answer ShowMessage(Form* owner, std::string_view text, int flags,
                                std::string_view title) = 0;
 
     // The form's rectangle, in twips, as it is when neither minimised nor maximised.
     virtual Rectangle NormalPlacement(const Form& form) const = 0;
-    // Lets go of the mouse, which a control may be holding, so that a modal window can have it.
+    // Releases a control's capture of the mouse, so that a modal window can use the mouse.
     virtual CapturedWindow ReleaseCapture() = 0;
-    // Gives the mouse back to the window that held it; null does nothing.
+    // Restores the capture to the window that had it; null does nothing.
     virtual void SetCapture(CapturedWindow window) = 0;
 };
 
