@@ -6,14 +6,15 @@
 
 namespace morpho {
 
-/// A file that was compiled in.
+// A file that is compiled into the program.
 struct EmbeddedFile {
     std::string_view type;
     int id;
     std::span<const std::byte> bytes;
 };
 
-/// All of them, each type and id once. Written by embed.cmake from the list in CMakeLists.txt.
+// All embedded files; each pair of type and id occurs once. embed.cmake generates the definition
+// from the list in CMakeLists.txt.
 std::span<const EmbeddedFile> EmbeddedFiles();
 
 }  // namespace morpho

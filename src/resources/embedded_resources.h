@@ -4,7 +4,7 @@
 
 namespace morpho {
 
-/// The resources that were compiled into the program; resource_ids.h names them.
+// The resources compiled into the program; resource_ids.h lists them.
 class EmbeddedResources final : public Resources {
   public:
     std::span<const std::byte> Data(std::string_view type, int id) const override;

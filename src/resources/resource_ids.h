@@ -11,11 +11,10 @@ inline constexpr std::string_view kBitmapResource = "BITMAP";        // BMP
 inline constexpr std::string_view kIconResource = "ICON";            // PNG with transparency
 inline constexpr std::string_view kPictureResource = "PICTURE";      // PNG with transparency
 
-// Ids that stand alone in their type.
+// Ids of types that have a single resource.
 inline constexpr int kPreviewTemplate = 101;
-inline constexpr int kColorBand = 101;  // 397 by 7 pixels
-inline constexpr int kToolbarFace =
-    101;  // 20 by 20 pixels on the grey of a button's face (192, 192, 192)
+inline constexpr int kColorBand = 101;     // 397 by 7 pixels
+inline constexpr int kToolbarFace = 101;   // 20 by 20 pixels, background (192, 192, 192)
 inline constexpr int kAboutPicture = 101;  // 192 by 256 pixels, to be shown at half that size
 
 // Icons: the application's, by size in pixels, and those of notices, 64 by 64 pixels, to be shown
