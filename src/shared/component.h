@@ -7,8 +7,8 @@ namespace morpho {
 class Application;
 struct Platform;
 
-// What the loaded component holds once, for both add-ins and both editors. Whichever of them
-// started last has set it.
+// The state that both add-ins and both editors of the loaded component share. The one that started
+// last has set it.
 struct Component {
     int logMode = 0;                     // 0 off, 1 daily file, 2 debugger output; others are off
     std::string logPrefix;               // "TM" or "IM", before the date in the log file's name
@@ -20,8 +20,8 @@ struct Component {
     std::string webSite;  // address or document the About box links to; empty: no link
 };
 
-// What every module and window is handed: what is outside, and what the component holds. Both
-// outlive every window.
+// What every module and window gets: the access to the outside and the shared state. Both outlive
+// every window.
 struct Program {
     Platform& platform;
     Component& component;

@@ -27,7 +27,7 @@ std::string LogLine(const Component& component, const LocalTime& now, std::strin
 std::string LogFile(const Component& component, const LocalTime& now) {
     char date[40];
     std::snprintf(date, sizeof date, "%04d%02d%02d", now.year, now.month, now.day);
-    // The folder ends in a separator already; files are opened under the doubled one.
+    // The folder already ends in a separator; file calls accept the doubled one.
     return component.logFolder + '\\' + component.logPrefix + date + ".log";
 }
 

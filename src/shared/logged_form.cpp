@@ -16,7 +16,7 @@ void LoggedForm::WriteLog(std::string_view text) const {
 }
 
 void LoggedForm::HandlerFailed(std::string_view handler, const RunTimeError& error) {
-    // The log may be what failed, and nobody is left to tell.
+    // Logging may fail for the same reason as the handler. No caller is left to report that to.
     try {
         WriteLog("Error " + std::to_string(static_cast<int>(error.Number())) + " (" + error.what() +
                  ") occured in " + std::string(handler));

@@ -7,8 +7,8 @@
 
 namespace morpho {
 
-// A form of this program: it reaches the program's surroundings, and an error that reaches a
-// handler's end becomes one line of the log.
+// A form of this program: it has access to the Program and logs every exception that leaves a
+// handler.
 class LoggedForm : public Form {
   public:
     LoggedForm(const Program& program, const FormSpec& spec);
@@ -21,7 +21,7 @@ class LoggedForm : public Form {
 
     // Writes "Error <number> (<text>) occured in <handler>", then calls TellError.
     void HandlerFailed(std::string_view handler, const RunTimeError& error) final;
-    // For a form that shows a message box. May throw; nothing more comes of that.
+    // Overridden by forms that show a message box. An exception from it is ignored.
     virtual void TellError(std::string_view /*handler*/, const RunTimeError& /*error*/) {}
 
   private:

@@ -26,7 +26,7 @@ void ResolveParents(std::string& path) {
     constexpr std::string_view kParent = "\\..";
     for (auto at = path.find(kParent); at != std::string::npos; at = path.find(kParent)) {
         const auto folder = at == 0 ? std::string::npos : path.rfind('\\', at - 1);
-        if (folder == std::string::npos) return;  // nothing that could be taken away
+        if (folder == std::string::npos) return;  // no folder left to remove
         path.erase(folder, at + kParent.size() - folder);
     }
 }
@@ -39,9 +39,9 @@ std::size_t CharacterLength(std::string_view text) {
     return length;
 }
 
-// Both folded; "*" stands for any characters, "?" for one.
+// Whether the name matches the pattern, both folded; "*" stands for any characters, "?" for one.
 bool MatchesPattern(std::string_view name, std::string_view pattern) {
-    std::string_view retryName;  // after the last "*": where to go on with one character more
+    std::string_view retryName;  // what follows the last "*", for a retry
     std::string_view retryPattern;
     bool canRetry = false;
     while (!name.empty() || !pattern.empty()) {

@@ -17,17 +17,17 @@ inline constexpr int kJpegFile = 2;
 inline constexpr int kBmpFile = 3;
 inline constexpr int kPngFile = 4;
 
-// What the extension of a file name, path or address says.
+// The image type by the extension of a file name, path or address.
 int GetImageFileType(std::string_view name);
 bool IsJpegFile(std::string_view name);
 
-// Whether a file or theme can have this name, spaces around it set aside: not empty, no dot in
-// front, none of \/#:*?<>|".
+// Whether a file or theme can have this name. Ignoring spaces around it, it must not be empty,
+// start with a dot or contain any of \/#:*?<>|".
 bool IsValidFileName(std::string_view name);
 
-// Base folder and names joined by "\"; "/" counts as "\", and "\.." takes away the folder before it
+// Base folder and names joined by "\"; "/" counts as "\", and "\.." removes the folder before it
 // (also where a name only begins with two dots). No "\" at the end unless the last name has one.
-// `names` are changed in place to the form in which they were joined.
+// The first form also changes `names` to the form in which they were joined.
 std::string JoinPath(std::string_view base, std::vector<std::string>& names);
 std::string JoinPath(std::string_view base, std::initializer_list<std::string_view> names);
 
@@ -40,15 +40,15 @@ std::string FormatText(std::string_view format, const std::vector<std::string>& 
 // Opens a document or an address with its program, in a normal window. Above 32: success.
 int ShellOpen(Shell& shell, std::string_view file, std::string_view parameters);
 
-// What stands after the last "\" or "/".
+// The part after the last "\" or "/".
 std::string FileNameOf(std::string_view path);
 // The path with one "\" at its end.
 std::string WithSeparator(std::string_view folder);
 
 bool FolderExists(const FileSystem& files, std::string_view path);
-// A directory listing's answer for normal files, neither folders nor hidden or system entries.
-// A path that ends in "\" asks for any file of the folder; the last name may hold the
-// wild cards * and ?. False for what cannot be read.
+// Whether a normal file (no folder, hidden or system entry) matches the path. A path that ends in
+// "\" matches any file of the folder; the last name may contain the wild cards * and ?. False when
+// the folder cannot be read.
 bool AnyFileMatches(const FileSystem& files, std::string_view path);
 
 }  // namespace morpho

@@ -32,7 +32,7 @@ double StrictNumber(std::string_view text) {
     if (error == std::errc::invalid_argument || stop != end || isWord)
         throw RunTimeError(ErrorNumber::kTypeMismatch, "Type mismatch");
     if (error == std::errc()) return value;
-    // Too near to zero for its type, or too far from it.
+    // The number is too small or too large for a double.
     return text.find("e-") != text.npos || text.find("E-") != text.npos
                ? 0
                : std::numeric_limits<double>::infinity();

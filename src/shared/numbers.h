@@ -13,9 +13,10 @@ double Val(std::string_view text);
 // bits.
 int WholeNumber(double value);
 
-// The number that the whole text is, as the conversion functions of classic Basic read it: blanks
-// around it, sign, decimal point and exponent are allowed. It is rounded as above. Throw
-// RunTimeError: kTypeMismatch for a text that is no number, kOverflow for one outside the type.
+// The whole text as a number, read like the conversion functions of classic Basic: blanks around
+// it, sign, decimal point and exponent are allowed. It is rounded like WholeNumber. Throw
+// RunTimeError: kTypeMismatch when the text is not a number, kOverflow when the type cannot hold
+// it.
 std::int16_t CInt(std::string_view text);
 std::int32_t CLng(std::string_view text);
 

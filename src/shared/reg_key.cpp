@@ -12,7 +12,7 @@ namespace morpho {
 
 namespace {
 
-// The system's code for data of a type that a call cannot take (ERROR_INVALID_DATA).
+// The system's code for data of an unsupported type (ERROR_INVALID_DATA).
 constexpr std::int32_t kRegInvalidData = 13;
 
 bool IsStringType(RegType type) {
@@ -111,7 +111,7 @@ bool RegKey::QueryValue(std::string_view path, std::string& value, RegHandle key
     std::vector<std::byte> data;
     std::int32_t error = registry_.QueryValue(subkey, {}, type, data);
     registry_.CloseKey(subkey);
-    // A key without a default value answers as if it had an empty one.
+    // A missing default value reads as an empty one.
     if (error == kRegFileNotFound) error = kRegSuccess;
     if (error == kRegSuccess && !IsStringType(type)) error = kRegInvalidData;
     if (!Done(error)) return false;

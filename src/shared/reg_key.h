@@ -14,10 +14,11 @@ class Environment;
 struct Platform;
 
 // Holds at most one open registry key, which is closed with the object. No member throws: each
-// operation returns whether it succeeded, and GetLastError and GetErrorDescription tell why not.
+// operation returns whether it succeeded, and GetLastError and GetErrorDescription give the reason
+// of a failure.
 class RegKey {
   public:
-    // Own outcomes of an operation. kSystem: the registry's error code tells it.
+    // The outcome of an operation. kSystem: it is in the registry's error code.
     enum Status : std::int32_t {
         kSystem = 0,
         kNoKey = -1,
@@ -38,12 +39,12 @@ class RegKey {
     // The status, or the registry's error code when the status is kSystem.
     std::int32_t GetLastError() const { return status_ != kSystem ? status_ : systemError_; }
 
-    // The open key; 0 when there is none. The object takes over a key that is set.
+    // The open key; 0 when there is none. SetHKey takes ownership of the key.
     RegHandle hKey() const { return key_; }
     void SetHKey(RegHandle key);
 
     bool CloseKey();
-    // These close the key that was open.
+    // These first close the open key.
     bool CreateKey(RegHandle root, std::string_view path);
     bool OpenKey(RegHandle root, std::string_view path);
 
@@ -52,12 +53,12 @@ class RegKey {
 
     // The default value of the subkey; empty when the subkey has none.
     bool QueryValue(std::string_view path, std::string& value, RegHandle key = 0);
-    // Any value, into the caller's buffer; the buffer's rest stays as it was.
+    // Any value, into the caller's buffer; the rest of the buffer is unchanged.
     bool QueryValueEx(std::string_view name, std::span<std::byte> buffer, RegType& type,
                       RegHandle key = 0);
     // A plain string, up to its first NUL.
     bool QueryValueEx_SZ(std::string_view name, std::string& value, RegHandle key = 0);
-    // Every type but the strings.
+    // Every type except the string types.
     bool SetValueEx(std::string_view name, RegType type, std::span<const std::byte> data,
                     RegHandle key = 0);
     // The string types. The terminating NUL is stored on Windows 9x only.
@@ -84,7 +85,7 @@ class RegKey {
 inline constexpr std::string_view kShellFolders =
     "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders";
 
-// Reads a plain string value; false, and `value` as it was, when the key or the string is missing.
+// Reads a plain string value; false, with `value` unchanged, when the key or the string is missing.
 bool GetRegString(const Platform& platform, RegHandle hive, std::string_view path,
                   std::string_view name, std::string& value);
 

@@ -13,7 +13,7 @@ inline constexpr std::string_view kWindowSection = "Window";
 // The user's settings, kept as classic Basic programs do: texts (REG_SZ) below HKEY_CURRENT_USER in
 // Software\VB and VBA Program Settings\<application>\<section>.
 
-// `fallback` when the setting is missing or is no text.
+// `fallback` when the setting is missing or not a text.
 std::string GetSetting(const Platform& platform, std::string_view application,
                        std::string_view section, std::string_view key, std::string_view fallback);
 
@@ -22,8 +22,8 @@ std::string GetSetting(const Platform& platform, std::string_view application,
 int GetSettingNumber(const Platform& platform, std::string_view application,
                      std::string_view section, std::string_view key, int fallback);
 
-// False when the setting could not be kept; never throws. Nothing that an editor does next depends
-// on a setting, so losing one must not keep a window from closing.
+// False when the setting could not be stored; never throws. A lost setting does no harm later, so
+// it must not keep a window from closing.
 bool SaveSetting(const Platform& platform, std::string_view application, std::string_view section,
                  std::string_view key, std::string_view value);
 
