@@ -14,7 +14,7 @@ namespace morpho {
 
 namespace {
 
-// What differs between the releases of FrontPage that are known.
+// The differences between the known releases of FrontPage.
 struct Release {
     std::string_view major;
     std::string_view office;        // in registry paths

@@ -10,8 +10,8 @@ namespace morpho {
 struct Platform;
 
 // Where FrontPage and the user keep their files, and what the log says about the surroundings.
-// Nothing here changes anything. What is missing is an empty text; nothing throws for it.
-// A version is what the host's Application reports, such as "6.0".
+// These functions only read. A missing value is an empty text, not an exception. A version is what
+// the host's Application reports, such as "6.0".
 
 enum class FrontPageFolder {
     kProgram = 0,
@@ -31,7 +31,7 @@ std::string GetFrontPageFolder(const Platform& platform, std::string_view versio
 // The folder of FrontPage's program with a trailing "\".
 std::string GetFrontPageProgramFolder(const Platform& platform, std::string_view version);
 
-// Where FrontPage keeps what it downloaded; with or without a trailing "\".
+// FrontPage's folder of downloaded files, with or without a trailing "\".
 std::string GetCachePath(const Platform& platform, std::string_view version);
 
 // The temporary folder with a trailing "\".

@@ -26,7 +26,7 @@ AutomationValue CallExplorer(const Program& program, std::string_view method,
     }
 }
 
-// The conversions are those of classic Basic: True is -1, and a text counts as what it spells.
+// Converts like classic Basic: True is -1, and a text is the number or "True" that it spells.
 std::int32_t AsNumber(const AutomationValue& value) {
     if (const auto* number = std::get_if<std::int32_t>(&value)) return *number;
     if (const auto* flag = std::get_if<bool>(&value)) return *flag ? -1 : 0;

@@ -8,9 +8,9 @@
 
 namespace morpho {
 
-// What only the host's explorer object offers, called by name. Each wrapper creates the object from
-// Component::explorerProgId, calls one method and lets the object go. None of them throws or says
-// anything: whatever fails, the result is the neutral value (0 or false).
+// Calls that only the host's explorer object offers, by name. Each wrapper creates the object from
+// Component::explorerProgId, calls one method and releases the object. None of them throws or
+// reports an error: after a failure the result is 0 or false.
 
 // Sets the identifiers of the host's explorer and editor for its version text, such as "6.0".
 void SetFrontPageProgIDs(Component& component, std::string_view version);
@@ -27,8 +27,8 @@ std::int32_t FPGetDocToFile(const Program& program, const std::string& documentU
 
 bool FPIsFolderInWeb(const Program& program, const std::string& folderUrl);
 
-// Makes the host fetch a theme anew. The saving of a theme passes the theme's name, the web's
-// address and true twice.
+// Makes the host fetch a theme again. Saving a theme passes its name, the web's address and true
+// twice.
 std::int32_t FPMakeThemeFresh(const Program& program, const std::string& firstText,
                               const std::string& secondText, bool firstFlag, bool secondFlag);
 
