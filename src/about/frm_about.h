@@ -13,8 +13,9 @@ class frmAbout : public LoggedForm {
   public:
     explicit frmAbout(const Program& program);
 
-    // Shows the box until it is closed. OK changes `logMode` (0 off, 1 file, 2 debugger output) as
-    // "Enable logging" says; a mode that was on and stays on is kept. The caller stores it.
+    // Shows the box until it is closed. OK changes `logMode` (0 off, 1 file, 2 debugger output)
+    // according to "Enable logging"; while logging stays on, its mode is kept. The caller stores
+    // it.
     void ShowAbout(Editor editor, int& logMode);
 
     PictureBox imgMorpho;

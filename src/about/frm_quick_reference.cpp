@@ -23,6 +23,7 @@ frmQuickReference::frmQuickReference(const Program& program)
           [this] { Unload(); }, ButtonRole::kDefault) {}
 
 void frmQuickReference::Form_Load() {
+    // The resource ends its lines with LF, a text box with CR LF.
     std::string text;
     for (const char c : ThePlatform().resources.String(kQuickReferenceText)) {
         if (c == '\n') text += '\r';

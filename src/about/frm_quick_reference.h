@@ -6,7 +6,7 @@
 
 namespace morpho {
 
-// A step-by-step guide to the theme editor. Whoever shows it reads chkDontShow afterwards.
+// A step-by-step guide to the theme editor. The caller reads chkDontShow afterwards.
 class frmQuickReference : public LoggedForm {
   public:
     explicit frmQuickReference(const Program& program);
