@@ -41,7 +41,7 @@ void frmJPEGQF::Form_Load() {
 }
 
 void frmJPEGQF::Form_QueryUnload(bool& cancel, bool byUser) {
-    cancel = byUser;
+    cancel = byUser;  // only OK closes the box: the caller needs a value
 }
 
 void frmJPEGQF::btnOK_Click() {

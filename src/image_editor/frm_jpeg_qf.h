@@ -9,7 +9,7 @@
 
 namespace morpho {
 
-// Asks for the JPEG quality factor: whoever shows it reads vsQF afterwards. OK is the only way out.
+// Asks for the JPEG quality factor; the caller reads vsQF afterwards. Only OK closes it.
 class frmJPEGQF : public LoggedForm {
   public:
     explicit frmJPEGQF(const Program& program);

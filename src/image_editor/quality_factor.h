@@ -8,17 +8,17 @@
 
 namespace morpho {
 
-// Range and initial value of a JPEG quality factor's controls. 0 exists only for the moment in
-// which the box is empty; the scroll bar turns it into 1.
+// Range and initial value of a JPEG quality factor's controls. 0 occurs only while the box is
+// empty; the scroll bar then turns it into 1.
 inline constexpr int kQualityMinimum = 0;
 inline constexpr int kQualityMaximum = 100;
 inline constexpr int kInitialQuality = 75;
 
-// Keeps a text box and a scroll bar together as one JPEG quality factor from 1 to 100. Its owner
-// declares the two and sends their events here.
+// Keeps a text box and a scroll bar at the same JPEG quality factor from 1 to 100. Its owner
+// declares both controls and forwards their events.
 class QualityFactor {
   public:
-    // `takesFocus` tells whether a new value gives the text box the focus.
+    // A new value gives the text box the focus when `takesFocus` returns true.
     QualityFactor(TextBox& txtQF, ScrollBar& vsQF, std::function<bool()> takesFocus);
 
     void txtQF_KeyPress(char32_t& key);
