@@ -1,5 +1,7 @@
 #include "web_host/installed_themes.h"
 
+#include "platform/run_time_error.h"
+
 namespace morpho {
 
 void InstalledThemes::Install(const std::string& name, const Folder& theme,
@@ -28,7 +30,13 @@ std::unique_ptr<Folder> InstalledThemes::Entered(const std::string& name) {
     for (const FolderEntry& entry : folder_->Entries()) {
         if (entry.name == name && entry.kind == EntryKind::kFolder) return folder_->Open(name);
     }
-    return folder_->Create(name);
+    try {
+        return folder_->Create(name);
+    } catch (const RunTimeError& error) {
+        // Another program that opens the web at this moment has made it.
+        if (error.Number() != ErrorNumber::kFileExists) throw;
+        return folder_->Open(name);
+    }
 }
 
 }  // namespace morpho
