@@ -17,6 +17,8 @@ namespace morpho {
 namespace {
 
 constexpr std::string_view kFailure = "could not be locked";
+// Each one fails because another program removed the file in the meantime.
+constexpr int kMaxAttempts = 1000;
 
 class LockFile : public FolderLock {
   public:
@@ -43,14 +45,21 @@ bool IsGone(const DiskFolder& folder, const std::string& name, const Descriptor&
 }
 
 Descriptor OpenLockFile(const DiskFolder& folder, const std::string& name) {
-    const int flags = O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
-    Descriptor file(::openat(folder.Number(), name.c_str(), flags, 0666));
+    const int flags = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    Descriptor file(::openat(folder.Number(), name.c_str(), O_RDWR | O_CREAT | flags, 0666));
+    // Another user's program that was killed left it. It can be locked, but not written.
+    if (!file.IsOpen() && errno == EACCES)
+        file = Descriptor(::openat(folder.Number(), name.c_str(), O_RDONLY | flags));
     struct stat status = {};
     if (!file.IsOpen() || ::fstat(file.Number(), &status) != 0)
         throw FileError(errno, folder.PathOf(name), kFailure);
     if (!S_ISREG(status.st_mode))
         throw FileError(ErrorNumber::kPathFileAccess, folder.PathOf(name), kFailure,
                         "it is not a file");
+    // The other name may be outside of the web, and this file is written.
+    if (status.st_nlink > 1)
+        throw FileError(ErrorNumber::kPathFileAccess, folder.PathOf(name), kFailure,
+                        "the file has another name besides");
     return file;
 }
 
@@ -77,7 +86,7 @@ void WriteHolder(const Descriptor& file) {
 
 std::unique_ptr<FolderLock> TryLockFile(const DiskFolder& folder, const std::string& name,
                                         std::string& holder) {
-    for (;;) {
+    for (int attempt = 0; attempt < kMaxAttempts; ++attempt) {
         Descriptor file = OpenLockFile(folder, name);
         if (::flock(file.Number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
             holder = FirstLine(file);
@@ -87,6 +96,8 @@ std::unique_ptr<FolderLock> TryLockFile(const DiskFolder& folder, const std::str
         WriteHolder(file);
         return std::make_unique<LockFile>(folder, name, std::move(file));
     }
+    throw FileError(ErrorNumber::kPermissionDenied, folder.PathOf(name), kFailure,
+                    "other programs keep replacing it");
 }
 
 }  // namespace morpho

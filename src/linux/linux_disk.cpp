@@ -8,6 +8,7 @@
 #include "linux/file_error.h"
 #include "linux/linux_folder.h"
 #include "linux/parallel.h"
+#include "linux/running_program.h"
 
 namespace morpho {
 
@@ -44,6 +45,10 @@ std::string LinuxDisk::Machine() const {
 
 std::uint64_t LinuxDisk::Program() const {
     return static_cast<std::uint64_t>(::getpid());
+}
+
+bool LinuxDisk::IsRunning(std::uint64_t program) const {
+    return IsProgramRunning(program);
 }
 
 }  // namespace morpho

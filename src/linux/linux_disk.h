@@ -12,6 +12,7 @@ class LinuxDisk : public Disk {
     void InParallel(std::size_t count, const std::function<void(std::size_t)>& work) override;
     std::string Machine() const override;
     std::uint64_t Program() const override;
+    bool IsRunning(std::uint64_t program) const override;
 };
 
 }  // namespace morpho

@@ -1,17 +1,15 @@
 #include "linux/whole_file.h"
 
 #include <fcntl.h>
-#include <signal.h>
 #include <sys/stat.h>
 
 #include <cerrno>
 #include <cstdio>
-#include <fstream>
-#include <limits>
 #include <memory>
 
 #include "linux/disk_path.h"
 #include "linux/file_error.h"
+#include "linux/running_program.h"
 
 namespace morpho {
 
@@ -31,15 +29,6 @@ std::size_t ReadSome(const Descriptor& file, char* into, std::size_t size,
     }
 }
 
-bool IsRunning(pid_t program) {
-    if (::kill(program, 0) != 0 && errno == ESRCH) return false;
-    // One that has died is listed, as a zombie, until its parent has taken notice.
-    std::string status;
-    std::getline(std::ifstream("/proc/" + std::to_string(program) + "/stat"), status);
-    const std::size_t state = status.rfind(") ");
-    return state == status.npos || !status.substr(state).starts_with(") Z");
-}
-
 }  // namespace
 
 bool WriteAll(int number, std::string_view bytes) {
@@ -53,8 +42,7 @@ bool WriteAll(int number, std::string_view bytes) {
 
 bool IsAbandonedTemporaryName(std::string_view name) {
     const auto program = ProgramOfTemporaryName(name);
-    return program && *program > 0 && *program <= std::numeric_limits<pid_t>::max() &&
-           !IsRunning(static_cast<pid_t>(*program));
+    return program && !IsProgramRunning(*program);
 }
 
 std::string ReadWhole(const Descriptor& file, const std::string& diskPath) {

@@ -125,6 +125,8 @@ class Disk {
     // What tells this machine from others that share a disk with it.
     virtual std::string Machine() const = 0;
     virtual std::uint64_t Program() const = 0;  // the running program's number
+    // Whether a program of this number runs on this machine.
+    virtual bool IsRunning(std::uint64_t program) const = 0;
 };
 
 }  // namespace morpho
