@@ -1,5 +1,6 @@
 // The morpho program: reads the command line and runs the command.
 
+#include <csignal>
 #include <iostream>
 #include <variant>
 
@@ -32,6 +33,8 @@ struct Runner {
 
 int main(int argc, char** argv) {
     constexpr CommandError::Status kRefused = CommandError::Status::kRefused;
+    // A file that would exceed the user's limit is an error like a full disk, not the end.
+    std::signal(SIGXFSZ, SIG_IGN);
     std::string warnings;
     std::string failure;
     int status = 0;
