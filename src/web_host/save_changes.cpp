@@ -12,12 +12,13 @@ namespace morpho {
 
 namespace {
 
-// One step of a roll-back: the others still run when it fails.
-void AsFarAsPossible(const std::function<void()>& step) {
+// One step of several: the others still run when it fails. Whether it went well.
+bool Succeeds(const std::function<void()>& step) {
     try {
         step();
+        return true;
     } catch (const RunTimeError&) {
-        return;
+        return false;
     }
 }
 
@@ -70,11 +71,23 @@ void SaveChanges::Complete() {
     }
     for (const auto& [theme, folder] : folders)
         folder->Flush({});
-    if (record_.newThemeFolder.empty()) return;
-    const auto themes = web_.FindFolder({std::string(kThemesFolder)});
-    if (themes && themes->Find(record_.newThemeFolder)) {
-        themes->Rename(record_.newThemeFolder, record_.theme);
+    if (!record_.newThemeFolder.empty()) CompleteNewTheme();
+}
+
+void SaveChanges::CompleteNewTheme() {
+    const auto themes = web_.OpenFolder({std::string(kThemesFolder)});
+    if (!themes->Find(record_.newThemeFolder)) {
+        if (themes->Find(record_.theme)) return;
+        throw EntryError(ErrorNumber::kPathNotFound, *themes, record_.theme, "was not created",
+                         "another program has taken the new folder away");
+    }
+    themes->Rename(record_.newThemeFolder, record_.theme);
+    try {
         themes->Flush({});
+    } catch (const RunTimeError&) {
+        // The roll-back knows the folder by its temporary name only.
+        themes->Rename(record_.theme, record_.newThemeFolder);
+        throw;
     }
 }
 
@@ -88,20 +101,20 @@ void SaveChanges::CompleteFile(Folder& folder, const SaveRecord::ThemeFile& file
     folder.Rename(file.temporaryName, file.name);
 }
 
-void SaveChanges::RemoveEarlier() {
-    for (const SaveRecord::ThemeFile& file : record_.files) {
-        AsFarAsPossible([&] {
-            const auto folder = ThemeFolder(file.theme);
-            RemoveIfThere(*folder, file.earlierName);
-        });
-    }
+bool SaveChanges::RemoveEarlier() {
+    bool all = true;
+    for (const SaveRecord::ThemeFile& file : record_.files)
+        all &= Succeeds([&] { RemoveIfThere(*ThemeFolder(file.theme), file.earlierName); });
+    return all;
 }
 
-void SaveChanges::RollBack() {
+bool SaveChanges::RollBack() {
+    bool all = true;
     for (const SaveRecord::ThemeFile& file : record_.files)
-        AsFarAsPossible([&] { RollBackFile(*ThemeFolder(file.theme), file); });
-    AsFarAsPossible([&] { RemoveNewTheme(); });
-    AsFarAsPossible([&] { RestoreUserTheme(); });
+        all &= Succeeds([&] { RollBackFile(*ThemeFolder(file.theme), file); });
+    all &= Succeeds([&] { RemoveNewTheme(); });
+    all &= Succeeds([&] { RestoreUserTheme(); });
+    return all;
 }
 
 void SaveChanges::RollBackFile(Folder& folder, const SaveRecord::ThemeFile& file) {
@@ -118,8 +131,8 @@ void SaveChanges::RollBackFile(Folder& folder, const SaveRecord::ThemeFile& file
 }
 
 void SaveChanges::RemoveNewTheme() {
-    const auto themes = web_.FindFolder({std::string(kThemesFolder)});
-    if (record_.newThemeFolder.empty() || !themes) return;
+    if (record_.newThemeFolder.empty()) return;
+    const auto themes = web_.OpenFolder({std::string(kThemesFolder)});
     const auto entry = themes->Find(record_.newThemeFolder);
     if (entry && entry->kind == EntryKind::kFolder) themes->RemoveFolder(entry->name);
 }
@@ -153,7 +166,7 @@ void SaveChanges::RemoveUserTheme(Folder& themes) {
 }
 
 void SaveChanges::Sweep() {
-    AsFarAsPossible([&] {
+    Succeeds([&] {
         const auto themes = disk_.OpenOrCreate(stores_.ofUser);
         RemoveTemporaryFiles(*themes, record_.program);
         RemoveIfThere(*themes, record_.theme + "#.inf");  // the description of a theme on its way
@@ -161,7 +174,7 @@ void SaveChanges::Sweep() {
         if (entry && entry->kind == EntryKind::kFolder)
             RemoveTemporaryFiles(*themes->Open(entry->name), record_.program);
     });
-    AsFarAsPossible([&] {
+    Succeeds([&] {
         const auto themes = web_.FindFolder({std::string(kThemesFolder)});
         if (!themes) return;
         RemoveTemporaryFiles(*themes, record_.program);

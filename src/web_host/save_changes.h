@@ -23,14 +23,16 @@ class SaveChanges {
     // Gives the new contents their names; what has them already stays. A file that another program
     // has changed since the save began is refused. Throws RunTimeError; call RollBack then.
     void Complete();
-    // Removes what is left of the earlier contents.
-    void RemoveEarlier();
-    // Makes the themes of web and user what they were, as far as the disk allows. Never throws.
-    void RollBack();
+    // Removes what is left of the earlier contents. False when some could not be removed.
+    bool RemoveEarlier();
+    // Makes the themes of web and user what they were, as far as the disk allows. False when
+    // something could not be rolled back.
+    bool RollBack();
     // Removes temporary files that the save's program, now dead, left in the themes' folders.
     void Sweep();
 
   private:
+    void CompleteNewTheme();
     void CompleteFile(Folder& folder, const SaveRecord::ThemeFile& file);
     void RollBackFile(Folder& folder, const SaveRecord::ThemeFile& file);
     void RemoveNewTheme();

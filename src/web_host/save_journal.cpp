@@ -26,8 +26,10 @@ std::optional<SaveRecord> SaveJournal::Read() const {
         const auto folder = disk_.Open(path_);
         if (!folder->Find(JournalName())) return {};
         return ReadSaveRecord(ReadWholeFile(*folder, JournalName(), kMaxFileBytes));
-    } catch (const RunTimeError&) {
-        return {};  // no save has ever begun here
+    } catch (const RunTimeError& error) {
+        // Without the folder no save has ever begun here.
+        if (error.Number() == ErrorNumber::kPathNotFound) return {};
+        throw;
     }
 }
 

@@ -18,7 +18,8 @@ class SaveJournal {
     // `path` is a Windows path, ThemeStores::saves.
     SaveJournal(Disk& disk, std::string path) : disk_(disk), path_(std::move(path)) {}
 
-    // The record of a save that did not end; nothing when there is none.
+    // The record of a save that did not end; nothing when there is none. Throws RunTimeError when
+    // it cannot be read.
     std::optional<SaveRecord> Read() const;
     // The machines, other than this one, on which a save of this web did not end: the user's data
     // may lie on a disk that several machines share. Each has a journal of its own.

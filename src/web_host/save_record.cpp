@@ -38,10 +38,11 @@ bool ReadNumber(const std::string& text, std::uint64_t& number) {
 
 // Takes over the value of a line with one value.
 bool ReadValue(const std::string& key, const std::string& value, SaveRecord& record) {
-    const std::map<std::string_view, std::string*> texts = {
-        {"machine", &record.machine},    {"path", &record.webPath},
-        {"webtheme", &record.webTheme},  {"theme", &record.theme},
-        {"new", &record.newThemeFolder}, {"apply", &record.appliedTheme}};
+    const std::map<std::string_view, std::string*> texts = {{"machine", &record.machine},
+                                                            {"webtheme", &record.webTheme},
+                                                            {"theme", &record.theme},
+                                                            {"new", &record.newThemeFolder},
+                                                            {"apply", &record.appliedTheme}};
     const std::map<std::string_view, std::uint64_t*> numbers = {{"program", &record.program},
                                                                 {"device", &record.webId.device},
                                                                 {"folder", &record.webId.number}};
@@ -79,7 +80,6 @@ std::string FormatSaveRecord(const SaveRecord& record) {
     std::string text(kFirstLine);
     text += Line({"machine", record.machine});
     text += Line({"program", std::to_string(record.program)});
-    text += Line({"path", record.webPath});
     text += Line({"device", std::to_string(record.webId.device)});
     text += Line({"folder", std::to_string(record.webId.number)});
     text += Line({"webtheme", record.webTheme});

@@ -26,8 +26,7 @@ struct SaveRecord {
     // Who: a program of a machine.
     std::string machine;
     std::uint64_t program = 0;
-    // Where: the web's folder.
-    std::string webPath;
+    // Where: the web's folder. The journal's own folder belongs to its path.
     FolderId webId;
     std::string webTheme;  // the theme that the web as a whole used before; empty: none
 

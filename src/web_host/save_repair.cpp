@@ -28,41 +28,44 @@ class SaveRepair {
 
     std::string Run() {
         std::string completed;
+        bool isDone = true;
         if (record_.hasEnded) {
             web_.Reports().Add("The program was stopped right after it had saved the theme " +
                                Quoted(record_.theme) + "; the save is complete.");
             completed = record_.theme;
         } else if (!IsOfThisWeb()) {
-            RollBackForUser();
+            isDone = RollBackForUser();
         } else if (!record_.isCommitted) {
-            RollBack();
+            isDone = RollBack();
         } else if (Complete()) {
             completed = record_.theme;
         }
         changes_.Sweep();
-        journal_.Remove();
+        // What the disk did not allow now is tried again at the next start.
+        if (isDone) journal_.Remove();
         return completed;
     }
 
   private:
-    bool IsOfThisWeb() const {
-        return record_.webPath == web_.Files().Path() && record_.webId == web_.Files().Root().Id();
-    }
+    bool IsOfThisWeb() const { return record_.webId == web_.Files().Root().Id(); }
 
     // Another folder stands in the web's place now, or the web was copied.
-    void RollBackForUser() {
+    bool RollBackForUser() {
         record_.files.clear();
         record_.newThemeFolder.clear();
-        if (!record_.isCommitted) changes_.RollBack();
+        const bool isDone = record_.isCommitted || changes_.RollBack();
         web_.Reports().Add("A save of the theme " + Quoted(record_.theme) +
                            " was interrupted in another folder that stood here; this web was left "
                            "as it is.");
+        return isDone;
     }
 
-    void RollBack() {
-        changes_.RollBack();
+    bool RollBack() {
+        const bool isDone = changes_.RollBack();
         web_.Reports().Add("A save of the theme " + Quoted(record_.theme) +
-                           " was interrupted; its changes were rolled back.");
+                           " was interrupted; its changes were rolled back" +
+                           (isDone ? "." : ", but not all of them could be."));
+        return isDone;
     }
 
     bool Complete() {
@@ -120,13 +123,18 @@ void RemoveLockFiles(const WebSession& web) {
     if (themes && themes->Find(kLockFile)) TryLockForSave(web, holder).Release();
 }
 
+// A save that has ended leaves its record until its program ends.
+bool IsRunning(const WebSession& web, const SaveRecord& record) {
+    return web.TheDisk().IsRunning(record.program);
+}
+
 std::string RepairOrTell(WebSession& web) {
     const SaveJournal journal(web.TheDisk(), web.Options().stores.saves);
     TellOfOthers(web, journal);
-    auto record = journal.Read();
+    const auto record = journal.Read();
     if (!record && web.Options().IsForSaving()) RemoveLockFiles(web);
     if (!record) return {};
-    if (record->hasEnded && !web.Options().IsForSaving()) return {};
+    if (record->hasEnded && (!web.Options().IsForSaving() || IsRunning(web, *record))) return {};
     if (!web.Options().IsForSaving()) {
         web.Reports().Add("A save of the theme " + Quoted(record->theme) +
                           " is running, or was interrupted; the next save repairs that.");
@@ -135,12 +143,16 @@ std::string RepairOrTell(WebSession& web) {
     std::string holder;
     const SaveLocks locks = TryLockForSave(web, holder);
     // The save is still running: its program repairs nothing, and needs no repair.
-    if (!locks.AreHeld()) return {};
-    record = journal.Read();
-    return record ? SaveRepair(web, std::move(*record)).Run() : std::string();
+    return locks.AreHeld() ? RepairWhileLocked(web) : std::string();
 }
 
 }  // namespace
+
+std::string RepairWhileLocked(WebSession& web) {
+    auto record = SaveJournal(web.TheDisk(), web.Options().stores.saves).Read();
+    if (!record || (record->hasEnded && IsRunning(web, *record))) return {};
+    return SaveRepair(web, std::move(*record)).Run();
+}
 
 void RemoveEndedRecord(const WebSession& web) {
     try {

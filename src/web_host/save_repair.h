@@ -14,6 +14,9 @@ namespace morpho {
 // Returns the theme whose save was completed; empty for none. Never throws.
 std::string RepairSave(WebSession& web);
 
+// The same while the caller holds the locks of a save. Throws RunTimeError.
+std::string RepairWhileLocked(WebSession& web);
+
 // Removes the record of this program's last save, which has ended. Never throws.
 void RemoveEndedRecord(const WebSession& web);
 

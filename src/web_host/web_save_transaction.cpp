@@ -4,6 +4,7 @@
 #include "text/ignoring_case.h"
 #include "web_host/limits.h"
 #include "web_host/page_update.h"
+#include "web_host/save_repair.h"
 #include "web_host/theme_of_web.h"
 
 namespace morpho {
@@ -40,13 +41,14 @@ WebSaveTransaction::WebSaveTransaction(WebSession& web, const std::string& theme
     const Folder& root = web.Files().Root();
     record_.machine = web.TheDisk().Machine();
     record_.program = web.TheDisk().Program();
-    record_.webPath = web.Files().Path();
     record_.webId = root.Id();
     record_.theme = theme;
     record_.changesUserTheme = purpose == Purpose::kSave;
     try {
-        Lock();
         web.Reports().Take();
+        Lock();
+        // Another program may have been killed here since this one opened the web.
+        RepairWhileLocked(web);
         record_.webTheme = ThemeOfWeb(root);
         journal_.Remove();
         if (record_.changesUserTheme) ProtectUserTheme();
@@ -201,8 +203,12 @@ void WebSaveTransaction::Commit() {
         throw;
     }
     web_.Files().RedirectTheme({}, {});
-    changes_.RemoveEarlier();
+    const bool isRemoved = changes_.RemoveEarlier();
     UpdatePages();
+    // What could not be removed may have been in use.
+    if (!isRemoved && !changes_.RemoveEarlier())
+        web_.Reports().Add("Temporary files of the save could not be deleted from the theme \"" +
+                           record_.theme + "\".");
     End();
 }
 
@@ -233,7 +239,7 @@ void WebSaveTransaction::RollBack() {
     } catch (const RunTimeError&) {
         // Then the next start may complete the save; the web is whole either way.
     }
-    changes_.RollBack();
+    isRolledBack_ = changes_.RollBack();
     End();
 }
 
@@ -259,7 +265,11 @@ void WebSaveTransaction::End() {
 void WebSaveTransaction::EndJournal() {
     // Without the locks it would be the journal of the program that has them.
     if (!locks_.AreHeld()) return;
-    if (!record_.isCommitted) return journal_.Remove();
+    if (!record_.isCommitted) {
+        // Otherwise the next start has another go at the rest.
+        if (isRolledBack_) journal_.Remove();
+        return;
+    }
     record_.hasEnded = true;
     WriteRecord(Durability::kUnflushed);
     journal_.RemoveCopies();

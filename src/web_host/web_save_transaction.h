@@ -85,6 +85,7 @@ class WebSaveTransaction : public SaveTransaction {
     bool refreshes_ = false;
     bool recalculates_ = false;
     bool hasEnded_ = false;
+    bool isRolledBack_ = true;  // nothing of a save that was not committed is left
 };
 
 // Whether the user has a theme of this name that differs from the one that the web has: applying it
