@@ -15,6 +15,7 @@ import hashlib
 import os
 import pathlib
 import random
+import re
 import shutil
 import signal
 import subprocess
@@ -161,7 +162,7 @@ def two(home, options):
             processes = [home.start(each) for each in words]
             errors = [process.communicate()[1].replace(str(home.path), "") for process in processes]
             statuses = [process.returncode for process in processes]
-            told[tuple(sorted(zip(statuses, errors)))] += 1
+            told[tuple(sorted((status, re.sub(r"program \d+", "program N", each)) for status, each in zip(statuses, errors)))] += 1
             home.expect(not home.leftovers(), "two", names, "left", home.leftovers()[:5])
             home.expect(0 in statuses and set(statuses) <= {0, 1}, "two", names, statuses, errors)
             if statuses.count(0) == 1:
@@ -199,7 +200,7 @@ def exchange(home, options):
             before = tree(outside)
             link.symlink_to(outside)
             child = exchanging(inside, link)
-            status, _ = home.run(COMMANDS[name])
+            status, errors = home.run(COMMANDS[name])
             os.kill(child, signal.SIGKILL)
             os.waitpid(child, 0)
             statuses[status] += 1
@@ -207,6 +208,10 @@ def exchange(home, options):
             if inside.is_symlink():
                 ctypes.CDLL(None).renameat2(AT_FDCWD, os.fsencode(inside), AT_FDCWD, os.fsencode(link), EXCHANGE)
             if target != "gallery" and status == 0:
+                # Temporary files that could not be deleted are told.
+                for path in inside.glob(".morpho-*"):
+                    home.expect("could not be deleted" in errors, "exchange", target, name, "left", path)
+                    path.unlink()
                 home.expect_state(good, "exchange", target, name, "answered 0, yet")
         print("exchange", target, name, dict(statuses), flush=True)
 
