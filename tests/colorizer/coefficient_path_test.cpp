@@ -113,21 +113,5 @@ TEST(ChromaPath, GivesWhatTheSamplesGive) {
     }
 }
 
-TEST(ChromaPath, TurnsSmallPairsByTheRightAngleOnAverage) {
-    // Simple rounding would carry every (1, 0) by 45 degrees a pass and end 90 degrees off after
-    // ten.
-    const QuantTable steps = Steps(10, 0);
-    const ChromaPath path(ColourMap({1, 1, 36}), {steps, steps}, {steps, steps});
-    static Block cb[1000], cr[1000];
-    for (Block& block : cb)
-        block[2] = 1;
-    for (int pass = 0; pass < 10; ++pass)
-        path.Recolor(cb, cr, std::size(cb));
-    int sum = 0;
-    for (const Block& block : cb)
-        sum += block[2];
-    EXPECT_GT(sum, 400);
-}
-
 }  // namespace
 }  // namespace colorizer
