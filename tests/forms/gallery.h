@@ -54,7 +54,6 @@ class Gallery : public Form {
                   {-180, 180, 0, 1, 20, 30},
                   On("sldHue_Scroll"),
                   On("sldHue_Change")};
-    Label lblHueValue{fraProcess, {"lblHueValue", {5160, 300, 600, 210}, "0"}, Alignment::kRight};
     Label lblQuality{fraProcess, {"lblQuality", {120, 780, 960, 210}, "&Quality:"}};
     TextBox txtQuality{fraProcess,
                        {"txtQuality", {1100, 720, 600, 315}, {}, "JPEG quality"},
@@ -91,7 +90,6 @@ class Gallery : public Form {
                            {"cmdClose", {7500, 30, 1095, 345}, "Close"},
                            [this] { Unload(); },
                            ButtonRole::kCancel};
-    Label lblStatus{*this, {"lblStatus", {60, 5640, 8000, 210}, "Ready: Tom && Jerry"}};
     Timer timer{*this, "timer", 10, On("timer_Timer")};
 
   protected:
