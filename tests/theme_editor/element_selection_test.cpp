@@ -20,15 +20,6 @@ class ElementSelectionTest : public OpenThemeWindow {
     }
 };
 
-TEST_F(ElementSelectionTest, GroupsElementsOfOneImageInOrderOfAppearance) {
-    std::vector<int> groups;
-    for (int row = 0; row < window->lstImageNames.ListCount(); ++row)
-        groups.push_back(window->lstImageNames.ItemData(row));
-    EXPECT_THAT(groups, ElementsAre(1, 2, 3, 1, 4, 5, 6));
-    window->cmbThemeLabel.UserSelect(1);
-    EXPECT_EQ(window->lstImageNames.ItemData(0), 1) << "each theme counts from 1";
-}
-
 TEST_F(ElementSelectionTest, ElementsOfOneImageAreTickedTogetherWithOneNotice) {
     Tick({});
     ExpectTicked(Check(kButton, true), {kButton}, 0);

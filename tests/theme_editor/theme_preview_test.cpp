@@ -69,22 +69,13 @@ TEST_F(ThemePreviewTest, APageThatCannotBeWrittenIsIgnored) {
 
 TEST(PreviewTemplate, HasAPlaceForEachElementOfTheCatalogueOnce) {
     std::string page = EmbeddedResources().Bytes(kTemplateResource, kPreviewTemplate);
-    std::map<std::string, int> sheets;
-    int hovered = 0;
     for (const CatalogueElement& element : kCatalogue) {
         const std::string place = '#' + std::string(element.key) + '#';
         ASSERT_NE(page.find(place), std::string::npos) << place;
         page.erase(page.find(place), place.size());
-        ++sheets[std::string(element.key.substr(0, 6)) + std::string(element.styleSheet)];
-        if (element.Attribute().ends_with("-hovered")) ++hovered;
-        EXPECT_EQ(element.selector == "body", element.Attribute() == "background-image");
     }
     EXPECT_THAT(page, Not(HasSubstr("=\"#")));
     EXPECT_THAT(page, HasSubstr("<body background=\"\""));
-    EXPECT_EQ(sheets, (std::map<std::string, int>{{"active\\graph1.css", 23},
-                                                  {"normal\\graph0.css", 13},
-                                                  {"global\\theme.css", 2}}));
-    EXPECT_EQ(hovered, 6) << "only active buttons are hovered";
 }
 
 }  // namespace
