@@ -5,12 +5,20 @@
 #include <string>
 #include <string_view>
 
+#include "platform/command_bars.h"
+#include "platform/run_time_error.h"
+
 namespace morpho {
 
 // The host's automation objects, named after its own, with the members that the editors use. The
 // objects are views: the caller owns the view, the host owns what it shows. Texts are UTF-8,
 // collections are zero-based. An index out of range and a call that the host refuses throw
 // RunTimeError (kAutomation).
+
+// A host that does not offer a member throws this.
+inline RunTimeError NotOffered() {
+    return RunTimeError(ErrorNumber::kAutomation, "The host does not offer this.");
+}
 
 // One rule of a style sheet.
 class StyleRule {
@@ -29,10 +37,29 @@ class StyleSheet {
     virtual std::unique_ptr<StyleRule> Rule(int index) const = 0;
 };
 
+// Changes of a page document that can be undone together.
+class UndoTransaction {
+  public:
+    virtual ~UndoTransaction() = default;
+    // Takes all changes since the transaction began out again.
+    virtual void Abort() = 0;
+};
+
 // The document of an open page.
 class PageDocument {
   public:
     virtual ~PageDocument() = default;
+    // The absolute address of the page.
+    virtual std::string Url() const { throw NotOffered(); }
+    // The selected text and pictures as HTML; empty when nothing is selected.
+    virtual std::string SelectionHtml() const { throw NotOffered(); }
+    // The pictures (img elements) of the body, in order of appearance.
+    virtual int ImageCount() const { throw NotOffered(); }
+    // The address of a picture, resolved against the page's.
+    virtual std::string ImageAddress(int /*index*/) const { throw NotOffered(); }
+    virtual std::unique_ptr<UndoTransaction> BeginUndoTransaction(std::string_view /*title*/) {
+        throw NotOffered();
+    }
     // Parses `html` and puts it into the body; `where` is "AfterBegin" or "BeforeEnd".
     virtual void InsertAdjacentHtml(std::string_view where, std::string_view html) = 0;
     // The style sheets of the document in order of appearance.
@@ -72,12 +99,25 @@ struct Theme {
     std::string label;  // its display title
 };
 
+// A file of the open web.
+struct WebFile {
+    std::string name;       // with the extension
+    std::string url;        // absolute
+    std::string extension;  // without the full stop; empty for none
+};
+
 // A folder of the open web.
 class WebFolder {
   public:
     virtual ~WebFolder() = default;
     virtual std::string Name() const = 0;
     virtual std::string Url() const = 0;  // absolute
+    // The folders directly in this one, without hidden ones.
+    virtual int FolderCount() const { throw NotOffered(); }
+    virtual std::unique_ptr<WebFolder> FolderAt(int /*index*/) { throw NotOffered(); }
+    // The files directly in this folder.
+    virtual int FileCount() const { throw NotOffered(); }
+    virtual WebFile FileAt(int /*index*/) const { throw NotOffered(); }
     // The folder of this name directly in this one; null when there is none.
     virtual std::unique_ptr<WebFolder> FindFolder(std::string_view name) = 0;
     // Creates a folder in this one and returns it; throws when the name exists.
@@ -98,6 +138,8 @@ class Web {
     // when it has none.
     virtual std::string ThemeProperties(int which) const = 0;
     virtual std::unique_ptr<WebWindow> ActiveWebWindow() = 0;
+    // The web's name for a person.
+    virtual std::string Title() const { throw NotOffered(); }
     // The web's absolute address.
     virtual std::string Url() const = 0;
     virtual std::unique_ptr<WebFolder> RootFolder() = 0;
@@ -148,6 +190,15 @@ class Application {
     virtual ~Application() = default;
     // The release, such as "6.0".
     virtual std::string Version() const = 0;
+    virtual std::unique_ptr<CommandBars> Bars() { throw NotOffered(); }
+    // The document of the page that the person works on; null when there is none.
+    virtual std::unique_ptr<PageDocument> ActiveDocument() { return nullptr; }
+    // An address as seen from another one, such as a page's. An absolute one comes back unchanged.
+    virtual std::string MakeAbs(std::string_view /*baseUrl*/, std::string_view /*url*/) const {
+        throw NotOffered();
+    }
+    // Shows again what the person sees of the web and of its pages.
+    virtual void RefreshViews() { throw NotOffered(); }
     // The open web; null when there is none.
     virtual std::unique_ptr<Web> ActiveWeb() = 0;
     virtual std::unique_ptr<LanguageSettings> Languages() const = 0;
