@@ -69,13 +69,13 @@ std::uint64_t MemberLength(const PackageIndex& index, std::size_t member) {
     return *length;
 }
 
-std::string FormatThemePackage(const CodePage& codePage, const ThemePackage& package) {
-    std::string bytes = package.header + '\n' + package.countLine + '\n';
-    for (const ThemePackage::Member& member : package.members)
-        bytes += codePage.ToBytes(member.name) + ',' + std::to_string(member.bytes.size()) + '\n';
-    for (const ThemePackage::Member& member : package.members)
-        bytes.append(kPackageMarker).append(member.bytes);
-    return bytes;
+std::string FormatPackageIndex(const CodePage& codePage, std::string_view header,
+                               std::string_view countLine, const std::vector<PackedFile>& members) {
+    std::string index(header);
+    index += '\n' + std::string(countLine) + '\n';
+    for (const PackedFile& member : members)
+        index += codePage.ToBytes(member.name) + ',' + std::to_string(member.length) + '\n';
+    return index;
 }
 
 }  // namespace morpho

@@ -13,18 +13,15 @@ class CodePage;
 // nothing here interprets, a line with the number of members, a line "name,length in bytes" for
 // each member, and then for each member the marker and its bytes, with nothing between them. A line
 // ends with one line feed; names are in the system's code page.
-struct ThemePackage {
-    struct Member {
-        std::string name;  // a plain file name, UTF-8
-        std::string bytes;
-    };
-    std::string header;     // the first line as it stands in the file
-    std::string countLine;  // the second one, which is carried over too
-    std::vector<Member> members;
+struct PackedFile {
+    std::string name;  // a plain file name, UTF-8
+    std::uint64_t length = 0;
 };
 
-// The package's file. The count line is written as it is, the lengths as they are now.
-std::string FormatThemePackage(const CodePage& codePage, const ThemePackage& package);
+// What stands in a package before the first marker: the two lines as given, and a line for each
+// member.
+std::string FormatPackageIndex(const CodePage& codePage, std::string_view header,
+                               std::string_view countLine, const std::vector<PackedFile>& members);
 
 // The index of a package: what it says of its members.
 struct PackageIndex {
@@ -37,6 +34,8 @@ struct PackageIndex {
 
 // What stands before the bytes of each member.
 inline constexpr std::string_view kPackageMarker = "<==MS-Theme==>";
+// An index has at most 32767 lines of at most 300 bytes.
+inline constexpr std::size_t kMaxPackageIndexBytes = 10 * 1024 * 1024;
 
 // The index of the package in `bytes`, which must outlive it. An index that contradicts itself, or
 // that names a member by anything but a plain file name or twice (also in another letter case),

@@ -100,10 +100,21 @@ std::string DiskFileSystem::ReadFile(std::string_view path) const {
     return ReadWhole(OpenForReading(diskPath), diskPath);
 }
 
+std::string DiskFileSystem::ReadPart(std::string_view path, std::uint64_t offset,
+                                     std::size_t count) const {
+    const std::string diskPath = Located(path);
+    return ReadPiece(OpenForReading(diskPath), offset, count, diskPath);
+}
+
 void DiskFileSystem::WriteFile(std::string_view path, std::string_view bytes) {
+    WriteFile(path, [&](const ByteSink& sink) { sink(bytes); });
+}
+
+void DiskFileSystem::WriteFile(std::string_view path,
+                               const std::function<void(const ByteSink&)>& write) {
     const std::string diskPath = Located(path);
     WholeFile file(diskPath, DurabilityOf(diskPath));
-    file.Write(bytes);
+    write([&](std::string_view piece) { file.Write(piece); });
     file.Commit();
 }
 

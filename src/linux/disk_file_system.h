@@ -19,7 +19,11 @@ class DiskFileSystem : public FileSystem {
     std::optional<FileEntry> Find(std::string_view path) const override;
     std::vector<FileEntry> List(std::string_view folder) const override;
     std::string ReadFile(std::string_view path) const override;
+    std::string ReadPart(std::string_view path, std::uint64_t offset,
+                         std::size_t count) const override;
     void WriteFile(std::string_view path, std::string_view bytes) override;
+    void WriteFile(std::string_view path,
+                   const std::function<void(const ByteSink&)>& write) override;
     void AppendFile(std::string_view path, std::string_view bytes) override;
     void Copy(std::string_view source, std::string_view destination) override;
     void Move(std::string_view source, std::string_view destination) override;

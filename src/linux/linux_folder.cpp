@@ -57,17 +57,8 @@ class LinuxFile : public ReadableFile {
     std::uint64_t Size() const override { return size_; }
 
     std::string Read(std::uint64_t offset, std::uint64_t count) const override {
-        std::string bytes(std::min(count, size_ > offset ? size_ - offset : 0), '\0');
-        std::size_t filled = 0;
-        while (filled < bytes.size()) {
-            const ssize_t got = ::pread(file_.Number(), bytes.data() + filled,
-                                        bytes.size() - filled, static_cast<off_t>(offset + filled));
-            if (got < 0 && errno != EINTR) throw FileError(errno, path_, kFailure);
-            if (got == 0) break;
-            if (got > 0) filled += static_cast<std::size_t>(got);
-        }
-        bytes.resize(filled);
-        return bytes;
+        return ReadPiece(file_, offset, std::min(count, size_ > offset ? size_ - offset : 0),
+                         path_);
     }
 
   private:

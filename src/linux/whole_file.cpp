@@ -45,6 +45,21 @@ bool IsAbandonedTemporaryName(std::string_view name) {
     return program && !IsProgramRunning(*program);
 }
 
+std::string ReadPiece(const Descriptor& file, std::uint64_t offset, std::size_t count,
+                      const std::string& diskPath) {
+    std::string bytes(count, '\0');
+    std::size_t filled = 0;
+    while (filled < count) {
+        const ssize_t got = ::pread(file.Number(), bytes.data() + filled, count - filled,
+                                    static_cast<off_t>(offset + filled));
+        if (got < 0 && errno != EINTR) throw FileError(errno, diskPath, "could not be read");
+        if (got == 0) break;
+        if (got > 0) filled += static_cast<std::size_t>(got);
+    }
+    bytes.resize(filled);
+    return bytes;
+}
+
 std::string ReadWhole(const Descriptor& file, const std::string& diskPath) {
     struct stat status = {};
     std::string bytes;

@@ -50,6 +50,11 @@ bool IsAbandonedTemporaryName(std::string_view name);
 bool HoldsSameBytes(const std::string& diskPath, const Descriptor& source,
                     const std::string& sourcePath);
 
+// At most `count` bytes of the open file from `offset` on, fewer only where it ends; `diskPath` is
+// for the error.
+std::string ReadPiece(const Descriptor& file, std::uint64_t offset, std::size_t count,
+                      const std::string& diskPath);
+
 // Everything in the open regular file, for reading small ones; `diskPath` is for the error.
 std::string ReadWhole(const Descriptor& file, const std::string& diskPath);
 

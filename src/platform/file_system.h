@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -24,6 +26,9 @@ struct FileEntry {
     bool IsFolder() const { return (attributes & kFolderAttribute) != 0; }
 };
 
+// Takes the next bytes of a file that is being written.
+using ByteSink = std::function<void(std::string_view)>;
+
 // Files and folders by Windows path ("C:\a\b", UTF-8, a doubled or trailing "\" is accepted).
 // Existing entries are found without regard to letter case; new ones get the spelling given. A call
 // that fails throws RunTimeError with the number of a file error and leaves no file half written.
@@ -38,8 +43,15 @@ class FileSystem {
     virtual std::vector<FileEntry> List(std::string_view folder) const = 0;
 
     virtual std::string ReadFile(std::string_view path) const = 0;
+    // At most `count` bytes from `offset` on; fewer only where the file ends.
+    virtual std::string ReadPart(std::string_view path, std::uint64_t offset,
+                                 std::size_t count) const = 0;
     // Replaces the file as a whole, or creates it; its folder must exist.
     virtual void WriteFile(std::string_view path, std::string_view bytes) = 0;
+    // The same for a file that need not fit into memory: `write` hands the bytes to its argument,
+    // piece by piece. When it throws, the file stays as it was.
+    virtual void WriteFile(std::string_view path,
+                           const std::function<void(const ByteSink&)>& write) = 0;
     // Adds to the file's end, creating it when it is missing.
     virtual void AppendFile(std::string_view path, std::string_view bytes) = 0;
     // Replaces the destination as a whole.

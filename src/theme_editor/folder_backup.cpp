@@ -7,31 +7,64 @@
 
 namespace morpho {
 
-FolderBackup::FolderBackup(FileSystem& files, const std::string& folder)
-    : files_(files), folder_(folder), existed_(FolderExists(files, folder)) {
+FolderBackup::FolderBackup(FileSystem& files, const std::string& folder, const std::string& copies)
+    : files_(files), folder_(folder), copies_(copies), existed_(FolderExists(files, folder)) {
     if (!existed_) return;
-    for (const FileEntry& entry : files_.List(folder_)) {
-        const std::string path = folder_ + '\\' + entry.name;
-        if (!entry.IsFolder()) bytes_[path] = files_.ReadFile(path);
+    try {
+        CopyFiles();
+    } catch (const std::exception&) {
+        DeleteCopies();
+        throw;
     }
 }
 
 FolderBackup::~FolderBackup() {
-    if (keepsChanges_) return;
-    for (const auto& [path, bytes] : bytes_)
-        PutBack(path, bytes);
-    try {
-        if (!existed_ && FolderExists(files_, folder_)) files_.DeleteFolder(folder_);
-    } catch (const std::exception&) {
-        // Whole files of a theme that nothing uses yet; whoever copies there next overwrites them.
+    if (!keepsChanges_) Restore();
+    DeleteCopies();
+}
+
+void FolderBackup::CopyFiles() {
+    if (FolderExists(files_, copies_)) files_.DeleteFolder(copies_);
+    files_.CreateFolder(copies_);
+    for (const FileEntry& entry : files_.List(folder_)) {
+        if (entry.IsFolder()) continue;
+        files_.Copy(folder_ + '\\' + entry.name, copies_ + '\\' + entry.name);
+        names_.push_back(entry.name);
     }
 }
 
-void FolderBackup::PutBack(const std::string& path, const std::string& bytes) {
+void FolderBackup::DeleteCopies() {
     try {
-        if (!files_.Find(path) || files_.ReadFile(path) != bytes) files_.WriteFile(path, bytes);
+        if (FolderExists(files_, copies_)) files_.DeleteFolder(copies_);
     } catch (const std::exception&) {
-        // The others may still go back.
+        // They lie in the work folder, which is deleted when the editor closes.
+    }
+}
+
+void FolderBackup::Restore() {
+    for (const std::string& name : names_)
+        RestoreFile(name);
+    try {
+        if (!existed_ && FolderExists(files_, folder_)) files_.DeleteFolder(folder_);
+    } catch (const std::exception&) {
+        // Whole files of a theme that nothing uses yet; a later copy overwrites them.
+    }
+}
+
+bool FolderBackup::IsUnchanged(const std::string& name) const {
+    const std::string path = folder_ + '\\' + name;
+    const std::string copy = copies_ + '\\' + name;
+    const auto now = files_.Find(path);
+    const auto before = files_.Find(copy);
+    return now && before && now->size == before->size &&
+           files_.ReadFile(path) == files_.ReadFile(copy);
+}
+
+void FolderBackup::RestoreFile(const std::string& name) {
+    try {
+        if (!IsUnchanged(name)) files_.Copy(copies_ + '\\' + name, folder_ + '\\' + name);
+    } catch (const std::exception&) {
+        // The other files can still be restored.
     }
 }
 

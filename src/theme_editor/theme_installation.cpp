@@ -16,9 +16,9 @@ InstalledTheme Installed(const std::string& themesFolder, const std::string& nam
     return {WithSeparator(themesFolder) + name, name};
 }
 
-// The description of a theme that is being installed waits beside the theme's folder. No theme can
-// be called so, for "#" is refused in names.
-std::string WaitingInf(const std::string& themesFolder, const std::string& name) {
+// The description of a theme that is being installed, until the theme is complete. It lies beside
+// the theme's folder. No theme can have this name, because "#" is refused in names.
+std::string TemporaryInf(const std::string& themesFolder, const std::string& name) {
     return WithSeparator(themesFolder) + name + "#.inf";
 }
 
@@ -33,20 +33,20 @@ void CreateWithParents(FileSystem& files, const std::string& folder) {
 }  // namespace
 
 ThemeInstallation::ThemeInstallation(const Platform& platform, const std::string& themesFolder,
-                                     const std::string& name)
+                                     const std::string& name, const std::string& copies)
     : platform_(platform), themesFolder_(themesFolder), name_(name) {
-    backup_.emplace(platform.files, Installed(themesFolder, name).folder);
+    backup_.emplace(platform.files, Installed(themesFolder, name).folder, copies);
 }
 
 ThemeInstallation::~ThemeInstallation() {
     backup_.reset();
     FileSystem& files = platform_.files;
     const InstalledTheme installed = Installed(themesFolder_, name_);
-    const std::string waiting = WaitingInf(themesFolder_, name_);
+    const std::string temporary = TemporaryInf(themesFolder_, name_);
     try {
         // If the folder could not be removed, this file marks it as no theme.
         const bool needed = FolderExists(files, installed.folder) && !files.Find(installed.Inf());
-        if (!needed && files.Find(waiting)) files.Delete(waiting);
+        if (!needed && files.Find(temporary)) files.Delete(temporary);
     } catch (const RunTimeError&) {
         // The next installation of that name replaces it.
     }
@@ -55,18 +55,19 @@ ThemeInstallation::~ThemeInstallation() {
 void ThemeInstallation::Install(const InstalledTheme& source, const std::string& title,
                                 const std::string& workFolder) {
     const InstalledTheme installed = Installed(themesFolder_, name_);
-    const std::string waiting = WaitingInf(themesFolder_, name_);
+    const std::string temporary = TemporaryInf(themesFolder_, name_);
     CreateWithParents(platform_.files, themesFolder_);
-    // Whoever dies here leaves the earlier description, or a folder without one, which is no theme
-    // and keeps its name free for the next attempt. The waiting file tells that folder apart.
-    WriteThemeDescription(platform_, source.Inf(), waiting, installed.folder, title);
+    // A program that is killed here leaves the earlier description, or a folder without one, which
+    // is no theme and keeps its name free for the next attempt. The temporary description tells
+    // that folder from a folder that somebody else made.
+    WriteThemeDescription(platform_, source.Inf(), temporary, installed.folder, title);
     RebuildThemePackage(platform_, source.Elm(), installed.Elm(), workFolder);
-    platform_.files.Move(waiting, installed.Inf());
+    platform_.files.Move(temporary, installed.Inf());
 }
 
 bool IsHalfInstalled(const FileSystem& files, const std::string& themesFolder,
                      const std::string& name) {
-    return files.Find(WaitingInf(themesFolder, name)) &&
+    return files.Find(TemporaryInf(themesFolder, name)) &&
            !files.Find(Installed(themesFolder, name).Inf());
 }
 

@@ -11,14 +11,15 @@ class FileSystem;
 struct InstalledTheme;
 struct Platform;
 
-// Installs a theme in a folder of themes, or replaces it there, and takes that back when it ends
-// without having been told to keep it. What a program that dies meanwhile leaves of the theme is
-// whole files, and its description, which makes it a theme, is the last to come.
+// Installs a theme in a folder of themes, or replaces it there. Unless Keep was called, its end
+// restores what was there before. If the program is killed meanwhile, every file of the theme is
+// whole, and a new theme has no description yet: without one a folder is no theme.
 class ThemeInstallation {
   public:
-    // Throws RunTimeError when what is installed as `name` cannot be read.
+    // `copies` is a folder for copies of the theme that is replaced, without a trailing "\". Throws
+    // RunTimeError when what is installed as `name` cannot be read.
     ThemeInstallation(const Platform& platform, const std::string& themesFolder,
-                      const std::string& name);
+                      const std::string& name, const std::string& copies);
     ~ThemeInstallation();
     ThemeInstallation(const ThemeInstallation&) = delete;
     ThemeInstallation& operator=(const ThemeInstallation&) = delete;
@@ -36,8 +37,8 @@ class ThemeInstallation {
     std::optional<FolderBackup> backup_;
 };
 
-// Whether the folder of this name is what an installation that never ended left behind. It is no
-// theme yet; the next one of that name completes it.
+// Whether the folder of this name is left from an installation that was interrupted. It is no
+// theme; installing a theme of that name completes it.
 bool IsHalfInstalled(const FileSystem& files, const std::string& themesFolder,
                      const std::string& name);
 

@@ -135,7 +135,7 @@ bool ThemeSave::WriteTheme() {
                        theme_.name);
     if (target_.asNew && !AddToWeb()) return false;
     if (target_.applyFlag) UpdateHostThemes();
-    installation_.emplace(program_.platform, userThemes_, target_.name);
+    installation_.emplace(program_.platform, userThemes_, target_.name, WorkCopies("#user"));
     installation_->Install(source_, target_.title, theme_.workFolder);
     return true;
 }
@@ -165,11 +165,16 @@ bool ThemeSave::AddToWeb() {
 }
 
 void ThemeSave::UpdateHostThemes() {
-    std::string work = theme_.workFolder;
-    work.pop_back();
     const std::string hostTheme = theme_.hostThemes + target_.name;
-    hostThemeBackup_.emplace(program_.platform.files, hostTheme);
-    program_.platform.files.CopyFolder(work, hostTheme);
+    hostThemeBackup_.emplace(program_.platform.files, hostTheme, WorkCopies("#host"));
+    program_.platform.files.CopyFolder(WorkCopies(""), hostTheme);
+}
+
+// A folder beside the work copy. No theme's work copy has this name, because "#" is refused in
+// names.
+std::string ThemeSave::WorkCopies(std::string_view suffix) const {
+    const std::string& work = theme_.workFolder;
+    return work.substr(0, work.size() - 1) + std::string(suffix);
 }
 
 bool ThemeSave::ShowInWeb() {

@@ -84,6 +84,7 @@ class ThemeSave {
     bool IsNameFree();
     bool AddToWeb();
     void UpdateHostThemes();
+    std::string WorkCopies(std::string_view suffix) const;
     void ApplyNewTheme();
     void RemoveWebFolder();
     void ShowChanges();
@@ -109,7 +110,7 @@ class ThemeSave {
     struct {
         std::string text;
         int icon = kCriticalIcon;
-    } message_;  // for the person, when all is over
+    } message_;  // for the person, shown at the end
 
     std::string globalThemes_;
     std::string userThemes_;

@@ -6,7 +6,7 @@ namespace morpho {
 
 void InstalledThemes::Install(const std::string& name, const Folder& theme,
                               const std::string& descriptionName,
-                              const std::vector<FileToPack>& files) {
+                              const std::vector<PackedFile>& files) {
     PackTheme(theme, descriptionName, files, name, *Entered(name));
 }
 

@@ -18,7 +18,7 @@ class InstalledThemes {
 
     // Installs the theme of this name from its folder, which has these files.
     void Install(const std::string& name, const Folder& theme, const std::string& descriptionName,
-                 const std::vector<FileToPack>& files);
+                 const std::vector<PackedFile>& files);
     // Keeps the name of a folder that is no theme from being given to one.
     void Reserve(const std::string& name);
     // Removes what is installed and was not among those of this object.

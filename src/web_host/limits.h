@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "formats/theme_package.h"
+
 namespace morpho {
 
 // What is larger is there to fill the memory: nothing that the host itself ever made comes near.
@@ -11,8 +13,7 @@ inline constexpr std::uint64_t kMegabyte = 1024 * 1024;
 // One file of a theme, and the sum of its files.
 inline constexpr std::uint64_t kMaxThemeFileBytes = 32 * kMegabyte;
 inline constexpr std::uint64_t kMaxThemeBytes = 64 * kMegabyte;
-// A package has an index besides: at most 32767 lines of at most 300 bytes.
-inline constexpr std::uint64_t kMaxPackageBytes = kMaxThemeBytes + 10 * kMegabyte;
+inline constexpr std::uint64_t kMaxPackageBytes = kMaxThemeBytes + kMaxPackageIndexBytes;
 // A page that gets another theme. It is held in memory several times over.
 inline constexpr std::uint64_t kMaxPageBytes = 16 * kMegabyte;
 // Any other file of a web that is read whole.

@@ -17,14 +17,14 @@ namespace {
 
 constexpr std::string_view kHeader = "Morpho theme package 1";
 constexpr std::size_t kMaxMembers = 32767;
-constexpr std::uint64_t kMaxIndexBytes = 10 * kMegabyte;
 
 // Whether a package can hold a file of this name: whether it comes back from one.
 bool IsPackable(const std::string& name) {
     const Windows1252CodePage codePage;
     try {
-        const std::string bytes = FormatThemePackage(codePage, {"", "1", {{name, ""}}});
-        return ReadPackageIndex(codePage, bytes).names.front() == name;
+        const std::string index = FormatPackageIndex(codePage, "", "1", {{name, 0}});
+        return ReadPackageIndex(codePage, index + std::string(kPackageMarker)).names.front() ==
+               name;
     } catch (const RunTimeError&) {
         return false;
     }
@@ -33,14 +33,9 @@ bool IsPackable(const std::string& name) {
 using Sink = std::function<void(std::string_view)>;
 
 // Hands the package's bytes over, piece by piece.
-void StreamPackage(const Folder& theme, const std::vector<FileToPack>& files, const Sink& sink) {
-    const Windows1252CodePage codePage;
-    std::string index(kHeader);
-    index += '\n' + std::to_string(files.size()) + '\n';
-    for (const FileToPack& file : files)
-        index += codePage.ToBytes(file.name) + ',' + std::to_string(file.length) + '\n';
-    sink(index);
-    for (const FileToPack& file : files) {
+void StreamPackage(const Folder& theme, const std::vector<PackedFile>& files, const Sink& sink) {
+    sink(FormatPackageIndex(Windows1252CodePage(), kHeader, std::to_string(files.size()), files));
+    for (const PackedFile& file : files) {
         const std::string bytes = ReadWholeFile(theme, file.name, kMaxThemeFileBytes);
         if (bytes.size() != file.length)
             throw EntryError(ErrorNumber::kPathFileAccess, theme, file.name, "could not be read",
@@ -51,7 +46,7 @@ void StreamPackage(const Folder& theme, const std::vector<FileToPack>& files, co
 }
 
 bool HoldsPackage(const Folder& installed, const std::string& packageName, const Folder& theme,
-                  const std::vector<FileToPack>& files) {
+                  const std::vector<PackedFile>& files) {
     const auto entry = installed.Find(packageName);
     if (!entry || entry->kind != EntryKind::kFile) return false;
     const auto existing = installed.OpenFile(entry->name);
@@ -93,7 +88,7 @@ std::optional<PackedTheme> PackedTheme::Find(const Folder& themes, const std::st
 }
 
 void PackedTheme::ReadMembers() {
-    const std::string start = package_->Read(0, kMaxIndexBytes);
+    const std::string start = package_->Read(0, kMaxPackageIndexBytes);
     const PackageIndex index = ReadPackageIndex(Windows1252CodePage(), start);
     std::uint64_t offset = start.size() - index.contents.size();
     for (std::size_t i = 0; i < index.names.size(); ++i) {
@@ -134,9 +129,9 @@ bool PackedTheme::HasMember(const std::string& name) const {
 }
 
 void PackTheme(const Folder& theme, const std::string& descriptionName,
-               const std::vector<FileToPack>& files, const std::string& name, Folder& installed) {
-    std::vector<FileToPack> packed;
-    for (const FileToPack& file : files) {
+               const std::vector<PackedFile>& files, const std::string& name, Folder& installed) {
+    std::vector<PackedFile> packed;
+    for (const PackedFile& file : files) {
         if (file.name != descriptionName && IsPackable(file.name) && packed.size() < kMaxMembers)
             packed.push_back(file);
     }

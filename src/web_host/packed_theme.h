@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "formats/theme_package.h"
 #include "web_host/disk.h"
 
 namespace morpho {
@@ -44,16 +45,10 @@ class PackedTheme {
     std::vector<std::string> names_;  // of the files, folded, sorted
 };
 
-// A file that goes into a package.
-struct FileToPack {
-    std::string name;  // as in the folder
-    std::uint64_t length = 0;
-};
-
 // Installs the theme in `theme` as "<name>.inf" and "<name>.elm" in the folder `installed`. What is
 // there already is not written again. Files whose names no package can hold are left out. Throws
 // RunTimeError.
 void PackTheme(const Folder& theme, const std::string& descriptionName,
-               const std::vector<FileToPack>& files, const std::string& name, Folder& installed);
+               const std::vector<PackedFile>& files, const std::string& name, Folder& installed);
 
 }  // namespace morpho

@@ -57,16 +57,16 @@ class ThemeUnpacker {
     bool UnpackOne(const Folder& theme, const std::string& name) {
         const std::vector<FolderEntry> entries = theme.Entries();
         if (!FindFile(entries, name + ".inf")) return false;
-        const std::vector<FileToPack> files = FilesOf(theme, entries);
+        const std::vector<PackedFile> files = FilesOf(theme, entries);
         if (SizeOf(files) > kMaxThemeBytes) return false;
         Copy(theme, files, *unpackFolder_->Create(name));
         return true;
     }
 
   private:
-    static std::uint64_t SizeOf(const std::vector<FileToPack>& files) {
+    static std::uint64_t SizeOf(const std::vector<PackedFile>& files) {
         std::uint64_t bytes = 0;
-        for (const FileToPack& file : files)
+        for (const PackedFile& file : files)
             bytes += file.length;
         return bytes;
     }
@@ -131,7 +131,7 @@ class ThemeUnpacker {
                    const std::string& name, const std::string& description) {
         const bool isNeeded = IsUnpacked(name) && !IsUnpackedAlready(name);
         if (!isNeeded && !installed_) return;
-        const std::vector<FileToPack> files = FilesOf(theme, entries);
+        const std::vector<PackedFile> files = FilesOf(theme, entries);
         if (SizeOf(files) > kMaxThemeBytes)
             return Skip(theme, "",
                         "a theme may have " + std::to_string(kMaxThemeBytes / kMegabyte) +
@@ -145,8 +145,8 @@ class ThemeUnpacker {
     }
 
     // The regular files that can be read, with one of those whose names differ in case only.
-    std::vector<FileToPack> FilesOf(const Folder& theme, const std::vector<FolderEntry>& entries) {
-        std::vector<FileToPack> files;
+    std::vector<PackedFile> FilesOf(const Folder& theme, const std::vector<FolderEntry>& entries) {
+        std::vector<PackedFile> files;
         std::set<std::string> names;
         for (const FolderEntry& entry : entries) {
             if (entry.kind != EntryKind::kFile || IsTemporaryName(entry.name)) continue;
@@ -166,8 +166,8 @@ class ThemeUnpacker {
     }
 
     // Into the private cache, where nobody else writes.
-    void Copy(const Folder& theme, const std::vector<FileToPack>& files, Folder& target) {
-        for (const FileToPack& file : files) {
+    void Copy(const Folder& theme, const std::vector<PackedFile>& files, Folder& target) {
+        for (const PackedFile& file : files) {
             const auto bytes =
                 Readable([&] { return ReadWholeFile(theme, file.name, kMaxThemeFileBytes); });
             if (bytes) WriteWholeFile(target, file.name, *bytes, Durability::kUnflushed);

@@ -158,6 +158,19 @@ void FakeFileSystem::WriteFile(std::string_view path, std::string_view bytes) {
     Store(path, bytes);
 }
 
+std::string FakeFileSystem::ReadPart(std::string_view path, std::uint64_t offset,
+                                     std::size_t count) const {
+    const std::string bytes = ReadFile(path);
+    return bytes.substr(std::min<std::size_t>(offset, bytes.size()), count);
+}
+
+void FakeFileSystem::WriteFile(std::string_view path,
+                               const std::function<void(const ByteSink&)>& write) {
+    std::string bytes;
+    write([&](std::string_view piece) { bytes += piece; });
+    WriteFile(path, bytes);
+}
+
 void FakeFileSystem::AppendFile(std::string_view path, std::string_view bytes) {
     Count(path);
     Store(path, (HasFile(path) ? File(path).bytes : std::string()) + std::string(bytes));
