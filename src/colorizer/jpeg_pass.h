@@ -14,7 +14,7 @@ std::vector<std::uint8_t> RecolorJpeg(JpegPicture& picture, const ColourMap& map
                                       std::optional<int> quality, std::size_t sizeHint);
 
 /// The same for a file. Leaves in `picture`, which is empty at first, what the new file holds. A
-/// large file of one scan is read and written at once, each in a thread of its own.
+/// large file of one scan is read and written in parallel, each in a thread of its own.
 std::vector<std::uint8_t> RecolorJpeg(std::span<const std::uint8_t> file, const ColourMap& map,
                                       std::optional<int> quality, JpegPicture& picture);
 

@@ -4,14 +4,14 @@
 
 namespace morpho {
 
-// What surrounds this process. Its temporary folder is the one handed in, whatever TMP says
-// outside.
+// The environment of this process, but with a temporary folder of the program's own instead of the
+// system's.
 class DesktopEnvironment : public Environment {
   public:
     // `temporaryFolder` is a path of the disk.
     DesktopEnvironment(ComponentVersion version, const std::string& temporaryFolder);
 
-    // TMP and TEMP are the temporary folder; others are as they are outside.
+    // TMP and TEMP are the temporary folder; all others are those of the process.
     std::string Variable(std::string_view name) const override;
     OsVersion Os() const override;
     ComponentVersion Version() const override { return version_; }

@@ -16,7 +16,7 @@ namespace morpho {
 
 namespace {
 
-// The answers of WinExec and Open, numbered as the system does.
+// The results of WinExec and Open, with the system's numbers.
 constexpr int kStarted = 33;
 constexpr int kFileNotFound = 2;
 constexpr int kNoAssociation = 31;
@@ -31,7 +31,7 @@ bool IsAddress(std::string_view file) {
     return false;
 }
 
-// In the forked child: becomes the command, or reports through the pipe why not.
+// In the forked child: runs the command, or reports through the pipe why it cannot.
 [[noreturn]] void BecomeCommand(char* const* arguments, int report) {
     ::setsid();
     const int nothing = ::open("/dev/null", O_RDWR);
@@ -85,7 +85,7 @@ bool StartDetached(const std::vector<std::string>& command) {
     for (const std::string& word : command)
         arguments.push_back(const_cast<char*>(word.c_str()));
     arguments.push_back(nullptr);
-    // The grandchild is left to the system, which clears it away when it ends.
+    // The grandchild has no parent now, so the system reaps it when it ends.
     const pid_t child = ::fork();
     if (child == 0) {
         const pid_t grandchild = ::fork();

@@ -8,8 +8,8 @@
 
 namespace morpho {
 
-// Programs and documents by way of the desktop's own opener. The help viewer of old is answered
-// with the program's help page; no other program is started by command line.
+// Opens documents with the desktop's own opener. A command line for the Windows help viewer opens
+// the program's help page; every other command line is refused.
 class DesktopShell : public Shell {
   public:
     // Starts a program with its arguments and does not wait; false when it cannot be started.
@@ -31,8 +31,8 @@ class DesktopShell : public Shell {
     Starter start_;
 };
 
-// Starts it detached from this process: it lives on when this one ends, and leaves no trace in the
-// process table when it ends itself.
+// Starts it detached from this process: it goes on when this one ends, and leaves no zombie when it
+// ends itself.
 bool StartDetached(const std::vector<std::string>& command);
 
 }  // namespace morpho

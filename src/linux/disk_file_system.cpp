@@ -126,7 +126,8 @@ void DiskFileSystem::AppendFile(std::string_view path, std::string_view bytes) {
     const int flags = O_WRONLY | O_APPEND | O_CREAT | O_NONBLOCK | O_CLOEXEC;
     Descriptor file(::open(diskPath.c_str(), flags, 0666));
     if (!file.IsOpen()) throw failure(errno);
-    // Held so that taking back half a line never takes what another program wrote behind it.
+    // The lock is held while half a line is cut off again, so that the cut never removes what
+    // another program has appended.
     ::flock(file.Number(), LOCK_EX);
     struct stat status = {};
     if (::fstat(file.Number(), &status) != 0) throw failure(errno);

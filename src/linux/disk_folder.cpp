@@ -34,7 +34,7 @@ DiskKind KindOf(int folder, const dirent& entry) {
     return KindOfMode(status.st_mode);
 }
 
-// Opens an entry of the folder, which no link and no mount leads away from. Kernels before 5.6, and
+// Opens an entry of the folder itself, not through a link or a mount. Kernels before 5.6, and
 // some sandboxes, have no openat2; then O_NOFOLLOW, which the flags hold, does it for the one step.
 int OpenBeneath(int folder, const std::string& name, int flags) {
     struct open_how how = {};

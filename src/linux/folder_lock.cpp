@@ -24,7 +24,7 @@ class LockFile : public FolderLock {
   public:
     LockFile(const DiskFolder& folder, std::string name, Descriptor file)
         : folder_(folder.Again()), name_(std::move(name)), file_(std::move(file)) {}
-    // The name goes first: who opens it from now on makes a file of their own.
+    // The name is removed first: a program that locks from now on creates a new file.
     ~LockFile() override { ::unlinkat(folder_.Number(), name_.c_str(), 0); }
     LockFile(const LockFile&) = delete;
     LockFile& operator=(const LockFile&) = delete;
@@ -56,7 +56,7 @@ Descriptor OpenLockFile(const DiskFolder& folder, const std::string& name) {
     if (!S_ISREG(status.st_mode))
         throw FileError(ErrorNumber::kPathFileAccess, folder.PathOf(name), kFailure,
                         "it is not a file");
-    // The other name may be outside of the web, and this file is written.
+    // The other name may be outside of the web, and the line below would be written into it.
     if (status.st_nlink > 1)
         throw FileError(ErrorNumber::kPathFileAccess, folder.PathOf(name), kFailure,
                         "the file has another name besides");

@@ -30,7 +30,7 @@ std::vector<std::string> RemoveFiles(const DiskFolder& folder) {
 }  // namespace
 
 void RemoveTree(const DiskFolder& folder, const std::string& name) {
-    // A loop, not a recursion: the depth of folders is whoever made them free to choose.
+    // A loop, not a recursion: folders of strangers may be of any depth.
     struct Level {
         DiskFolder folder;
         std::vector<std::string> rest;

@@ -20,7 +20,7 @@ namespace morpho {
 
 namespace {
 
-// The name as bytes of the disk. A name that would be a step elsewhere is refused.
+// The name as bytes of the disk. A name that leads out of the folder is refused.
 std::string Checked(const DiskFolder& folder, std::string_view name) {
     std::string diskName = NameToDisk(name);
     if (!IsEntryName(diskName))

@@ -24,7 +24,7 @@ class PrivateFolder {
     std::string Temporary() const { return path_ + "/temp"; }  // for the program's work files
     std::string Cache() const { return path_ + "/cache"; }     // for what the host unpacks
 
-    // What the destructor does, for a program that ends otherwise. Not safe inside a signal
+    // Does the work of the destructor, for a program that ends without one. Not safe in a signal
     // handler.
     void Remove() noexcept;
 

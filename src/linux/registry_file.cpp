@@ -23,7 +23,7 @@ namespace {
 constexpr auto kPatience = std::chrono::seconds(2);
 constexpr auto kPause = std::chrono::milliseconds(5);
 
-// Holds the right to change the file, by a lock on a file beside it: the file itself is replaced.
+// Locks a second file instead of the file itself, because that one is replaced.
 Descriptor Locked(const std::string& path) {
     const std::string beside = path + ".lock";
     Descriptor file(::open(beside.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600));
@@ -66,7 +66,7 @@ std::int32_t RegistryFile::Change(const Work& work) {
     }
 }
 
-// Only the user's keys: whatever else someone put there does not describe this machine.
+// Only the user's keys: other keys in this file do not describe this machine.
 RegistryData RegistryFile::Load() const {
     struct stat status = {};
     if (::stat(path_.c_str(), &status) != 0 && errno == ENOENT) return {};

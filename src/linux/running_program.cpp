@@ -12,7 +12,7 @@ namespace morpho {
 bool IsProgramRunning(std::uint64_t program) {
     if (program == 0 || program > std::numeric_limits<pid_t>::max()) return false;
     if (::kill(static_cast<pid_t>(program), 0) != 0 && errno == ESRCH) return false;
-    // One that has died is listed, as a zombie, until its parent has taken notice.
+    // A program that has ended is listed as a zombie until its parent has asked for its status.
     std::string status;
     std::getline(std::ifstream("/proc/" + std::to_string(program) + "/stat"), status);
     const std::size_t state = status.rfind(") ");

@@ -146,7 +146,7 @@ void WholeFile::KeepOwnerAndMode() {
         throw FileError(ErrorNumber::kPathFileAccess, path_, kCannotWrite, "it is read-only");
     if (::fchown(file_.Number(), status.st_uid, status.st_gid) != 0 &&
         ::fchown(file_.Number(), kSameOwner, status.st_gid) != 0) {
-        // Then it is the user's own file, as any program's that saves so.
+        // Then the file belongs to this user, as with any program that saves by renaming.
     }
     ::fchmod(file_.Number(), status.st_mode & 0777U);
 }

@@ -42,7 +42,7 @@ class WholeFile : public NewFile {
     Descriptor file_;
 };
 
-// Whether a file of this name was left by a program that died while it wrote.
+// Whether a file of this name was left by a program that was killed while it wrote.
 bool IsAbandonedTemporaryName(std::string_view name);
 
 // Whether a regular file, no link, stands at this path and holds the same bytes as the open

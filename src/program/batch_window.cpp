@@ -9,7 +9,7 @@ namespace morpho {
 
 namespace {
 
-// Questions have answers of their own; what only wants an OK is a refusal.
+// Questions are answered by the script; a message with nothing but OK is a refusal.
 bool IsQuestion(int flags) {
     return ButtonsOf(flags) != kOkOnly;
 }
@@ -31,7 +31,7 @@ BatchWindow::BatchWindow(const Program& program, HeadlessToolkit& toolkit)
 
 BatchWindow::~BatchWindow() {
     toolkit_.ForgetAnswers();
-    // A batch has said what it keeps; the window itself keeps nothing.
+    // The save that the batch asked for is over; the window must not ask about the rest.
     toolkit_.WillAnswer(Answer::kNo);
     window_.Unload();
 }

@@ -15,7 +15,7 @@ struct SavedTheme {
 };
 
 // A Theme Morpho window that a batch operates instead of a person, through the same controls.
-// Throws CommandError where a person could not do it, or would get a message.
+// Throws CommandError where a person could not do something, or would see an error message.
 class BatchWindow {
   public:
     // `toolkit` is the program's own.

@@ -24,7 +24,7 @@ std::string DesktopFolder(const UserFolders& folders) {
     return std::filesystem::is_directory(desktop, ignored) ? desktop : folders.home;
 }
 
-// Settings as after a first start whose greetings were answered.
+// The settings of a user who has answered the messages of the first start.
 RegistryData BatchSettings() {
     RegistryData settings;
     for (const std::string application : {"Theme Morpho", "Image Morpho"}) {

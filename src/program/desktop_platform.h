@@ -32,7 +32,8 @@ class DesktopPlatform {
     DesktopPlatform(DesktopUse use, const UserFolders& folders, Toolkit& toolkit,
                     const Resources& resources);
 
-    // The host's record of a save goes last: until then a program that is killed has it.
+    // Removes the record of the host's last save at the very end: should the program be killed
+    // before, its next start can tell that the save is complete.
     ~DesktopPlatform() { workFolder_.Remove(); }
     DesktopPlatform(const DesktopPlatform&) = delete;
     DesktopPlatform& operator=(const DesktopPlatform&) = delete;

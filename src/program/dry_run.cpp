@@ -70,7 +70,8 @@ DryRun::DryRun(const fs::path& web, const UserFolders& folders)
             themeFiles_ =
                 CopyFiles(RealUserThemes(), UserThemes(), [](const auto&) { return true; });
     } catch (const fs::filesystem_error& error) {
-        throw FileError(error.code().value(), realWeb_.string(), "could not be rehearsed on");
+        throw FileError(error.code().value(), realWeb_.string(),
+                        "could not be copied for the dry run");
     }
 }
 

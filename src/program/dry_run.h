@@ -10,8 +10,8 @@
 
 namespace morpho {
 
-// A rehearsal of a save on private copies of the files that it reads and changes, in the web and
-// in the user's data. What the save changes in the copies is what it would change.
+// A dry run of a save: it works on private copies of the files that the save reads and changes, in
+// the web and in the user's data, and finds out what changed in them.
 class DryRun {
   public:
     // Files that cannot be read are left out. Throws RunTimeError when the web cannot be opened or
@@ -19,11 +19,11 @@ class DryRun {
     DryRun(const std::filesystem::path& web, const UserFolders& folders);
 
     std::filesystem::path Web() const;
-    // The folders of the program for the rehearsal.
+    // The folders of the program for the dry run.
     UserFolders Folders() const;
-    // What has been written or deleted since, one line for a file, by its real place.
+    // What has been written or deleted since, a line for each file, by its real path.
     std::string WouldWrite() const;
-    // A text of the rehearsal, with the real places in it instead of the copies'.
+    // A text of the dry run, with the paths of the real files instead of the copies'.
     std::string WithRealPlaces(std::string text) const;
 
   private:

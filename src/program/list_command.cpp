@@ -11,7 +11,7 @@ namespace morpho {
 
 namespace {
 
-// Names come from files of others: what could move a terminal's cursor is left out.
+// Names come from files of strangers: characters that control a terminal are left out.
 std::string Printable(const std::string& text) {
     std::string printable = text;
     std::replace_if(printable.begin(), printable.end(), IsControl, '?');

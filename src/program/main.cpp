@@ -15,8 +15,8 @@ namespace {
 
 using namespace morpho;
 
-// Runs the command that a request asks for. What it has to tell besides its result, one sentence a
-// line, is in `warnings` also when it then fails.
+// Runs the command that a request asks for. `warnings` gets one sentence a line, also when the
+// command fails.
 struct Runner {
     std::string& warnings;
 
@@ -33,7 +33,7 @@ struct Runner {
 
 int main(int argc, char** argv) {
     constexpr CommandError::Status kRefused = CommandError::Status::kRefused;
-    // A file that would exceed the user's limit is an error like a full disk, not the end.
+    // A file over the user's size limit is an error like a full disk; it must not kill the program.
     std::signal(SIGXFSZ, SIG_IGN);
     std::string warnings;
     std::string failure;

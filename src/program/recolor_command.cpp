@@ -60,7 +60,7 @@ std::string Export(const RecolorRequest& request, std::string& warnings) {
 std::string Save(const RecolorRequest& request, const UserFolders& folders, std::string& warnings) {
     Batch batch(request.web, request.theme, folders);
     warnings = batch.Warnings();
-    // The same steps may be in it already; taken once more they would double.
+    // The theme may hold these steps already; running them again would apply them twice.
     if (EqualIgnoringCase(batch.CompletedTheme(), request.theme))
         throw CommandError(CommandError::Status::kRefused,
                            "An interrupted save was completed; nothing else was done.");
@@ -85,19 +85,19 @@ std::string Save(const RecolorRequest& request, const UserFolders& folders, std:
 // The save, on copies.
 std::string Rehearse(const RecolorRequest& request, const UserFolders& folders,
                      std::string& warnings) {
-    const DryRun rehearsal(request.web, folders);
+    const DryRun dryRun(request.web, folders);
     RecolorRequest there = request;
-    there.web = rehearsal.Web();
+    there.web = dryRun.Web();
     there.picture.clear();
     std::string refusal;
     try {
-        Save(there, rehearsal.Folders(), warnings);
+        Save(there, dryRun.Folders(), warnings);
     } catch (const std::exception& error) {
-        refusal = rehearsal.WithRealPlaces(error.what());
+        refusal = dryRun.WithRealPlaces(error.what());
     }
-    warnings = rehearsal.WithRealPlaces(warnings);
+    warnings = dryRun.WithRealPlaces(warnings);
     if (!refusal.empty()) throw CommandError(CommandError::Status::kRefused, refusal);
-    return rehearsal.WouldWrite();
+    return dryRun.WouldWrite();
 }
 
 }  // namespace

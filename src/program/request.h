@@ -11,7 +11,7 @@ namespace morpho {
 
 // What a command line asks for.
 
-// One step of a batch, as a person would take it in the window.
+// One step of a batch: an action that a person could do in the window.
 struct Step {
     enum class Kind {
         kSelect,
@@ -67,7 +67,7 @@ struct ApplyRequest {
     bool overwrite = false;  // the user's own replaces another one of that name in the web
 };
 
-// The command line asks for help or the version: `text` is what it gets.
+// The command line asks for help or the version: `text` is the answer.
 struct TextRequest {
     std::string text;
 };

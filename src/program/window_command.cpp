@@ -18,14 +18,14 @@ namespace morpho {
 
 namespace {
 
-// A QApplication wants arguments that outlive it, and none of ours are its.
+// A QApplication needs arguments that outlive it; the program's own are not for it.
 struct QtArguments {
     char name[7] = "morpho";
     char* values[2] = {name, nullptr};
     int count = 1;
 };
 
-// Qt's notes on the surroundings ("XDG_RUNTIME_DIR not set") mean nothing to who runs this program.
+// Messages of Qt about the environment ("XDG_RUNTIME_DIR not set") do not help the user.
 void KeepQtQuiet() {
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
         if (type == QtCriticalMsg || type == QtFatalMsg) std::cerr << text.toStdString() << "\n";

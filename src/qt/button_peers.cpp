@@ -44,7 +44,7 @@ CommandButtonPeer::CommandButtonPeer(CommandButton& button, QWidget* parent,
     QObject::connect(widget_, &QPushButton::clicked, Receiver(),
                      [this] { Did([this] { button_.UserClick(); }); });
     if (button.ShortcutKey().IsNone()) return;
-    // Not the button's own shortcut: its caption's access key takes that.
+    // Not QPushButton::setShortcut, which the caption's access key uses.
     auto* const shortcut = new QShortcut(ToQt(button.ShortcutKey()), widget_);
     shortcut->setContext(Qt::WindowShortcut);
     QObject::connect(shortcut, &QShortcut::activated, Receiver(), [this] { widget_->click(); });

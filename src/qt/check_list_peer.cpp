@@ -18,7 +18,7 @@ Qt::CheckState ToQt(bool checked) {
 
 constexpr int kRowGap = 3;  // pixels between two boxes
 
-// Lets a double click on an entry's text tick it; the box itself sees to its own clicks.
+// Ticks an entry at a double click on its text; clicks on the box are the widget's own.
 class TickOnDoubleClick : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;

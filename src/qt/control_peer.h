@@ -35,8 +35,8 @@ class ControlPeer : public Peer {
     void BeforeReport() final { context_.settling.Flush(); }
 
     const PeerContext& Context() const { return context_; }
-    // The receiver to connect the widget's signals with: they stop when the peer goes, while a
-    // widget may signal as long as it is being destroyed.
+    // Connect the widget's signals to this receiver. A widget signals even while it is destroyed;
+    // this one is destroyed with the peer, which ends the connections.
     QObject* Receiver() { return &receiver_; }
 
   private:

@@ -54,8 +54,8 @@ bool IsFrame(const QSize& chrome) {
 
 }  // namespace
 
-// A sizable window is nobody's child, so that it has its own place in the task bar and can be
-// minimised; like every form it is modal to the whole program.
+// A sizable window has no parent, so that it is in the task bar and can be minimised. Like every
+// form it is modal to the whole program.
 FormWindow::FormWindow(Form& form, QWidget* owner, PageServer& pages)
     : QDialog(form.Border() == BorderStyle::kSizable ? nullptr : owner, FlagsOf(form)),
       form_(form) {
@@ -170,7 +170,7 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     return QDialog::eventFilter(watched, event);
 }
 
-// Only now does the window system's frame stand, and a dialog opened by Form_Paint appears over
+// Only now the window system has made the frame, so that a dialog opened by Form_Paint appears over
 // this window.
 void FormWindow::FirstPainted() {
     if (painted_ || !form_.IsVisible() || !windowHandle()->isExposed()) return;
@@ -224,8 +224,9 @@ void FormWindow::changeEvent(QEvent* event) {
     if (event->type() == QEvent::WindowStateChange) GeometryChanged();
 }
 
-// What the person drags is answered at once. What code asked for is read back when it has settled,
-// and so is a change of state, which a form may answer with a message box.
+// A size that the person drags is reported immediately. One that code asked for is read back later,
+// when the window system has settled it; so is a change of state, because a form may show a message
+// box for it.
 void FormWindow::GeometryChanged() {
     if (!painted_) return;
     bool echo = true;

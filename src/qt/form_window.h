@@ -21,7 +21,7 @@ class FormWindow : public QDialog, public Peer {
     FormWindow& operator=(const FormWindow&) = delete;
 
     // Loads and shows the form and returns once it is hidden or unloaded. `stands` is called when
-    // the form stands on the screen and its first Form_Paint is over.
+    // the form is on the screen and its first Form_Paint is over.
     void RunUntilHidden(const std::function<void()>& stands);
 
     const Form& Model() const { return form_; }

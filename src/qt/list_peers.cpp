@@ -8,7 +8,7 @@ namespace morpho {
 
 namespace {
 
-// Rolling the wheel over a drop-down on the way to something else must not pick another entry.
+// A wheel that scrolls past a drop-down must not pick another entry.
 class DropDown : public QComboBox {
   public:
     using QComboBox::QComboBox;

@@ -49,7 +49,7 @@ class PageServer::SchemeHandler : public QWebEngineUrlSchemeHandler {
     const PageServer& server_;
 };
 
-// Keeps pages from reaching for anything but what is served here.
+// Refuses pages every address but those that are served here.
 class PageServer::Fence : public QWebEngineUrlRequestInterceptor {
   public:
     void interceptRequest(QWebEngineUrlRequestInfo& request) override {

@@ -31,7 +31,7 @@ class PageServer {
     QWebEngineProfile* Profile();
 
     std::string NewSite();
-    // Lets the site stand for the folder of this page (a Windows path) and gives the page's
+    // Makes the site serve the folder of this page (a Windows path) and returns the page's
     // address.
     QUrl Open(const std::string& site, std::string_view pagePath);
     void Close(const std::string& site) { folders_.erase(site); }

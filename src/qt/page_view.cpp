@@ -64,7 +64,7 @@ void PageView::Open(const QUrl& address) {
 
 void PageView::Reload() {
     loading_ = true;
-    // Even a plain refresh must read the pictures again, as nothing tells when they were rewritten.
+    // A plain refresh, too, must read the pictures again: nothing tells when they were rewritten.
     triggerPageAction(QWebEnginePage::ReloadAndBypassCache);
 }
 

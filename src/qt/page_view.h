@@ -4,7 +4,7 @@
 
 namespace morpho {
 
-// Shows a page, and only shows it: no scripts, no network, no way to another page.
+// Shows a page without scripts, network or links to other pages.
 class PageView : public QWebEngineView {
   public:
     PageView(QWebEngineProfile* profile, QWidget* parent);
@@ -12,7 +12,7 @@ class PageView : public QWebEngineView {
     void Open(const QUrl& page);
     // Shows the page and its pictures anew, at the same scroll position.
     void Reload();
-    // Whether a page that was asked for is not there yet.
+    // Whether a page is still loading.
     bool IsLoading() const { return loading_; }
 
   private:

@@ -74,7 +74,7 @@ void AppendChromiumFlags(const QByteArray& flags) {
 
 void QtToolkit::Prepare() {
     PageServer::RegisterScheme();
-    // The browser tells about itself at every start.
+    // The browser writes messages about itself at every start.
     QLoggingCategory::setFilterRules("default.info=false\nqt.webenginecontext.info=false");
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     // The browser's sandbox refuses to run as root.

@@ -17,7 +17,7 @@ class FormWindow;
 // Shows forms with Qt Widgets. A program calls Prepare, makes its QApplication, then one toolkit.
 class QtToolkit : public Toolkit {
   public:
-    // What must be settled before there is a QApplication: the browser's address scheme and
+    // To be called before there is a QApplication: sets up the browser's address scheme and
     // environment.
     static void Prepare();
 
@@ -35,8 +35,8 @@ class QtToolkit : public Toolkit {
     CapturedWindow ReleaseCapture() override;
     void SetCapture(CapturedWindow window) override;
 
-    // Calls `stands` whenever a form stands on the screen and its first Form_Paint is over: the
-    // place for a script to do what a person would.
+    // Calls `stands` whenever a form is on the screen and its first Form_Paint is over. A script
+    // can then do what a person would.
     void WhenFormStands(std::function<void(Form&)> stands) { whenFormStands_ = std::move(stands); }
     // What the screen shows of a form now, its pages painted, with the dialogs over it if wanted;
     // a null image when the form is not shown. Works without a screen.

@@ -15,7 +15,7 @@ class Settling {
     void Hold(const void* key, std::function<bool()> settle);
     // Forgets what this slider holds back.
     void Drop(const void* key);
-    // Settles now. What is refused is held back further.
+    // Settles now. A settling that is refused stays pending.
     void Flush();
 
   private:

@@ -36,8 +36,8 @@ SliderPeer::SliderPeer(Slider& slider, QWidget* parent, const PeerContext& conte
     : ControlPeer(slider, new QSlider(Qt::Horizontal, parent), context),
       slider_(slider),
       widget_(static_cast<QSlider*>(Widget())) {
-    // Not only what the mouse does: a screen reader sets the value as well. The guard keeps echoes
-    // out.
+    // A screen reader sets the value, too, not only the mouse. The base peer's guard suppresses
+    // echoes.
     QObject::connect(widget_, &QSlider::valueChanged, Receiver(),
                      [this](int value) { Report([&] { Moved(value); }); });
     QObject::connect(widget_, &QSlider::sliderReleased, Receiver(),

@@ -8,8 +8,8 @@
 
 namespace morpho {
 
-// While the thumb is dragged every step is a scroll, and letting go settles. Keys, wheel and clicks
-// beside the thumb scroll too and settle once they pause.
+// While the thumb is dragged every step is a scroll; letting it go settles. Keys, wheel and clicks
+// on the track scroll too, and settle after a pause.
 class SliderPeer : public ControlPeer {
   public:
     SliderPeer(Slider& slider, QWidget* parent, const PeerContext& context);

@@ -10,8 +10,8 @@ namespace morpho {
 
 namespace {
 
-// Up and Down are the text box's own. What else the person does to the text is reported when it is
-// done, however it came about.
+// The text box handles Up and Down itself. Every other change of the text is reported once it has
+// happened, whether it was typed, pasted or undone.
 class LineEdit : public QLineEdit {
   public:
     LineEdit(TextBox& box, QWidget* parent) : QLineEdit(parent), box_(box) {}

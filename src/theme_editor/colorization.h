@@ -6,8 +6,8 @@
 
 namespace morpho {
 
-// Recolours the selected elements and moves through the history. However the steps of the history
-// came about, the work copy shows what a fresh run of them would show.
+// Recolours the selected elements and moves through the history. The work copy always looks as if
+// the steps of the history had just been run on the originals, whatever was undone before.
 class Colorization {
   public:
     Colorization(ElementList& elements, EditHistory& history, ElementRenderer& renderer)

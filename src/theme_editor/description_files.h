@@ -18,7 +18,7 @@ bool IsReadOnlyTheme(const Platform& platform, const std::string& inf);
 void RenameDescription(const Platform& platform, const std::string& folder, const std::string& name,
                        const std::string& newName, const std::string& newTitle);
 
-// Takes back what RenameDescription did in `folder`, a copy of `originals`, for any new name. Both
+// Reverts RenameDescription in `folder`, a copy of `originals`, whatever the new name was. Both
 // have a trailing "\".
 void RestoreDescription(const Platform& platform, const std::string& folder,
                         const std::string& originals, const std::string& name);

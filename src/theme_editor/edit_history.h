@@ -20,7 +20,7 @@ class EditHistory {
     // Opens a step of neutral records, which is pending. Throws kOverflow beyond 32767 steps.
     void PushUndoStep();
     bool HasPendingStep() const { return pending_; }
-    // The next change needs a step of its own.
+    // Seals the top step: the next change opens a new one.
     void SealStep() { pending_ = false; }
 
     // The row's record in the top undo step, which must exist.

@@ -12,7 +12,7 @@ namespace morpho {
 // group; groups are numbered from 1. The elements of a group are always selected together.
 class ElementList {
   public:
-    // Called after every change. It may read the list, and must not change it.
+    // Called after every change. It may read the list, but must not change it.
     void OnChange(std::function<void()> changed) { changed_ = std::move(changed); }
 
     void Clear();

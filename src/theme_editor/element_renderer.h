@@ -43,8 +43,7 @@ class ElementRenderer {
     const EditHistory& history_;
     std::string originals_;
     std::string work_;
-    // kAsk: ask at the next JPEG element. Once asked it holds the answer, and no JPEG is asked
-    // about.
+    // kAsk: ask at the next JPEG element. Afterwards this holds the answer, and nothing is asked.
     std::int16_t askJpegQuality_ = kAsk;
     std::map<int, std::string> failures_;
 };

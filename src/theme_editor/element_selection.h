@@ -12,7 +12,7 @@ namespace morpho {
 class ElementSelection {
   public:
     // `showNotice` explains why several elements changed and returns whether it may be shown again;
-    // `changed` hears of every change that the person makes.
+    // `changed` is called for every change that the person makes.
     ElementSelection(const Program& program, ElementList& elements,
                      std::function<bool()> showNotice, std::function<void()> changed)
         : program_(program),

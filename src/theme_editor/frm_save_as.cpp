@@ -22,7 +22,7 @@ namespace morpho {
 
 namespace {
 
-// More digits than these are not counted on; every number of so many fits the counter.
+// Longer numbers are left as they are: one of this many digits fits the counter.
 constexpr std::size_t kMostDigits = 18;
 
 // The first text of the form <base without its digits><number> that the list does not hold. The

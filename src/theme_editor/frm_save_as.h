@@ -41,7 +41,7 @@ class frmSaveAs : public LoggedForm {
     void cmdCancel_Click();
 
     void ListThemesOf(const std::string& themesFolder);
-    // Says why and puts the person back into the box; always false.
+    // Shows the reason and gives the box the focus; always false.
     bool Refuse(std::string_view reason, TextBox& box);
     bool AcceptEntries();
 

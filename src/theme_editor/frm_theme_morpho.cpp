@@ -80,8 +80,8 @@ void frmThemeMorpho::LoadCurrentTheme() {
     }
 }
 
-// The earlier theme's work copy is gone: nothing of it may be shown, replayed, asked about or
-// saved. No entry is current, so that picking the same one again loads it.
+// The earlier theme's work copy is gone, so it can be neither shown nor saved. No entry is
+// current, so that picking the same one again loads it.
 void frmThemeMorpho::LoadFailed(const std::string& name) {
     currentThemeIndex_ = kNoEntry;
     ShowCurrentTheme(kNoEntry);
@@ -104,7 +104,7 @@ void frmThemeMorpho::EnableThemeControls(bool enabled) {
 void frmThemeMorpho::ShowCurrentTheme(int index) {
     revertingCombo_ = true;
     cmbThemeLabel.SetListIndex(index);
-    revertingCombo_ = false;  // nothing has reset it where that entry was shown already
+    revertingCombo_ = false;  // if that entry was shown already, no event has reset it
 }
 
 void frmThemeMorpho::ShowLoadFailure(const std::string& text) {
@@ -198,7 +198,7 @@ void frmThemeMorpho::DeleteWorkFolder() {
     try {
         if (!tempPath_.empty() && FolderExists(files, WorkRoot())) files.DeleteFolder(WorkRoot());
     } catch (const RunTimeError&) {
-        // Closing goes on; the temporary folder is swept later.
+        // Closing goes on; a later start deletes what is left in the temporary folder.
         return;
     }
 }

@@ -213,14 +213,14 @@ class frmThemeMorpho : public LoggedForm {
     void EnableThemeControls(bool enabled);
     // Shows an entry as the current theme, or none, without loading anything.
     void ShowCurrentTheme(int index);
-    // Tells in the status line; empty: nothing to tell.
+    // Shows the text in the status line; an empty one clears it.
     void ShowLoadFailure(const std::string& text);
     // Asks what to do with unsaved changes; false when the person, or a failed save, wants to stay.
     bool MayLeaveTheme(bool closing);
     // Saves the loaded theme under its own name and label.
     bool SaveLoadedTheme(bool applyFlag);
     LoadedTheme Loaded() const;
-    // Brings the window in line with how a save ended; says whether the theme was saved.
+    // Updates the window after a save; returns whether the theme was saved.
     bool Saved(SaveOutcome outcome);
     void SavePlacement();
     void DeleteWorkFolder();
@@ -237,7 +237,7 @@ class frmThemeMorpho : public LoggedForm {
 
     // Recolours the selected elements with the sliders' values; `commit` seals the step.
     void ProcessSelection(bool commit);
-    // `name` is the move's own in the log.
+    // `name` is what the log calls it, "Undo" or "Redo".
     void MoveInHistory(const std::string& name, void (Colorization::*move)());
     // A theme has been loaded: no history, neutral sliders, nothing modified.
     void BeginEditing();

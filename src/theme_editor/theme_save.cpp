@@ -33,7 +33,7 @@ std::string Hexadecimal(ErrorNumber number) {
     return text;
 }
 
-// What a save has not done that a person may expect of it.
+// Tells that the save changed the user's copy of the theme, and not the web.
 std::string UserCopyOnly(const std::string& theme, bool isThemeOfWeb) {
     return (isThemeOfWeb ? "The web shows \"" + theme + "\" without the changes"
                          : "The web does not use \"" + theme + "\"") +
@@ -126,7 +126,7 @@ bool ThemeSave::IsNameFree() {
 bool ThemeSave::WriteTheme() {
     if (!webFolder_ || !webFolder_->Exists()) {
         Log("Unable to locate/create theme folder on the web.");
-        // Nothing has been written, and the person must not think otherwise.
+        // Nothing has been written, so "Theme saved." would be wrong.
         throw RunTimeError(ErrorNumber::kObjectNotSet, "The web has no folder for the theme");
     }
     // A save as a new theme gives the work copy's description the new theme's name and leaves it
@@ -268,8 +268,8 @@ void ThemeSave::Failed(const RunTimeError& error) {
     }
 }
 
-// Every save ends here, whether it went well or not: what it has begun and not kept is undone, from
-// the last to the first, and the host is done with it before the person is told anything.
+// Every save ends here, whether it succeeded or not. What was not kept is rolled back, the last
+// change first, and before a message is shown: while it is open, other programs can save.
 void ThemeSave::End() {
     installation_.reset();
     hostThemeBackup_.reset();

@@ -29,7 +29,7 @@ struct LoadedTheme {
 struct SaveTarget {
     std::string name;
     std::string title;
-    bool applyFlag = false;  // show it in the web too
+    bool applyFlag = false;  // apply it to the web, too
     bool asNew = false;      // not over the theme it was loaded from
 };
 
@@ -48,9 +48,9 @@ struct SaveOutcome {
     std::string failure = {};
 };
 
-// One save of a theme, step by step. A save that fails or is cut short leaves whole files only: the
-// loaded theme and the web's pages are what they were, or what they should be, and what there is of
-// a new theme is completed by the next save of its name.
+// One save of a theme, step by step. A save that fails restores what was there before. If the
+// program is killed, every file is whole: the old one or the new one. The next save of the same
+// name completes a new theme that was left incomplete.
 class ThemeSave {
   public:
     // Asks for another name and saves under that, which is all that a read-only theme allows.
@@ -69,7 +69,7 @@ class ThemeSave {
     SaveOutcome Run();
 
   private:
-    // The steps in their order. One that answers false ends the save.
+    // The steps in their order. A step that returns false ends the save.
     void RunSteps();
     bool Announce();
     bool FindThemesFolders();

@@ -15,7 +15,7 @@ class ThemeSaver {
         : program_(program), form_(form), busySwitch_(busySwitch), lblStatus_(lblStatus) {}
 
     // Saves, after asking whether to overwrite; a read-only theme can only be saved as another one.
-    // The window is busy meanwhile. Whatever fails has been told to the person.
+    // The window is busy meanwhile. The person is told of every failure.
     SaveOutcome SaveTheme(const LoadedTheme& theme, const SaveTarget& target);
     // Asks for name and title, then saves as a new theme.
     SaveOutcome SaveThemeAs(const LoadedTheme& theme, bool applyFlag);

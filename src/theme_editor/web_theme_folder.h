@@ -9,8 +9,8 @@
 
 namespace morpho {
 
-// The folder of one theme in the open web, "_themes/<name>". One that was created here is deleted
-// at the end unless it is kept: a save that fails leaves the web as it was.
+// The folder of one theme in the open web, "_themes/<name>". If it was created here, it is deleted
+// at the end unless Keep was called, so that a failed save leaves the web as it was.
 class WebThemeFolder {
   public:
     WebThemeFolder(const Program& program, Web& web, const std::string& name)
