@@ -70,6 +70,8 @@ void ShowThemeWindow(const ThemeRequest& request) {
     KeepQtQuiet();
     QtToolkit::Prepare();
     QtArguments arguments;
+    // By this name of its desktop entry the desktop finds the windows' icon.
+    QApplication::setDesktopFileName("org.morpho_editors.Morpho");
     const QApplication application(arguments.count, arguments.values);
     const DiskFileSystem pages;
     const EmbeddedResources resources;
