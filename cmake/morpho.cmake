@@ -5,6 +5,10 @@ include(levels)
 add_library(morpho_options INTERFACE)
 # -Wrestrict of g++ 12 misreads the inlined std::string: it warns of overlaps at impossible offsets (GCC bug 105651).
 target_compile_options(morpho_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wno-restrict -Werror)
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+  # Checks of stack and buffers at run time. The second needs optimisation.
+  target_compile_options(morpho_options INTERFACE $<$<CONFIG:Release>:-fstack-protector-strong -D_FORTIFY_SOURCE=2>)
+endif()
 if(MORPHO_SANITIZE)
   target_compile_options(morpho_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(morpho_options INTERFACE -fsanitize=address,undefined)
