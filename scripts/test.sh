@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs what is missing, checks formatting, levels and sizes, builds, and runs every test.
+# Installs what is missing, checks formatting, levels and sizes, builds, runs every test, and checks the package.
 # usage: scripts/test.sh [debug | release | asan]      (asan: AddressSanitizer and UBSan; default: debug)
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -15,3 +15,5 @@ cmake --preset "$preset" >/dev/null
 cmake --build --preset "$preset"
 echo "== Testing ($preset)"
 ctest --preset "$preset"
+# A program under the sanitizers is not packaged.
+if [ "$preset" != asan ]; then scripts/check_package.sh "$preset"; fi
