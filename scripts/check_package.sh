@@ -4,6 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 preset=${1:-release}
+umask 022  # CPack makes folders with it, and everybody must be able to read them
 
 scripts/install_packages.sh
 echo "== Packaging ($preset)"
