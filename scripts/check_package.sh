@@ -32,7 +32,7 @@ morpho() {
     env -i HOME="$work/home" PATH=/usr/bin:/bin QT_QPA_PLATFORM=offscreen "$work/root/usr/bin/morpho" "$@"
 }
 mkdir home
-morpho list web --theme orrery | grep -q "^normal/nav-banner-image "
+morpho list web --theme orrery | grep "^normal/nav-banner-image " >/dev/null
 morpho recolor web --theme orrery --hue 90 --apply --export out --picture window.png
 unchanged=()
 for picture in web/_themes/orrery/*.gif; do
