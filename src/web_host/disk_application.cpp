@@ -16,8 +16,13 @@ class DiskLanguageSettings : public LanguageSettings {
 
 }  // namespace
 
-DiskApplication::DiskApplication(Disk& disk, FileSystem& files, const std::string& cacheFolder)
-    : disk_(disk), files_(files), unpackFolder_(cacheFolder + "\\FrontPageTempDir\\mstheme") {}
+DiskApplication::DiskApplication(Disk& disk, FileSystem& files, const std::string& cacheFolder,
+                                 HostOptions options)
+    : disk_(disk),
+      files_(files),
+      unpackFolder_(cacheFolder + "\\FrontPageTempDir\\mstheme"),
+      options_(std::move(options)),
+      bars_(options_.version, options_.clipboard) {}
 
 void DiskApplication::Open(const std::string& path, const std::optional<std::string>& onlyTheme,
                            const ThemeStores& stores) {

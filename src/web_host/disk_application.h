@@ -7,16 +7,23 @@
 
 #include "platform/file_system.h"
 #include "platform/front_page.h"
+#include "web_host/host_command_bars.h"
 #include "web_host/web_session.h"
 
 namespace morpho {
 
-// A stand-in for release 6.0 of the host, whose web is a folder on disk.
+struct HostOptions {
+    std::string version = "6.0";           // the release that it plays; any text
+    const Clipboard* clipboard = nullptr;  // for the faces of buttons; null for none
+};
+
+// A stand-in for the host, whose web is a folder on disk.
 class DiskApplication : public Application {
   public:
-    // Both must outlive it. Themes are unpacked below `cacheFolder`, a Windows path, into
+    // All must outlive it. Themes are unpacked below `cacheFolder`, a Windows path, into
     // FrontPageTempDir\mstheme.
-    DiskApplication(Disk& disk, FileSystem& files, const std::string& cacheFolder);
+    DiskApplication(Disk& disk, FileSystem& files, const std::string& cacheFolder,
+                    HostOptions options = {});
 
     // Opens the web in the folder `path`, a Windows path, in place of the one that was open; with
     // `onlyTheme` only that theme is made ready. With a store for the web its themes are installed
@@ -29,12 +36,16 @@ class DiskApplication : public Application {
     // The files of this computer.
     FileSystem& Files() const { return files_; }
 
+    // The menus and toolbars, for the window that shows them.
+    HostCommandBars& HostBars() { return bars_; }
+
     // Takes the host's own messages from now on: broken hyperlinks, pages that keep their theme.
     void SetLog(WebReports::Log log);
     // Takes what happened to single pages, whenever a save has ended and there is something.
     void SetReporter(WebReports::Reporter reporter);
 
-    std::string Version() const override { return "6.0"; }
+    std::string Version() const override { return options_.version; }
+    std::unique_ptr<CommandBars> Bars() override { return bars_.View(); }
     std::unique_ptr<Web> ActiveWeb() override;
     std::unique_ptr<LanguageSettings> Languages() const override;
     std::unique_ptr<SaveTransaction> BeginSave(std::string_view themeName) override;
@@ -43,6 +54,8 @@ class DiskApplication : public Application {
     Disk& disk_;
     FileSystem& files_;
     std::string unpackFolder_;
+    HostOptions options_;
+    HostCommandBars bars_;
     WebReports::Log log_;
     WebReports::Reporter reporter_;
     std::shared_ptr<WebSession> web_;
