@@ -47,18 +47,18 @@ class ButtonView : public CommandBarButton {
   public:
     explicit ButtonView(std::weak_ptr<HostControl> button) : button_(std::move(button)) {}
 
-    void SetStyle(int style) override { Standing(button_)->Set(&ControlLook::style, style); }
+    void SetStyle(int style) override { Standing(button_)->Set(&HostControlLook::style, style); }
     void SetPicture(std::string_view bitmap) override {
         const auto button = Standing(button_);
         if (!button->Parent()->Host().CanSetPicture())
             RefuseCall("A button of this release has no property Picture.");
-        button->Set(&ControlLook::face, std::string(bitmap));
+        button->Set(&HostControlLook::face, std::string(bitmap));
     }
     void PasteFace() override {
         const auto button = Standing(button_);
         std::string picture = button->Parent()->Host().PictureOnClipboard();
         if (picture.empty()) RefuseCall("There is no picture on the clipboard.");
-        button->Set(&ControlLook::face, std::move(picture));
+        button->Set(&HostControlLook::face, std::move(picture));
     }
     std::unique_ptr<ClickEvents> OnClick(std::function<void()> clicked) override {
         return Standing(button_)->OnClick(std::move(clicked));
@@ -79,13 +79,13 @@ class ControlView : public CommandBarControl {
     void SetTag(std::string_view tag) override { Standing(control_)->SetTag(tag); }
     std::string Caption() const override { return Standing(control_)->Look().caption; }
     void SetCaption(std::string_view caption) override {
-        Standing(control_)->Set(&ControlLook::caption, std::string(caption));
+        Standing(control_)->Set(&HostControlLook::caption, std::string(caption));
     }
     void SetTooltipText(std::string_view text) override {
-        Standing(control_)->Set(&ControlLook::tooltip, std::string(text));
+        Standing(control_)->Set(&HostControlLook::tooltip, std::string(text));
     }
     void SetBeginGroup(bool begins) override {
-        Standing(control_)->Set(&ControlLook::beginsGroup, begins);
+        Standing(control_)->Set(&HostControlLook::beginsGroup, begins);
     }
     void Delete() override { Standing(control_)->Remove(); }
     std::unique_ptr<CommandBarButton> AsButton() override {

@@ -26,7 +26,7 @@ bool IsPopupType(int type) {
 
 }  // namespace
 
-HostControl::HostControl(HostControls& parent, ControlSpec spec)
+HostControl::HostControl(HostControls& parent, HostControlSpec spec)
     : parent_(&parent), spec_(std::move(spec)) {
     if (IsPopupType(spec_.type)) controls_ = std::make_shared<HostControls>(parent.Host());
 }
@@ -69,7 +69,7 @@ void HostControl::Detach() {
     if (controls_) controls_->Clear();
 }
 
-std::shared_ptr<HostControl> HostControls::Insert(int before, ControlSpec spec) {
+std::shared_ptr<HostControl> HostControls::Insert(int before, HostControlSpec spec) {
     if (spec.type != kButtonControl && !IsPopupType(spec.type))
         RefuseCall("A control of type " + std::to_string(spec.type) + " cannot be added.");
     if (before < 1 || before > Count() + 1)

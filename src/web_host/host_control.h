@@ -19,7 +19,7 @@ class HostControls;
 inline constexpr int kAddedControlId = 1;
 
 // What a person sees of a control.
-struct ControlLook {
+struct HostControlLook {
     std::string caption = {};  // with "&" before the access key
     std::string tooltip = {};
     std::string face = {};  // the bytes of a BMP file; empty for none
@@ -29,10 +29,10 @@ struct ControlLook {
     bool isVisible = true;
 };
 
-struct ControlSpec {
+struct HostControlSpec {
     int type = kButtonControl;
     int id = kAddedControlId;
-    ControlLook look = {};
+    HostControlLook look = {};
     std::string parameter = {};
 };
 
@@ -40,7 +40,7 @@ struct ControlSpec {
 // it with Parent() null.
 class HostControl : public std::enable_shared_from_this<HostControl> {
   public:
-    HostControl(HostControls& parent, ControlSpec spec);
+    HostControl(HostControls& parent, HostControlSpec spec);
 
     int Type() const { return spec_.type; }
     int Id() const { return spec_.id; }
@@ -54,10 +54,10 @@ class HostControl : public std::enable_shared_from_this<HostControl> {
 
     const std::string& Tag() const { return tag_; }
     void SetTag(std::string_view tag) { tag_ = tag; }
-    const ControlLook& Look() const { return spec_.look; }
-    // Sets one property, such as &ControlLook::isEnabled.
+    const HostControlLook& Look() const { return spec_.look; }
+    // Sets one property, such as &HostControlLook::isEnabled.
     template <typename Value>
-    void Set(Value ControlLook::*property, std::type_identity_t<Value> value) {
+    void Set(Value HostControlLook::*property, std::type_identity_t<Value> value) {
         if (spec_.look.*property == value) return;
         spec_.look.*property = std::move(value);
         TellChanged();
@@ -77,7 +77,7 @@ class HostControl : public std::enable_shared_from_this<HostControl> {
     void Detach();
 
     HostControls* parent_;
-    ControlSpec spec_;
+    HostControlSpec spec_;
     std::string tag_;
     std::shared_ptr<HostControls> controls_;
     std::vector<std::weak_ptr<std::function<void()>>> subscribers_;
@@ -97,8 +97,8 @@ class HostControls {
     int Count() const { return static_cast<int>(controls_.size()); }
     // Adds a control before the one at `before`, from 1; Count() + 1 adds it at the end. Throws
     // RunTimeError for another position, and for a type that is neither a button nor a popup.
-    std::shared_ptr<HostControl> Insert(int before, ControlSpec spec);
-    std::shared_ptr<HostControl> Append(ControlSpec spec) {
+    std::shared_ptr<HostControl> Insert(int before, HostControlSpec spec);
+    std::shared_ptr<HostControl> Append(HostControlSpec spec) {
         return Insert(Count() + 1, std::move(spec));
     }
     // The first control that has the identifier and the tag, where they are given; with

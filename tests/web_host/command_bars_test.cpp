@@ -43,11 +43,11 @@ TEST(HostCommandBars, TellAMirrorEveryChange) {
     int opened = 0;
     const auto events = open->OnClick([&] { ++opened; });
     open->Click();
-    open->Set(&ControlLook::isEnabled, false);
-    open->Set(&ControlLook::isEnabled, false);  // no change
+    open->Set(&HostControlLook::isEnabled, false);
+    open->Set(&HostControlLook::isEnabled, false);  // no change
     open->Click();
     bars.View()->ActiveMenuBar()->Controls()->Item(1)->Delete();
-    open->Set(&ControlLook::isEnabled, true);  // no longer on a bar
+    open->Set(&HostControlLook::isEnabled, true);  // no longer on a bar
     EXPECT_EQ(mirror.told, "+&Open...@1 off &Open...@1 -&File@1 ");
     EXPECT_EQ(open->Parent(), nullptr);
     EXPECT_EQ(opened, 1);
