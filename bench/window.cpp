@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "program/desktop_platform.h"
+#include "qt/qt_clipboard.h"
 #include "qt/qt_toolkit.h"
 #include "resources/embedded_resources.h"
 #include "shared/component.h"
@@ -73,11 +74,12 @@ int main(int argc, char** argv) {
     const DiskFileSystem pages;
     const EmbeddedResources resources;
     QtToolkit toolkit(pages, {});
+    QtClipboard clipboard;
     DesktopPlatform desktop(DesktopUse::kBatch, FindUserFolders(EnvironmentVariable), toolkit,
-                            resources);
+                            resources, clipboard);
     desktop.OpenForReading(std::filesystem::absolute(argv[1]).string());
     Component component;
-    component.application = &desktop.FrontPage();
+    component.application = desktop.SharedFrontPage();
     frmThemeMorpho window({desktop.Parts(), component});
     window.Load();
     window.cmbThemeLabel.UserSelect(window.cmbThemeName.FindExact(argv[2]));

@@ -136,8 +136,8 @@ std::string GetOSInfo(const Platform& platform) {
 }
 
 std::string GetFrontPageInfo(const Program& program) {
-    const Application* application = program.component.application;
-    const auto languages = application != nullptr ? application->Languages() : nullptr;
+    const std::shared_ptr<Application>& application = program.component.application;
+    const auto languages = application ? application->Languages() : nullptr;
     if (languages == nullptr)
         throw RunTimeError(ErrorNumber::kObjectNotSet, "FrontPage's object is not set");
     std::string ids;

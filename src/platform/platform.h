@@ -3,6 +3,7 @@
 namespace morpho {
 
 class AutomationFactory;
+class Clipboard;
 class Clock;
 class CodePage;
 class ColorizerFactory;
@@ -27,6 +28,7 @@ struct Platform {
     ColorizerFactory& colorizers;
     Toolkit& toolkit;
     AutomationFactory& automation;
+    Clipboard& clipboard;
 };
 
 }  // namespace morpho

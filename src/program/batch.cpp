@@ -22,16 +22,17 @@ std::optional<std::string> OnlyTheme(const std::string& name) {
 }  // namespace
 
 Batch::Batch(const std::filesystem::path& web, const std::string& onlyTheme)
-    : desktop_(DesktopUse::kBatch, FindUserFolders(EnvironmentVariable), toolkit_, resources_) {
+    : desktop_(DesktopUse::kBatch, FindUserFolders(EnvironmentVariable), toolkit_, resources_,
+               clipboard_) {
     desktop_.OpenForReading(Absolute(web), OnlyTheme(onlyTheme));
-    component_.application = &desktop_.FrontPage();
+    component_.application = desktop_.SharedFrontPage();
 }
 
 Batch::Batch(const std::filesystem::path& web, const std::string& onlyTheme,
              const UserFolders& folders)
-    : desktop_(DesktopUse::kBatch, folders, toolkit_, resources_) {
+    : desktop_(DesktopUse::kBatch, folders, toolkit_, resources_, clipboard_) {
     desktop_.OpenForSaving(Absolute(web), OnlyTheme(onlyTheme));
-    component_.application = &desktop_.FrontPage();
+    component_.application = desktop_.SharedFrontPage();
 }
 
 std::string Batch::Warnings() {

@@ -10,6 +10,7 @@
 #include "program/desktop_platform.h"
 #include "resources/embedded_resources.h"
 #include "shared/component.h"
+#include "shared/memory_clipboard.h"
 #include "web_host/web_save_transaction.h"
 
 namespace morpho {
@@ -51,6 +52,7 @@ class Batch {
   private:
     HeadlessToolkit toolkit_;
     EmbeddedResources resources_;
+    MemoryClipboard clipboard_;
     DesktopPlatform desktop_;
     Component component_;
     Program program_{desktop_.Parts(), component_};

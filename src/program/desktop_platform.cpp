@@ -77,7 +77,7 @@ std::vector<std::string> HelpPages() {
 }  // namespace
 
 DesktopPlatform::DesktopPlatform(DesktopUse use, const UserFolders& folders, Toolkit& toolkit,
-                                 const Resources& resources)
+                                 const Resources& resources, Clipboard& clipboard)
     : workFolder_(folders.cache),
       folders_(folders),
       registry_(MakeRegistry(use, folders, FoldersOfMachine(folders, workFolder_))),
@@ -85,16 +85,17 @@ DesktopPlatform::DesktopPlatform(DesktopUse use, const UserFolders& folders, Too
       shell_(HelpPages(), StartDetached),
       environment_({"Morpho", kVersionMajor, kVersionMinor, kVersionRevision, ""},
                    workFolder_.Temporary()),
-      frontPage_(disk_, files_, ToWindowsPath(workFolder_.Cache())),
-      platform_{*registry_,   files_,    codePage_,   shell_,  clock_,
-                environment_, resources, colorizers_, toolkit, automation_} {}
+      frontPage_(std::make_shared<DiskApplication>(
+          disk_, files_, ToWindowsPath(workFolder_.Cache()), HostOptions{.clipboard = &clipboard})),
+      platform_{*registry_, files_,      codePage_, shell_,      clock_,   environment_,
+                resources,  colorizers_, toolkit,   automation_, clipboard} {}
 
 void DesktopPlatform::OpenForReading(const std::string& folder,
                                      const std::optional<std::string>& onlyTheme) {
     const std::string data = JoinDiskPath(folders_.data, "webs/" + NameOfWeb(folder));
     ThemeStores stores;
     stores.saves = ToWindowsPath(JoinDiskPath(data, "save"));
-    frontPage_.Open(ToWindowsPath(folder), onlyTheme, stores);
+    frontPage_->Open(ToWindowsPath(folder), onlyTheme, stores);
 }
 
 void DesktopPlatform::OpenForSaving(const std::string& folder,
@@ -107,10 +108,10 @@ void DesktopPlatform::OpenForSaving(const std::string& folder,
     // Where it cannot be made, saving a theme fails and says so.
     std::error_code ignored;
     std::filesystem::create_directories(microsoft, ignored);
-    frontPage_.Open(ToWindowsPath(folder), onlyTheme,
-                    {ToWindowsPath(JoinDiskPath(microsoft, "Themes")),
-                     ToWindowsPath(JoinDiskPath(data, "Microsoft Shared/Themes11")),
-                     ToWindowsPath(JoinDiskPath(data, "save"))});
+    frontPage_->Open(ToWindowsPath(folder), onlyTheme,
+                     {ToWindowsPath(JoinDiskPath(microsoft, "Themes")),
+                      ToWindowsPath(JoinDiskPath(data, "Microsoft Shared/Themes11")),
+                      ToWindowsPath(JoinDiskPath(data, "save"))});
     registry_->DescribeMachine(DescribeMachine(machine));
 }
 

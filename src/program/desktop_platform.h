@@ -27,10 +27,10 @@ enum class DesktopUse {
 // Everything that surrounds the editors on a Linux desktop, for the life of the program.
 class DesktopPlatform {
   public:
-    // The toolkit and the resources must outlive it. Throws RunTimeError when the private work
+    // Toolkit, resources and clipboard must outlive it. Throws RunTimeError when the private work
     // folder cannot be created.
     DesktopPlatform(DesktopUse use, const UserFolders& folders, Toolkit& toolkit,
-                    const Resources& resources);
+                    const Resources& resources, Clipboard& clipboard);
 
     // Removes the record of the host's last save at the very end: should the program be killed
     // before, its next start can tell that the save is complete.
@@ -47,7 +47,9 @@ class DesktopPlatform {
     // web opens also when a theme cannot be installed; WebSession::Skipped tells which.
     void OpenForSaving(const std::string& folder, const std::optional<std::string>& onlyTheme = {});
     // The host; it has no web open yet.
-    DiskApplication& FrontPage() { return frontPage_; }
+    DiskApplication& FrontPage() { return *frontPage_; }
+    // The same for Component::application, which must not outlive this object.
+    std::shared_ptr<Application> SharedFrontPage() { return frontPage_; }
     PrivateFolder& WorkFolder() { return workFolder_; }
     DiskAutomation& Automation() { return automation_; }
 
@@ -62,8 +64,8 @@ class DesktopPlatform {
     DesktopEnvironment environment_;
     ColorizerAdapterFactory colorizers_;
     LinuxDisk disk_;
-    DiskApplication frontPage_;
-    DiskAutomation automation_{frontPage_};
+    std::shared_ptr<DiskApplication> frontPage_;
+    DiskAutomation automation_{*frontPage_};
     Platform platform_;
 };
 

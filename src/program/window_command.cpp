@@ -6,6 +6,7 @@
 
 #include "forms/form.h"
 #include "program/desktop_platform.h"
+#include "qt/qt_clipboard.h"
 #include "qt/qt_toolkit.h"
 #include "resources/embedded_resources.h"
 #include "resources/resource_ids.h"
@@ -76,12 +77,13 @@ void ShowThemeWindow(const ThemeRequest& request) {
     const DiskFileSystem pages;
     const EmbeddedResources resources;
     QtToolkit toolkit(pages, resources.Bytes(kIconResource, kApplicationIcon128));
+    QtClipboard clipboard;
     DesktopPlatform desktop(DesktopUse::kWindows, FindUserFolders(EnvironmentVariable), toolkit,
-                            resources);
+                            resources, clipboard);
     desktop.OpenForSaving(std::filesystem::absolute(request.web).lexically_normal().string());
     if (!request.theme.empty()) RequireTheme(*desktop.FrontPage().Session(), request.theme);
     Component component;
-    component.application = &desktop.FrontPage();
+    component.application = desktop.SharedFrontPage();
     const Program program{desktop.Parts(), component};
     TellReports(toolkit, desktop.FrontPage().Session()->Repairs());
     desktop.FrontPage().SetReporter(

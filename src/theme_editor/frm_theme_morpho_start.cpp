@@ -60,8 +60,8 @@ void frmThemeMorpho::StartUp() {
 }
 
 void frmThemeMorpho::ConnectToHost() {
-    Application* application = TheComponent().application;
-    if (application == nullptr)
+    const std::shared_ptr<Application>& application = TheComponent().application;
+    if (!application)
         throw RunTimeError(ErrorNumber::kObjectNotSet, "FrontPage is not there");
     version_ = application->Version();
     SetFrontPageProgIDs(TheComponent(), version_);

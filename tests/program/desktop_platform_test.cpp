@@ -7,6 +7,7 @@
 #include "forms/headless_toolkit.h"
 #include "frontpage/environment_discovery.h"
 #include "resources/embedded_resources.h"
+#include "shared/memory_clipboard.h"
 #include "shared/settings.h"
 #include "support/temporary_folder.h"
 
@@ -17,12 +18,13 @@ class DesktopPlatformTest : public testing::Test {
   protected:
     std::unique_ptr<DesktopPlatform> Start(DesktopUse use) {
         const UserFolders folders{home_ / "", home_ / "cache/morpho", home_ / "data/morpho"};
-        return std::make_unique<DesktopPlatform>(use, folders, toolkit_, resources_);
+        return std::make_unique<DesktopPlatform>(use, folders, toolkit_, resources_, clipboard_);
     }
 
     TemporaryFolder home_;
     HeadlessToolkit toolkit_;
     EmbeddedResources resources_;
+    MemoryClipboard clipboard_;
 };
 
 TEST_F(DesktopPlatformTest, WindowsKeepSettingsAndBatchesForgetThem) {

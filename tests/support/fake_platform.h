@@ -4,6 +4,7 @@
 #include "forms/headless_toolkit.h"
 #include "platform/platform.h"
 #include "shared/component.h"
+#include "shared/memory_clipboard.h"
 #include "support/fake_application.h"
 #include "support/fake_automation.h"
 #include "support/fake_colorizer.h"
@@ -27,14 +28,16 @@ struct FakePlatform {
     HeadlessToolkit toolkit;
     FakeApplication application{files};
     FakeAutomation automation;
+    MemoryClipboard clipboard;
 
-    Platform platform{registry,    files,     codePage,   shell,   clock,
-                      environment, resources, colorizers, toolkit, automation};
+    Platform platform{registry,  files,      codePage, shell,      clock,    environment,
+                      resources, colorizers, toolkit,  automation, clipboard};
     Component component;
     Program program{platform, component};
 
     FakePlatform() {
-        component.application = &application;
+        // A test owns the host as a part of this object, and never loses it.
+        component.application = {std::shared_ptr<void>(), &application};
         files.PutFolder("C:\\Temp");
     }
     FakePlatform(const FakePlatform&) = delete;
