@@ -68,8 +68,8 @@ class AddIn {
     Program program_;
     AddInNames names_;
     EditorFactory makeEditor_;
-    std::unique_ptr<Form> editor_;
     std::shared_ptr<HostConnection> connection_;
+    std::unique_ptr<Form> editor_;
 };
 
 }  // namespace morpho
