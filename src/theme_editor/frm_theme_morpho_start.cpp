@@ -61,8 +61,7 @@ void frmThemeMorpho::StartUp() {
 
 void frmThemeMorpho::ConnectToHost() {
     const std::shared_ptr<Application>& application = TheComponent().application;
-    if (!application)
-        throw RunTimeError(ErrorNumber::kObjectNotSet, "FrontPage is not there");
+    if (!application) throw RunTimeError(ErrorNumber::kObjectNotSet, "FrontPage is not there");
     version_ = application->Version();
     SetFrontPageProgIDs(TheComponent(), version_);
     BringToTop();

@@ -29,8 +29,10 @@ class ControlsView : public CommandBarControls {
     }
     std::unique_ptr<CommandBarControl> Add(int type, std::string_view parameter, int before,
                                            bool /*temporary*/) override {
-        return ViewOfControl(
-            Standing()->Insert(before, {.type = type, .parameter = std::string(parameter)}));
+        HostControlSpec spec;
+        spec.type = type;
+        spec.parameter = parameter;
+        return ViewOfControl(Standing()->Insert(before, std::move(spec)));
     }
 
   private:
