@@ -16,14 +16,14 @@ using ControlReference = std::variant<int, std::string>;
 
 struct CommandBarItem {
     CommandBar* bar = nullptr;  // null: nothing is created
-    std::string tag;            // by which the item is found again
-    std::string caption;        // without access key; empty for none
-    std::string tooltip;        // empty for none
-    std::string picture;        // the bytes of a BMP file; empty for none
+    std::string tag = {};       // by which the item is found again
+    std::string caption = {};   // without access key; empty for none
+    std::string tooltip = {};   // empty for none
+    std::string picture = {};   // the bytes of a BMP file; empty for none
     // The popup of the bar under which the item goes; without one it goes on the bar itself.
-    std::optional<ControlReference> refPopup;
+    std::optional<ControlReference> refPopup = {};
     // The control there after which the item goes.
-    std::optional<ControlReference> refControl;
+    std::optional<ControlReference> refControl = {};
     // Without reference control, or when it is not there: true adds the item at the end, false
     // creates nothing.
     bool appendIfNoRef = true;

@@ -1,51 +1,72 @@
 #include "addin/add_in_im.h"
 #include "addin/add_in_tm.h"
 #include "addin/add_in_world.h"
-#include "forms/controls.h"
 #include "theme_editor/frm_prompt_duplicate.h"
 
 namespace morpho::test {
 namespace {
 
 using testing::ElementsAre;
-using testing::HasSubstr;
 
-// Stands for the image editor.
-struct Editor : Form {
-    explicit Editor(Toolkit& toolkit) : Form(toolkit, {"Editor"}) {}
-};
-
+// Both add-ins in a host; the image editor is an empty form, and the person closes what opens.
 struct AddInTest : AddInWorld, testing::Test {
-    using AddInWorld::AddInWorld;
-    AddInTM theme{world.program};
-    AddInIM image{world.program, [this] { return std::make_unique<Editor>(world.toolkit); }};
-
+    explicit AddInTest(const std::string& version = "6.0") : AddInWorld(version) {
+        for (const std::string product : {"Theme Morpho", "Image Morpho"})
+            PutSetting(product, "Logging", "2");
+        for (const char* form : {"Editor", "frmThemeMorpho"}) {
+            world.toolkit.WillPlay(form, [this](Form& opened) {
+                ++editors;
+                if (whileOpen) whileOpen();
+                opened.UserClose();
+            });
+        }
+        world.toolkit.WillPlay("frmPromptDuplicate", [this](Form& form) {
+            auto& notice = dynamic_cast<frmPromptDuplicate&>(form);
+            EXPECT_TRUE(notice.imgStop.Visible());
+            notices += notice.Caption() + ": " + notice.lblMessage.Caption() + "\n";
+            notice.chkDontShowAgain.UserSet(true);
+            notice.btnOK.UserClick();
+        });
+    }
     void TestBody() override {}
+
+    static std::string Path(const std::string& product) {
+        return "Software\\VB and VBA Program Settings\\" + product + "\\Window";
+    }
+    void PutSetting(const std::string& product, const std::string& key, const std::string& value) {
+        world.registry.Put(kCurrentUser, Path(product), key, value);
+    }
     void Connect() {
         theme.OnConnection(application);
         image.OnConnection(application);
     }
+
+    int editors = 0;
+    std::string notices;
+    std::function<void()> whileOpen;
+    std::function<std::unique_ptr<Form>()> makeEditor = [this] {
+        return std::make_unique<Form>(world.toolkit, FormSpec{"Editor"});
+    };
+    AddInTM theme{world.program};
+    AddInIM image{world.program, [this] { return makeEditor(); }};
 };
 
 TEST_F(AddInTest, LogWhatTheyDo) {
     Connect();
-    EXPECT_THAT(world.LogLines(),
-                ElementsAre("==========================", "Connecting TM: 1.04.17 ",
-                            "OS info: Win2K ver. 5.1 Build: 2600 Service Pack 2",
-                            "FP ver: 6.0 Lang(exe,UI,UIPrev,Inst): 1033,1033,0,1033",
-                            "Creating item ThemeMorpho...", "  Ref control not specified.",
-                            "  Ref item not found", "  item created", "TM connection complete",
-                            "==========================", "Connecting IM: 1.04.17 ",
-                            "OS info: Win2K ver. 5.1 Build: 2600 Service Pack 2",
-                            "FP ver: 6.0 Lang(exe,UI,UIPrev,Inst): 1033,1033,0,1033",
-                            "Creating item ImageMorphoToolbar...",
-                            "  Ref popup not specified. Adding to command bar...",
-                            "  Ref control not specified.", "  Ref item not found",
-                            "  item created", "  Changing item style for image...",
-                            "  Setting item image...", "  Item image set",
-                            "Creating item ImageMorpho...", "  Ref control not specified.",
-                            "  Ref item not found", "  item created", "IM connection complete"));
-    EXPECT_EQ(world.component.logPrefix, "IM");
+    const std::string start = "==========================", version = "1.04.17 ",
+                      os = "OS info: Win2K ver. 5.1 Build: 2600 Service Pack 2",
+                      host = "FP ver: 6.0 Lang(exe,UI,UIPrev,Inst): 1033,1033,0,1033",
+                      noPopup = "  Ref popup not specified. Adding to command bar...",
+                      noRef = "  Ref control not specified.", noItem = "  Ref item not found",
+                      created = "  item created";
+    EXPECT_THAT(
+        world.LogLines(),
+        ElementsAre(start, "Connecting TM: " + version, os, host, "Creating item ThemeMorpho...",
+                    noRef, noItem, created, "TM connection complete", start,
+                    "Connecting IM: " + version, os, host, "Creating item ImageMorphoToolbar...",
+                    noPopup, noRef, noItem, created, "  Changing item style for image...",
+                    "  Setting item image...", "  Item image set", "Creating item ImageMorpho...",
+                    noRef, noItem, created, "IM connection complete"));
 }
 
 TEST(AddIns, FillTheBarsOfEveryRelease) {
@@ -54,23 +75,17 @@ TEST(AddIns, FillTheBarsOfEveryRelease) {
         AddInTest test(version);
         const std::vector<ClipboardData> copied{{"text/plain", "copied"}, {"image/bmp", "BM"}};
         test.world.clipboard.SetContents(copied);
-        std::string notices;
-        test.world.toolkit.WillPlay("frmPromptDuplicate", [&](Form& form) {
-            auto& notice = dynamic_cast<frmPromptDuplicate&>(form);
-            EXPECT_TRUE(notice.imgStop.Visible());
-            notices += notice.Caption() + ": " + notice.lblMessage.Caption() + "\n";
-            notice.btnOK.UserClick();
-        });
         test.Connect();
+        test.Connect();  // finds its items, and no longer tells which are missing
         const bool known = version.size() > 1 && version[0] >= '4' && version[0] <= '6';
-        EXPECT_EQ(test.Menu(), known ? "[&Theme Morpho...][&Image Morpho...]" : "");
-        EXPECT_EQ(notices, known ? ""
-                                 : "Theme Morpho: Failed to create Theme morpho menu item under "
-                                   "Format menu. Theme morpho will not be accessible.\n"
-                                   "Image Morpho: Failed to create Image Morpho menu item under "
-                                   "Format menu. But it will be available on the Pictures "
-                                   "toolbar.\n");
-        EXPECT_EQ(test.Toolbar(), "[Image Morpho]");
+        EXPECT_EQ(test.Shown(),
+                  known ? "[&Theme Morpho...][&Image Morpho...][Image Morpho]" : "[Image Morpho]");
+        EXPECT_EQ(test.notices, known ? ""
+                                      : "Theme Morpho: Failed to create Theme morpho menu item "
+                                        "under Format menu. Theme morpho will not be accessible.\n"
+                                        "Image Morpho: Failed to create Image Morpho menu item "
+                                        "under Format menu. But it will be available on the "
+                                        "Pictures toolbar.\n");
         const HostControlLook& look = test.bars.Pictures()->controls->All()[0]->Look();
         EXPECT_EQ(look.face, "BM face");
         EXPECT_EQ(look.style, kIconAndCaptionStyle);
@@ -78,82 +93,55 @@ TEST(AddIns, FillTheBarsOfEveryRelease) {
     }
 }
 
-TEST_F(AddInTest, ReuseTheirItemsAndTakeThemAwayAtTheEnd) {
+TEST_F(AddInTest, TakeTheirItemsAwayAtTheEnd) {
     PutSetting("Image Morpho", "Splash", "0");
     Connect();
-    bars.Menu(HostMenu::kFormat).All()[1]->Set(&HostControlLook::caption, "Mine");
-    Connect();
-    EXPECT_EQ(Menu(), "[&Theme Morpho...][Mine]");
     std::weak_ptr<Application> host = application;
     application.reset();
     theme.OnDisconnection();
     EXPECT_FALSE(host.expired());
     image.OnDisconnection();
     EXPECT_TRUE(host.expired());
-    EXPECT_EQ(Menu() + Toolbar(), "");
+    EXPECT_EQ(Shown(), "");
     EXPECT_EQ(world.registry.UserText(Path("Image Morpho"), "Splash"), std::nullopt);
 }
 
 TEST_F(AddInTest, StayOutWhenTheirLogModeIsNoNumber) {
-    world.TurnLogOn();
     PutSetting("Theme Morpho", "Logging", "yes");
     PutSetting("Image Morpho", "Logging", "");
     Connect();
     EXPECT_THAT(world.LogLines(), ElementsAre("Error connecting TM: Type mismatch",
                                               "IM connection error: Type mismatch"));
-    EXPECT_EQ(Menu() + Toolbar(), "");
+    EXPECT_EQ(Shown(), "");
 }
 
-TEST_F(AddInTest, NoLongerTellOfMissingItemsWhenThePersonHasHeardEnough) {
-    bars.MenuBar()->controls->All()[2]->Remove();
-    int notices = 0;
-    world.toolkit.WillPlay("frmPromptDuplicate", [&](Form& form) {
-        auto& notice = dynamic_cast<frmPromptDuplicate&>(form);
-        notice.chkDontShowAgain.UserSet(true);
-        ++notices;
-        notice.btnOK.UserClick();
-    });
-    theme.OnConnection(application);
-    theme.OnConnection(application);
-    EXPECT_EQ(notices, 1);
-    EXPECT_EQ(world.registry.UserText(Path("Theme Morpho"), "NoTMAddinError"), "0");
-}
-
-TEST_F(AddInTest, OpenTheEditorFromEitherItemAndTellWhenItCannotOpen) {
+TEST_F(AddInTest, OpenTheirEditorsAndTellWhenOneCannotOpen) {
     Connect();
-    int opened = 0;
-    world.toolkit.WillPlay("Editor", [&](Form& form) {
-        ++opened;
-        Click("ImageMorpho");     // it is open
-        image.OnDisconnection();  // the host closes meanwhile
-        EXPECT_NE(world.component.application, nullptr);
-        form.UserClose();
-    });
-    Click("ImageMorphoToolbar");
-    Click("ImageMorpho");
-    EXPECT_EQ(opened, 1);
-
-    AddInIM broken(world.program, []() -> std::unique_ptr<Form> {
+    const auto theirs = format.All();
+    bars.Pictures()->controls->All()[0]->Click();
+    theirs[0]->Click();
+    EXPECT_EQ(editors, 2);
+    makeEditor = []() -> std::unique_ptr<Form> {
         throw RunTimeError(ErrorNumber::kCannotCreateComponent, "No editor");
-    });
-    broken.OnConnection(application);
-    Click("ImageMorpho");
-    ASSERT_EQ(world.toolkit.Messages().size(), 1U);
-    EXPECT_EQ(world.toolkit.Messages()[0].title, "Error!");
-    EXPECT_EQ(world.toolkit.Messages()[0].text,
+    };
+    theirs[1]->Click();
+    EXPECT_EQ(world.toolkit.Messages().back().title, "Error!");
+    EXPECT_EQ(world.toolkit.Messages().back().text,
               "An error occurred in the COM add-in named 'Morpho'.\r\nError #:429\r\nNo editor");
 }
 
-TEST_F(AddInTest, OpenTheThemeEditorInsideTheHost) {
+TEST_F(AddInTest, KeepTheHostForAnEditorThatIsOpen) {
     Connect();
-    std::string shown;
-    world.toolkit.WillPlay("frmThemeMorpho", [&](Form& form) {
-        shown += form.Caption();
-        form.UserClose();
-    });
-    Click("ThemeMorpho");
-    Click("ThemeMorpho");
-    EXPECT_EQ(shown, "Theme MorphoTheme Morpho");
+    const auto button = format.All()[1];
+    whileOpen = [&] {
+        if (editors == 1) button->Click();  // only brings it to the top
+        theme.OnDisconnection();
+        image.OnDisconnection();
+        EXPECT_NE(world.component.application, nullptr);
+    };
+    button->Click();
+    EXPECT_EQ(editors, 1);
+    EXPECT_EQ(world.component.application, nullptr);
 }
 
 }  // namespace

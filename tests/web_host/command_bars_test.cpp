@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "shared/memory_clipboard.h"
 #include "support/command_bars_contract.h"
 #include "web_host/host_command_bars.h"
 
@@ -52,18 +51,6 @@ TEST(HostCommandBars, TellAMirrorEveryChange) {
     EXPECT_EQ(open->Parent(), nullptr);
     EXPECT_EQ(opened, 1);
     bars.RemoveObserver(mirror);
-}
-
-TEST(HostCommandBars, TakeAFaceAsTheirReleaseDoes) {
-    MemoryClipboard clipboard;
-    HostCommandBars old("4.0", &clipboard);
-    const auto button = old.Pictures()->controls->Append({});
-    const auto view = old.View()->Item("Pictures")->Controls()->Item(1)->AsButton();
-    EXPECT_THROW(view->SetPicture("BM"), RunTimeError);
-    EXPECT_THROW(view->PasteFace(), RunTimeError);
-    clipboard.SetPicture("BM pasted");
-    view->PasteFace();
-    EXPECT_EQ(button->Look().face, "BM pasted");
 }
 
 }  // namespace
