@@ -5,7 +5,8 @@
 
 namespace morpho {
 
-// The notice that several theme elements share one image.
+// A notice that the person can silence: that several theme elements share one image, or that an
+// add-in has not found a place for its command.
 class frmPromptDuplicate : public LoggedForm {
   public:
     explicit frmPromptDuplicate(const Program& program);
