@@ -243,13 +243,16 @@ void RefuseEmptyValues(int argc, const char* const* argv) {
     }
 }
 
-[[noreturn]] void RefuseCommandLine(const CLI::App& app, const CLI::ParseError& error,
-                                    const char* first) {
-    const bool isUnknown = first != nullptr && first[0] != '-' && app.get_subcommands().empty();
-    throw CommandError(
-        CommandError::Status::kWrongUsage,
-        (isUnknown ? "\"" + std::string(first) + "\" is no command" : std::string(error.what())) +
-            ". See morpho --help.");
+[[noreturn]] void RefuseCommandLine(const std::string& reason) {
+    throw CommandError(CommandError::Status::kWrongUsage, reason + ". See morpho --help.");
+}
+
+// A mistyped command looks like the name of a web.
+void RequireFolder(const WebRequest& request) {
+    std::error_code ignored;
+    const auto& web = request.web;
+    if (web.empty() || web.has_parent_path() || std::filesystem::exists(web, ignored)) return;
+    RefuseCommandLine("\"" + web.string() + "\" is neither a command nor a folder");
 }
 
 }  // namespace
@@ -257,7 +260,14 @@ void RefuseEmptyValues(int argc, const char* const* argv) {
 Request ParseCommandLine(int argc, const char* const* argv, const std::string& version) {
     CLI::App app("Recolours the graphics of FrontPage webs.", "morpho");
     app.set_version_flag("--version", "morpho " + version);
-    app.require_subcommand(1);
+    app.require_subcommand(0, 1);
+    WebRequest web;
+    app.add_option("WEB", web.web, "Folder of the web to open; the last one if not given")
+        ->type_name("")
+        ->check(NotEmpty());
+    app.add_option("--host-version", web.hostVersion, "Release of FrontPage to play: 4.0, 5.0, 6.0")
+        ->type_name("RELEASE")
+        ->check(NotEmpty());
     ThemeRequest theme;
     ListRequest list;
     RecolorRequest recolor;
@@ -275,7 +285,11 @@ Request ParseCommandLine(int argc, const char* const* argv, const std::string& v
     } catch (const CLI::CallForHelp&) {
         return TextRequest{app.help()};
     } catch (const CLI::ParseError& error) {
-        RefuseCommandLine(app, error, argc > 1 ? argv[1] : nullptr);
+        RefuseCommandLine(error.what());
+    }
+    if (app.get_subcommands().empty()) {
+        RequireFolder(web);
+        return web;
     }
     if (*themeCommand) return theme;
     if (*listCommand) return list;

@@ -36,14 +36,9 @@ RegistryData BatchSettings() {
     return settings;
 }
 
-MachineFolders FoldersOfMachine(const UserFolders& folders, const PrivateFolder& workFolder) {
-    MachineFolders machine;
-    machine.cache = ToWindowsPath(workFolder.Cache());
-    machine.appData = ToWindowsPath(JoinDiskPath(folders.data, "AppData"));
-    machine.desktop = ToWindowsPath(DesktopFolder(folders));
-    machine.commonFiles = ToWindowsPath(JoinDiskPath(folders.data, "CommonFiles"));
-    machine.program = ToWindowsPath(ProgramFolder());
-    return machine;
+// Releases before 6 keep their copies of themes in the temporary folder.
+bool HasCache(const std::string& hostVersion) {
+    return hostVersion.starts_with("6");
 }
 
 // A folder name that is always the same for the web at this path: its own name, for people, and the
@@ -57,14 +52,13 @@ std::string NameOfWeb(const std::string& webFolder) {
 }
 
 std::unique_ptr<MemoryRegistry> MakeRegistry(DesktopUse use, const UserFolders& folders,
-                                             const MachineFolders& machine) {
+                                             const RegistryData& machine) {
     if (use == DesktopUse::kBatch)
-        return std::make_unique<MemoryRegistry>(DescribeMachine(machine), BatchSettings());
+        return std::make_unique<MemoryRegistry>(machine, BatchSettings());
     // Where it cannot be made, there are no logs; the editors run without.
     std::error_code ignored;
     std::filesystem::create_directories(JoinDiskPath(folders.data, "AppData"), ignored);
-    return std::make_unique<RegistryFile>(JoinDiskPath(folders.data, "registry.reg"),
-                                          DescribeMachine(machine));
+    return std::make_unique<RegistryFile>(JoinDiskPath(folders.data, "registry.reg"), machine);
 }
 
 // Beside an installed program, and in the sources of one that was only built.
@@ -77,18 +71,30 @@ std::vector<std::string> HelpPages() {
 }  // namespace
 
 DesktopPlatform::DesktopPlatform(DesktopUse use, const UserFolders& folders, Toolkit& toolkit,
-                                 const Resources& resources, Clipboard& clipboard)
+                                 const Resources& resources, Clipboard& clipboard,
+                                 const std::string& hostVersion)
     : workFolder_(folders.cache),
       folders_(folders),
-      registry_(MakeRegistry(use, folders, FoldersOfMachine(folders, workFolder_))),
+      hostVersion_(hostVersion),
+      registry_(MakeRegistry(use, folders, DescribeMachine(Machine(), hostVersion))),
       files_(workFolder_.Path()),
       shell_(HelpPages(), StartDetached),
       environment_({"Morpho", kVersionMajor, kVersionMinor, kVersionRevision, ""},
                    workFolder_.Temporary()),
       frontPage_(std::make_shared<DiskApplication>(
-          disk_, files_, ToWindowsPath(workFolder_.Cache()), HostOptions{.clipboard = &clipboard})),
+          disk_, files_,
+          ToWindowsPath(HasCache(hostVersion) ? workFolder_.Cache() : workFolder_.Temporary()),
+          HostOptions{hostVersion, &clipboard})),
       platform_{*registry_, files_,      codePage_, shell_,      clock_,   environment_,
                 resources,  colorizers_, toolkit,   automation_, clipboard} {}
+
+MachineFolders DesktopPlatform::Machine() const {
+    return {.cache = ToWindowsPath(workFolder_.Cache()),
+            .appData = ToWindowsPath(JoinDiskPath(folders_.data, "AppData")),
+            .desktop = ToWindowsPath(DesktopFolder(folders_)),
+            .commonFiles = ToWindowsPath(JoinDiskPath(folders_.data, "CommonFiles")),
+            .program = ToWindowsPath(ProgramFolder())};
+}
 
 void DesktopPlatform::OpenForReading(const std::string& folder,
                                      const std::optional<std::string>& onlyTheme) {
@@ -100,7 +106,7 @@ void DesktopPlatform::OpenForReading(const std::string& folder,
 
 void DesktopPlatform::OpenForSaving(const std::string& folder,
                                     const std::optional<std::string>& onlyTheme) {
-    MachineFolders machine = FoldersOfMachine(folders_, workFolder_);
+    MachineFolders machine = Machine();
     const std::string data = JoinDiskPath(folders_.data, "webs/" + NameOfWeb(folder));
     machine.commonFiles = ToWindowsPath(data);
     const std::string microsoft = JoinDiskPath(folders_.data, "AppData/Microsoft");
@@ -108,11 +114,13 @@ void DesktopPlatform::OpenForSaving(const std::string& folder,
     // Where it cannot be made, saving a theme fails and says so.
     std::error_code ignored;
     std::filesystem::create_directories(microsoft, ignored);
-    frontPage_->Open(ToWindowsPath(folder), onlyTheme,
-                     {ToWindowsPath(JoinDiskPath(microsoft, "Themes")),
-                      ToWindowsPath(JoinDiskPath(data, "Microsoft Shared/Themes11")),
-                      ToWindowsPath(JoinDiskPath(data, "save"))});
-    registry_->DescribeMachine(DescribeMachine(machine));
+    frontPage_->Open(
+        ToWindowsPath(folder), onlyTheme,
+        {ToWindowsPath(JoinDiskPath(microsoft, "Themes")),
+         ToWindowsPath(JoinDiskPath(
+             data, "Microsoft Shared/Themes" + std::string(HasCache(hostVersion_) ? "11" : ""))),
+         ToWindowsPath(JoinDiskPath(data, "save"))});
+    registry_->DescribeMachine(DescribeMachine(machine, hostVersion_));
 }
 
 }  // namespace morpho

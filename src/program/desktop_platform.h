@@ -16,6 +16,7 @@
 #include "shared/memory_registry.h"
 #include "web_host/disk_application.h"
 #include "web_host/disk_explorer.h"
+#include "web_host/machine_description.h"
 
 namespace morpho {
 
@@ -27,10 +28,12 @@ enum class DesktopUse {
 // Everything that surrounds the editors on a Linux desktop, for the life of the program.
 class DesktopPlatform {
   public:
-    // Toolkit, resources and clipboard must outlive it. Throws RunTimeError when the private work
+    // Toolkit, resources and clipboard must outlive it; `hostVersion` is the release that the host
+    // plays. Throws RunTimeError when the private work
     // folder cannot be created.
     DesktopPlatform(DesktopUse use, const UserFolders& folders, Toolkit& toolkit,
-                    const Resources& resources, Clipboard& clipboard);
+                    const Resources& resources, Clipboard& clipboard,
+                    const std::string& hostVersion = "6.0");
 
     // Removes the record of the host's last save at the very end: should the program be killed
     // before, its next start can tell that the save is complete.
@@ -54,8 +57,11 @@ class DesktopPlatform {
     DiskAutomation& Automation() { return automation_; }
 
   private:
+    MachineFolders Machine() const;
+
     PrivateFolder workFolder_;
     UserFolders folders_;
+    std::string hostVersion_;
     std::unique_ptr<MemoryRegistry> registry_;
     DiskFileSystem files_;
     Windows1252CodePage codePage_;

@@ -9,6 +9,7 @@
 #include "program/command_line.h"
 #include "program/list_command.h"
 #include "program/recolor_command.h"
+#include "program/web_command.h"
 #include "program/window_command.h"
 
 namespace {
@@ -21,6 +22,7 @@ struct Runner {
     std::string& warnings;
 
     void operator()(const TextRequest& request) const { std::cout << request.text; }
+    void operator()(const WebRequest& request) const { ShowWebWindow(request); }
     void operator()(const ThemeRequest& request) const { ShowThemeWindow(request); }
     void operator()(const ListRequest& request) const { std::cout << List(request, warnings); }
     void operator()(const ApplyRequest& request) const { Apply(request, warnings); }

@@ -30,6 +30,11 @@ struct Step {
     int number = 0;  // a slider's value, or the JPEG quality
 };
 
+struct WebRequest {
+    std::filesystem::path web;  // empty: the last one
+    std::string hostVersion = "6.0";
+};
+
 struct ThemeRequest {
     std::filesystem::path web;
     std::string theme;  // empty: the web's first
@@ -72,7 +77,8 @@ struct TextRequest {
     std::string text;
 };
 
-using Request = std::variant<TextRequest, ThemeRequest, ListRequest, RecolorRequest, ApplyRequest>;
+using Request =
+    std::variant<TextRequest, WebRequest, ThemeRequest, ListRequest, RecolorRequest, ApplyRequest>;
 
 // A command line that cannot be understood (status 2), or a request that cannot be carried out
 // (status 1). The text is one sentence, UTF-8.

@@ -1,11 +1,10 @@
 #include "program/window_command.h"
 
-#include <QApplication>
 #include <algorithm>
-#include <iostream>
 
 #include "forms/form.h"
 #include "program/desktop_platform.h"
+#include "program/qt_program.h"
 #include "qt/qt_clipboard.h"
 #include "qt/qt_toolkit.h"
 #include "resources/embedded_resources.h"
@@ -18,20 +17,6 @@
 namespace morpho {
 
 namespace {
-
-// A QApplication needs arguments that outlive it; the program's own are not for it.
-struct QtArguments {
-    char name[7] = "morpho";
-    char* values[2] = {name, nullptr};
-    int count = 1;
-};
-
-// Messages of Qt about the environment ("XDG_RUNTIME_DIR not set") do not help the user.
-void KeepQtQuiet() {
-    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
-        if (type == QtCriticalMsg || type == QtFatalMsg) std::cerr << text.toStdString() << "\n";
-    });
-}
 
 void RequireTheme(const WebSession& web, const std::string& name) {
     const bool known =
@@ -68,12 +53,7 @@ void TellReports(Toolkit& toolkit, const std::vector<std::string>& reports) {
 }  // namespace
 
 void ShowThemeWindow(const ThemeRequest& request) {
-    KeepQtQuiet();
-    QtToolkit::Prepare();
-    QtArguments arguments;
-    // By this name of its desktop entry the desktop finds the windows' icon.
-    QApplication::setDesktopFileName("org.morpho_editors.Morpho");
-    const QApplication application(arguments.count, arguments.values);
+    const QtProgram qt;
     const DiskFileSystem pages;
     const EmbeddedResources resources;
     QtToolkit toolkit(pages, resources.Bytes(kIconResource, kApplicationIcon128));
@@ -96,10 +76,7 @@ void ShowThemeWindow(const ThemeRequest& request) {
 
 void DrawWindow(Form& form, const std::filesystem::path& picture) {
     if (qgetenv("QT_QPA_PLATFORM").isEmpty()) qputenv("QT_QPA_PLATFORM", "offscreen");
-    KeepQtQuiet();
-    QtToolkit::Prepare();
-    QtArguments arguments;
-    const QApplication application(arguments.count, arguments.values);
+    const QtProgram qt;
     const DiskFileSystem pages;
     QtToolkit toolkit(pages, {});
     bool drawn = false;

@@ -30,16 +30,18 @@ class PageServer::SchemeHandler : public QWebEngineUrlSchemeHandler {
     explicit SchemeHandler(const PageServer& server) : server_(server) {}
 
     void requestStarted(QWebEngineUrlRequestJob* job) override {
-        const std::string path = server_.PathOf(job->requestUrl());
-        if (path.empty() || job->requestMethod() != "GET") {
+        const auto source = server_.sources_.find(FromQt(job->requestUrl().host()));
+        const auto names = NamesIn(job->requestUrl());
+        if (source == server_.sources_.end() || !names || job->requestMethod() != "GET") {
             job->fail(QWebEngineUrlRequestJob::RequestDenied);
             return;
         }
         try {
-            const std::string bytes = server_.files_.ReadFile(path);
+            const std::string bytes = source->second(*names);
             auto* const body = new QBuffer(job);
             body->setData(QByteArray::fromStdString(bytes));
-            job->reply(ContentType(ToQt(path), body->data()), body);
+            const QString name = names->empty() ? QString("index.htm") : ToQt(names->back());
+            job->reply(ContentType(name, body->data()), body);
         } catch (const std::exception&) {
             job->fail(QWebEngineUrlRequestJob::UrlNotFound);
         }
@@ -88,11 +90,25 @@ std::string PageServer::NewSite() {
 QUrl PageServer::Open(const std::string& site, std::string_view pagePath) {
     const std::size_t slash = pagePath.find_last_of('\\');
     if (slash == std::string_view::npos) return {};
-    folders_[site] = pagePath.substr(0, slash);
+    const std::string folder(pagePath.substr(0, slash));
+    const auto source = [this, folder](const Names& names) {
+        std::string path = folder;
+        for (const std::string& name : names)
+            path += '\\' + name;
+        return files_.ReadFile(path);
+    };
+    return Open(site, source, {std::string(pagePath.substr(slash + 1))});
+}
+
+QUrl PageServer::Open(const std::string& site, Source source, const Names& page) {
+    sources_[site] = std::move(source);
+    QString path;
+    for (const std::string& name : page)
+        path += '/' + ToQt(name);
     QUrl url;
     url.setScheme(kScheme);
     url.setHost(ToQt(site));
-    url.setPath("/" + ToQt(pagePath.substr(slash + 1)));
+    url.setPath(path);
     return url;
 }
 
@@ -100,16 +116,14 @@ bool PageServer::IsOfScheme(const QUrl& url) {
     return url.scheme() == kScheme;
 }
 
-std::string PageServer::PathOf(const QUrl& url) const {
-    const auto folder = folders_.find(FromQt(url.host()));
-    if (folder == folders_.end()) return {};
-    std::string path = folder->second;
+std::optional<PageServer::Names> PageServer::NamesIn(const QUrl& url) {
+    Names names;
     const QString inside = url.path(QUrl::FullyDecoded).replace('\\', '/');
     for (const QString& segment : inside.split('/', Qt::SkipEmptyParts)) {
         if (!IsPlainName(segment)) return {};
-        path += "\\" + FromQt(segment);
+        names.push_back(FromQt(segment));
     }
-    return path;
+    return names;
 }
 
 }  // namespace morpho

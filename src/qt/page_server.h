@@ -1,23 +1,32 @@
 #pragma once
 
+#include <QStringList>
 #include <QUrl>
 #include <QWebEngineProfile>
 #include <QWebEngineUrlRequestInterceptor>
 #include <QWebEngineUrlSchemeHandler>
+#include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/file_system.h"
 
 namespace morpho {
 
-// Hands browser controls the files of their page's folder. Every browser control has a site, a
-// made-up host name that stands for that folder; whatever is not below it, and every other address,
-// is refused. Files are found without regard to letter case, and nothing is cached.
+// Hands browser controls the files of their page's folder, or of a web. Every browser control has a
+// site, a made-up host name that stands for that folder; whatever is not below it, and every other
+// address, is refused. Nothing is cached.
 class PageServer {
   public:
+    // The names that lead from a site's folder to a file; none of them is "." or "..".
+    using Names = std::vector<std::string>;
+    // Reads a file of a site, without regard to letter case; throws RunTimeError.
+    using Source = std::function<std::string(const Names& names)>;
+
     // The files must outlive the server.
     explicit PageServer(const FileSystem& files);
     ~PageServer();
@@ -34,18 +43,19 @@ class PageServer {
     // Makes the site serve the folder of this page (a Windows path) and returns the page's
     // address.
     QUrl Open(const std::string& site, std::string_view pagePath);
-    void Close(const std::string& site) { folders_.erase(site); }
+    // The same for a page in some folder of `source`.
+    QUrl Open(const std::string& site, Source source, const Names& page);
+    void Close(const std::string& site) { sources_.erase(site); }
     static bool IsOfScheme(const QUrl& url);
+    // What an address of a site means; nothing for names that a file cannot have.
+    static std::optional<Names> NamesIn(const QUrl& url);
 
   private:
     class SchemeHandler;
     class Fence;
 
-    // The Windows path that an address stands for; empty when it stands for none.
-    std::string PathOf(const QUrl& url) const;
-
     const FileSystem& files_;
-    std::map<std::string, std::string> folders_;  // by site, without a "\" at the end
+    std::map<std::string, Source> sources_;  // by site
     int sites_ = 0;
     std::unique_ptr<SchemeHandler> handler_;
     std::unique_ptr<Fence> fence_;

@@ -10,20 +10,24 @@ namespace morpho {
 
 namespace {
 
-// A page whose links lead nowhere.
-class StillPage : public QWebEnginePage {
+class FilteredPage : public QWebEnginePage {
   public:
-    using QWebEnginePage::QWebEnginePage;
+    FilteredPage(QWebEngineProfile* profile, QObject* parent, PageView::LinkFilter follows)
+        : QWebEnginePage(profile, parent), follows_(std::move(follows)) {}
 
   protected:
     bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override {
         const bool asked = type == NavigationTypeTyped || type == NavigationTypeReload;
-        return PageServer::IsOfScheme(url) && (asked || !isMainFrame);
+        if (isMainFrame && !asked) return follows_ && follows_(url);
+        return PageServer::IsOfScheme(url);
     }
 
     void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel /*level*/,
                                   const QString& /*message*/, int /*line*/,
                                   const QString& /*source*/) override {}
+
+  private:
+    PageView::LinkFilter follows_;
 };
 
 void ShowOnly(QWebEngineSettings* settings) {
@@ -46,8 +50,9 @@ void UseClassicFonts(QWebEngineSettings* settings) {
 
 }  // namespace
 
-PageView::PageView(QWebEngineProfile* profile, QWidget* parent) : QWebEngineView(parent) {
-    auto* const page = new StillPage(profile, this);
+PageView::PageView(QWebEngineProfile* profile, QWidget* parent, LinkFilter follows)
+    : QWebEngineView(parent) {
+    auto* const page = new FilteredPage(profile, this, std::move(follows));
     ShowOnly(page->settings());
     UseClassicFonts(page->settings());
     setPage(page);

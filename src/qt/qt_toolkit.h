@@ -43,6 +43,8 @@ class QtToolkit : public Toolkit {
     QImage PictureOf(const Form& form, bool withDialogs = false);
     // Writes that picture to a PNG file at this path of the operating system.
     bool SavePicture(const Form& form, const std::string& file, bool withDialogs = false);
+    // Serves the pages of browser controls; for other views of pages, too.
+    PageServer& Pages() { return pages_; }
 
   private:
     FormWindow* WindowOf(const Form* form) const;

@@ -5,7 +5,7 @@
 
 namespace morpho {
 
-// The automation objects of the host: its explorer of release 6.0, "FrontPage.Explorer.6.0", and no
+// The automation objects of the host: its explorer, such as "FrontPage.Explorer.6.0", and no
 // other.
 class DiskAutomation : public AutomationFactory {
   public:

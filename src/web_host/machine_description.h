@@ -16,7 +16,7 @@ struct MachineFolders {
     std::string program;      // the host's own program folder
 };
 
-// The registry keys that describe a machine on which release 6.0 of the host is installed.
-RegistryData DescribeMachine(const MachineFolders& folders);
+// The registry keys that describe a machine on which this release of the host is installed.
+RegistryData DescribeMachine(const MachineFolders& folders, std::string_view hostVersion);
 
 }  // namespace morpho

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "program/request.h"
+
+namespace morpho {
+
+// `morpho [WEB]`: opens the window of the host, with both add-ins, and returns when it is closed.
+// Without WEB it opens the last one, or asks for a folder. Throws CommandError.
+void ShowWebWindow(const WebRequest& request);
+
+}  // namespace morpho

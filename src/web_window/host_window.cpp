@@ -1,0 +1,307 @@
+#include "web_window/host_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMenu>
+#include <QMessageBox>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QTreeView>
+
+#include "platform/run_time_error.h"
+#include "qt/qt_text.h"
+#include "shared/settings.h"
+#include "web_host/disk_application.h"
+#include "web_host/page_walk.h"
+#include "web_window/recent_webs.h"
+#include "web_window/web_tree_model.h"
+
+namespace morpho {
+
+namespace {
+
+// Identifiers of the host's own commands.
+constexpr int kOpenWebId = 23;
+constexpr int kCloseId = 106;
+constexpr int kExitId = 752;
+constexpr int kRefreshId = 459;
+constexpr int kRecentId = 30126;
+
+constexpr std::string_view kApplication = "Morpho";
+constexpr std::string_view kSection = "Web Window";
+constexpr int kTreeWidth = 240;  // pixels
+
+bool IsPicture(const std::string& name) {
+    const QString extension = ToQt(name).section('.', -1).toLower();
+    return QStringList{"gif", "jpg", "jpeg", "png", "bmp"}.contains(extension);
+}
+
+// A name in a menu, where "&" would mark an access key.
+QString Unmarked(QString text) {
+    return text.replace("&", "&&");
+}
+
+}  // namespace
+
+HostWindow::HostWindow(const HostParts& host)
+    : host_(host),
+      bars_(host.frontPage.HostBars(), *this),
+      tree_(new QTreeView),
+      tabs_(new QTabWidget),
+      status_(new QLabel) {
+    auto* const splitter = new QSplitter;
+    splitter->addWidget(tree_);
+    splitter->addWidget(tabs_);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({kTreeWidth, 3 * kTreeWidth});
+    setCentralWidget(splitter);
+    tree_->setHeaderHidden(true);
+    tree_->setUniformRowHeights(true);
+    tree_->setAccessibleName("Folders and files of the web");
+    tabs_->setTabsClosable(true);
+    tabs_->setMovable(true);
+    tabs_->setDocumentMode(true);
+    statusBar()->addWidget(status_, 1);
+    status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    connect(tree_, &QTreeView::activated, this, &HostWindow::OpenEntry);
+    connect(tree_, &QTreeView::expanded, this, &HostWindow::WatchShown);
+    connect(tabs_, &QTabWidget::tabCloseRequested, this, &HostWindow::CloseTab);
+    connect(tabs_, &QTabWidget::currentChanged, this, &HostWindow::ShowCurrentPage);
+    connect(&watcher_, &WebWatcher::Changed, this, &HostWindow::DiskHasChanged);
+    AddCommands();
+    RestorePlace();
+    ShowCurrentPage();
+}
+
+HostWindow::~HostWindow() {
+    // The views go before the page server's sites and the session that they show.
+    while (tabs_->count() > 0)
+        delete tabs_->widget(0);
+}
+
+void HostWindow::AddCommands() {
+    AddCommand(HostMenu::kFile, kOpenWebId, "&Open Web...", [this] { AskForWeb(); });
+    recentWebs_ =
+        host_.frontPage.HostBars()
+            .Menu(HostMenu::kFile)
+            .Append({.type = kPopupControl, .id = kRecentId, .look = {.caption = "&Recent Webs"}});
+    AddCommand(HostMenu::kFile, kCloseId, "&Close Page",
+               [this] { CloseTab(tabs_->currentIndex()); });
+    AddCommand(
+        HostMenu::kFile, kExitId, "E&xit", [this] { close(); }, true);
+    AddCommand(HostMenu::kView, kRefreshId, "&Refresh", [this] { RefreshViews(); });
+    const auto shortcut = [this](const QKeySequence& keys, auto action) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
+    };
+    shortcut(QKeySequence::Open, [this] { AskForWeb(); });
+    shortcut(QKeySequence("Ctrl+W"), [this] { CloseTab(tabs_->currentIndex()); });
+    shortcut(QKeySequence("F5"), [this] { RefreshViews(); });
+    shortcut(QKeySequence("F6"), [this] {
+        QWidget* const page = tabs_->currentWidget();
+        (tree_->hasFocus() && page ? page : tree_)->setFocus(Qt::ShortcutFocusReason);
+    });
+    FillRecentWebs();
+}
+
+HostControl& HostWindow::AddCommand(HostMenu menu, int id, const QString& caption,
+                                    std::function<void()> clicked, bool beginsGroup) {
+    const auto control = host_.frontPage.HostBars().Menu(menu).Append(
+        {.id = id, .look = {.caption = FromQt(caption), .beginsGroup = beginsGroup}});
+    clicks_.push_back(control->OnClick(std::move(clicked)));
+    return *control;
+}
+
+void HostWindow::FillRecentWebs() {
+    recentClicks_.clear();
+    while (recentWebs_->Controls()->Count() > 0)
+        recentWebs_->Controls()->All().back()->Remove();
+    const auto webs = RecentWebs(host_.platform);
+    for (std::size_t i = 0; i < webs.size(); ++i) {
+        const QString caption = QString("&%1 %2").arg(i + 1).arg(Unmarked(ToQt(webs[i])));
+        const auto control =
+            recentWebs_->Controls()->Append({.look = {.caption = FromQt(caption)}});
+        const std::string web = webs[i];
+        // The list is made anew by the click, so the click must be over by then.
+        recentClicks_.push_back(control->OnClick([this, web] {
+            QMetaObject::invokeMethod(
+                this, [this, web] { OpenWeb(web); }, Qt::QueuedConnection);
+        }));
+    }
+    recentWebs_->Set(&HostControlLook::isEnabled, !webs.empty());
+}
+
+bool HostWindow::OpenWeb(const std::string& folder) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    std::string failure;
+    try {
+        host_.openWeb(folder);
+    } catch (const RunTimeError& error) {
+        failure = error.what();
+    }
+    QApplication::restoreOverrideCursor();
+    if (!failure.empty()) {
+        QMessageBox::warning(this, "Morpho", ToQt(failure));
+        return false;
+    }
+    AddRecentWeb(host_.platform, folder);
+    FillRecentWebs();
+    ShowWeb();
+    return true;
+}
+
+bool HostWindow::AskForWeb() {
+    const auto webs = RecentWebs(host_.platform);
+    const QString folder = QFileDialog::getExistingDirectory(
+        this, "Open Web", webs.empty() ? QDir::homePath() : ToQt(webs.front()));
+    return !folder.isEmpty() && OpenWeb(FromQt(folder));
+}
+
+void HostWindow::ShowWeb() {
+    while (tabs_->count() > 0)
+        CloseTab(0);
+    const auto web = host_.frontPage.Session();
+    const QString title = ToQt(web->Files().Root().Path()).section('/', -1);
+    auto model = std::make_unique<WebTreeModel>(web, title);
+    tree_->setModel(model.get());
+    model_ = std::move(model);
+    tree_->expand(model_->index(0, 0));
+    tree_->setCurrentIndex(model_->index(0, 0));
+    tree_->setFocus();
+    setWindowTitle(title + " - Morpho");
+    Tell(web->Repairs());
+    ShowHomePage();
+    WatchShown();
+}
+
+void HostWindow::ShowHomePage() {
+    for (const char* const name : {"index.htm", "index.html", "default.htm"}) {
+        const auto entry = host_.frontPage.Session()->Files().Root().Find(name);
+        if (entry && entry->kind == EntryKind::kFile) return OpenPage({entry->name});
+    }
+}
+
+void HostWindow::OpenEntry(const QModelIndex& index) {
+    if (!index.isValid() || model_->IsFolder(index)) return;
+    const WebPath path = model_->PathOf(index);
+    if (IsPageName(path.back()) || IsPicture(path.back())) return OpenPage(path);
+    Tell({"\"" + path.back() + "\" is neither a page nor a picture."});
+}
+
+void HostWindow::OpenPage(const WebPath& page) {
+    for (int i = 0; i < tabs_->count(); ++i) {
+        if (static_cast<WebPageView*>(tabs_->widget(i))->Page() == page)
+            return tabs_->setCurrentIndex(i);
+    }
+    auto* const view = new WebPageView(host_.pages, host_.frontPage.Session(), tabs_);
+    const int index = tabs_->addTab(view, ToQt(page.back()));
+    connect(view, &WebPageView::PageChanged, this, [this, view] {
+        const WebPath& shown = view->Page();
+        const int tab = tabs_->indexOf(view);
+        tabs_->setTabText(tab, shown.empty() ? QString() : Unmarked(ToQt(shown.back())));
+        tabs_->setTabToolTip(tab, PlainToolTip(PathOf(shown)));
+        WatchShown();
+    });
+    connect(view, &WebPageView::SelectionChanged, this, &HostWindow::SelectionChanged);
+    connect(view, &WebPageView::MenuAsked, this, &HostWindow::ShowPageMenu);
+    connect(view, &WebPageView::LinkRefused, this, [this](const QString& address) {
+        Tell({"This address is outside of the web: " + FromQt(address)});
+    });
+    connect(view, &WebPageView::loadFinished, this, [this, view](bool loaded) {
+        if (!loaded) Tell({"The page \"" + FromQt(PathOf(view->Page())) + "\" cannot be shown."});
+    });
+    view->ShowPage(page);
+    tabs_->setCurrentIndex(index);
+}
+
+void HostWindow::CloseTab(int index) {
+    QWidget* const view = tabs_->widget(index);
+    if (!view) return;
+    tabs_->removeTab(index);
+    view->deleteLater();
+    WatchShown();
+}
+
+void HostWindow::ShowCurrentPage() {
+    const auto close = host_.frontPage.HostBars().Menu(HostMenu::kFile).Find(kCloseId, {}, false);
+    if (close) close->Set(&HostControlLook::isEnabled, tabs_->count() > 0);
+    emit SelectionChanged();
+}
+
+void HostWindow::ShowPageMenu(const QPoint& place) {
+    QMenu menu;
+    for (QAction* const action : bars_.ActionsOf(*host_.frontPage.HostBars().Pictures()))
+        menu.addAction(action);
+    const WebPageView* const page = CurrentPage();
+    if (page && page->Selection().picture && !menu.isEmpty()) menu.exec(place);
+}
+
+WebPageView* HostWindow::CurrentPage() const {
+    return static_cast<WebPageView*>(tabs_->currentWidget());
+}
+
+void HostWindow::RefreshViews() {
+    if (!model_) return;
+    model_->Update();
+    for (int i = 0; i < tabs_->count(); ++i)
+        static_cast<WebPageView*>(tabs_->widget(i))->Reload();
+    WatchShown();
+}
+
+void HostWindow::Tell(const std::vector<std::string>& sentences) {
+    QStringList lines;
+    for (const std::string& sentence : sentences)
+        lines += ToQt(sentence);
+    QString first = lines.value(0);
+    if (lines.size() > 1) first += QString(" (and %1 more)").arg(lines.size() - 1);
+    status_->setText(first);
+    status_->setToolTip(PlainToolTip(lines.mid(0, 20).join('\n')));
+}
+
+// The folders that the tree has read, and those of the pages in tabs with their themes' pictures.
+void HostWindow::WatchShown() {
+    if (!model_) return;
+    QStringList paths;
+    for (int i = 0; i < tabs_->count(); ++i)
+        paths += PathOf(static_cast<WebPageView*>(tabs_->widget(i))->Page());
+    for (const WebPath& folder : model_->ListedFolders())
+        paths += PathOf(folder);
+    paths.removeDuplicates();
+    watcher_.Watch(paths);
+}
+
+void HostWindow::DiskHasChanged(const QStringList& paths) {
+    if (!model_) return;
+    model_->Update();
+    for (int i = 0; i < tabs_->count(); ++i) {
+        auto* const view = static_cast<WebPageView*>(tabs_->widget(i));
+        if (paths.contains(PathOf(view->Page()))) view->Reload();
+    }
+    WatchShown();
+}
+
+// The path of the disk.
+QString HostWindow::PathOf(const WebPath& names) const {
+    QString path = ToQt(host_.frontPage.Session()->Files().Root().Path());
+    for (const std::string& name : names)
+        path += '/' + ToQt(name);
+    return path;
+}
+
+void HostWindow::RestorePlace() {
+    resize(1100, 750);
+    const std::string place = GetSetting(host_.platform, kApplication, kSection, "Geometry", "");
+    if (!place.empty()) restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(place)));
+}
+
+void HostWindow::closeEvent(QCloseEvent* event) {
+    SaveSetting(host_.platform, kApplication, kSection, "Geometry",
+                saveGeometry().toBase64().toStdString());
+    QMainWindow::closeEvent(event);
+}
+
+}  // namespace morpho

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "web_window/bar_mirror.h"
+#include "web_window/web_page_view.h"
+#include "web_window/web_watcher.h"
+
+class QLabel;
+class QTabWidget;
+class QTreeView;
+
+namespace morpho {
+
+class DiskApplication;
+class WebTreeModel;
+struct Platform;
+
+// What the window shows, and how it opens a web. All must outlive the window.
+struct HostParts {
+    DiskApplication& frontPage;
+    const Platform& platform;
+    PageServer& pages;
+    // Opens the web in this folder, a path of the disk. Throws RunTimeError.
+    std::function<void(const std::string& folder)> openWeb;
+};
+
+// The window of the stand-in host: the open web as a tree, its pages in tabs, and the host's menus
+// and toolbars, which the add-ins fill.
+class HostWindow : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    explicit HostWindow(const HostParts& host);
+    ~HostWindow() override;
+
+    // Opens a web and shows its home page. False when it cannot be opened, which the person is
+    // told; the earlier web then stays open.
+    bool OpenWeb(const std::string& folder);
+    // Asks for the folder of a web. False when none was opened.
+    bool AskForWeb();
+    // Shows a page, or a picture, in a tab of its own, or in the one that shows it already.
+    void OpenPage(const WebPath& page);
+    // Reads tree and pages again.
+    void RefreshViews();
+    // Shows sentences for the person in the status line; the rest of several as its tool tip.
+    void Tell(const std::vector<std::string>& sentences);
+
+    // The page whose tab is in front; null when there is none.
+    WebPageView* CurrentPage() const;
+    const BarMirror& Bars() const { return bars_; }
+    QTreeView& Tree() const { return *tree_; }
+
+  signals:
+    // Another page is in front, or something else is selected in it.
+    void SelectionChanged();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void AddCommands();
+    HostControl& AddCommand(HostMenu menu, int id, const QString& caption,
+                            std::function<void()> clicked, bool beginsGroup = false);
+    void FillRecentWebs();
+    void ShowWeb();
+    void ShowHomePage();
+    void OpenEntry(const QModelIndex& index);
+    void CloseTab(int index);
+    void ShowCurrentPage();
+    void ShowPageMenu(const QPoint& place);
+    void WatchShown();
+    void DiskHasChanged(const QStringList& paths);
+    QString PathOf(const WebPath& names) const;
+    void RestorePlace();
+
+    HostParts host_;
+    BarMirror bars_;
+    std::vector<std::unique_ptr<ClickEvents>> clicks_;
+    std::vector<std::unique_ptr<ClickEvents>> recentClicks_;
+    std::shared_ptr<HostControl> recentWebs_;
+    std::unique_ptr<WebTreeModel> model_;
+    QTreeView* tree_;
+    QTabWidget* tabs_;
+    QLabel* status_;
+    WebWatcher watcher_;
+};
+
+}  // namespace morpho
