@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and opens Theme Morpho on a web. Where there is no display it recolours the sample
+# Installs what is missing, builds, and opens Morpho on a web. Where there is no display it recolours the sample
 # web's theme in a batch instead and draws the window off screen.
 # usage: scripts/run.sh [WEB]      (default: the sample web)
 set -euo pipefail
@@ -14,7 +14,7 @@ morpho=build/release/bin/morpho
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     echo "== Opening $web"
-    exec "$morpho" theme "$web"
+    exec "$morpho" "$web"
 fi
 
 echo "== No display: recolouring the sample web in a batch"

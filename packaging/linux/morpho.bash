@@ -18,6 +18,7 @@ _morpho() {
     --select) mapfile -t COMPREPLY < <(compgen -W "all none active normal" -- "$word"); return ;;
     --export) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
     --picture) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
+    --host-version) mapfile -t COMPREPLY < <(compgen -W "4.0 5.0 6.0" -- "$word"); return ;;
     --brightness | --saturation | --hue | --quality | --save-as | --title) return ;;
     esac
     options=--help
@@ -29,7 +30,7 @@ _morpho() {
         options+=" --picture --json --dry-run --export --save --save-as --title --apply-to-web"
         ;;
     apply) options+=" --theme --overwrite" ;;
-    *) options+=" --version" ;;
+    *) options+=" --version --host-version" ;;
     esac
     if [[ $COMP_CWORD -eq 1 ]]; then
         mapfile -t COMPREPLY < <(compgen -W "theme list recolor apply $options" -- "$word")

@@ -267,7 +267,7 @@ Request ParseCommandLine(int argc, const char* const* argv, const std::string& v
         ->check(NotEmpty());
     app.add_option("--host-version", web.hostVersion, "Release of FrontPage to play: 4.0, 5.0, 6.0")
         ->type_name("RELEASE")
-        ->check(NotEmpty());
+        ->check(CLI::IsMember({"4.0", "5.0", "6.0"}));
     ThemeRequest theme;
     ListRequest list;
     RecolorRequest recolor;
@@ -285,6 +285,7 @@ Request ParseCommandLine(int argc, const char* const* argv, const std::string& v
     } catch (const CLI::CallForHelp&) {
         return TextRequest{app.help()};
     } catch (const CLI::ParseError& error) {
+        if (app.get_subcommands().empty()) RequireFolder(web);
         RefuseCommandLine(error.what());
     }
     if (app.get_subcommands().empty()) {
