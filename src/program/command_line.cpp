@@ -175,6 +175,16 @@ void AddOutcomes(CLI::App& command, Outcome& outcome) {
         ->needs(newTheme);
 }
 
+// What the program takes without a subcommand.
+void AddWebWindow(CLI::App& app, WebRequest& web) {
+    app.add_option("WEB", web.web, "Folder of the web to open; the last one if not given")
+        ->type_name("")
+        ->check(NotEmpty());
+    app.add_option("--host-version", web.hostVersion, "Release of FrontPage to play: 4.0, 5.0, 6.0")
+        ->type_name("RELEASE")
+        ->check(CLI::IsMember({"4.0", "5.0", "6.0"}));
+}
+
 // Each of these adds a subcommand that fills in a request.
 
 CLI::App* AddTheme(CLI::App& app, ThemeRequest& theme) {
@@ -262,12 +272,7 @@ Request ParseCommandLine(int argc, const char* const* argv, const std::string& v
     app.set_version_flag("--version", "morpho " + version);
     app.require_subcommand(0, 1);
     WebRequest web;
-    app.add_option("WEB", web.web, "Folder of the web to open; the last one if not given")
-        ->type_name("")
-        ->check(NotEmpty());
-    app.add_option("--host-version", web.hostVersion, "Release of FrontPage to play: 4.0, 5.0, 6.0")
-        ->type_name("RELEASE")
-        ->check(CLI::IsMember({"4.0", "5.0", "6.0"}));
+    AddWebWindow(app, web);
     ThemeRequest theme;
     ListRequest list;
     RecolorRequest recolor;
