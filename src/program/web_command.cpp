@@ -82,8 +82,10 @@ void ShowWebWindow(const WebRequest& request) {
     HostWindow window({desktop.FrontPage(), desktop.Parts(), toolkit.Pages(), open});
     Component component;
     const Program program{desktop.Parts(), component};
-    desktop.FrontPage().SetReporter(
-        [&](const std::vector<std::string>& sentences) { window.Tell(sentences); });
+    desktop.FrontPage().SetReporter([&](const std::vector<std::string>& sentences) {
+        window.Tell(sentences);
+        window.RefreshViews();
+    });
     desktop.FrontPage().SetLog([&](std::string_view line) { WriteLog(program, line); });
     window.show();
     const ConnectedAddIns addIns(program, desktop.SharedFrontPage());

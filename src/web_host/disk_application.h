@@ -41,7 +41,7 @@ class DiskApplication : public Application {
 
     // Takes the host's own messages from now on: broken hyperlinks, pages that keep their theme.
     void SetLog(WebReports::Log log);
-    // Takes what happened to single pages, whenever a save has ended and there is something.
+    // Takes what happened to single pages, whenever a save has ended; often nothing.
     void SetReporter(WebReports::Reporter reporter);
 
     std::string Version() const override { return options_.version; }

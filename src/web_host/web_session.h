@@ -23,10 +23,10 @@ class WebReports {
     using Reporter = std::function<void(const std::vector<std::string>&)>;
 
     void SetLog(Log log) { log_ = std::move(log); }
-    // Gets the sentences whenever a save has ended and there are some.
+    // Gets the sentences whenever a save has ended.
     void SetReporter(Reporter reporter) { reporter_ = std::move(reporter); }
     void Deliver() const {
-        if (reporter_ && !sentences_.empty()) reporter_(sentences_);
+        if (reporter_) reporter_(sentences_);
     }
     void WriteLog(std::string_view line) const {
         if (log_) log_(line);

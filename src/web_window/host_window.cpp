@@ -11,6 +11,7 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTreeView>
+#include <algorithm>
 
 #include "platform/run_time_error.h"
 #include "qt/qt_text.h"
@@ -212,6 +213,7 @@ void HostWindow::OpenPage(const WebPath& page) {
         Tell({"This address is outside of the web: " + FromQt(address)});
     });
     connect(view, &WebPageView::loadFinished, this, [this, view](bool loaded) {
+        WatchShown();
         if (!loaded) Tell({"The page \"" + FromQt(PathOf(view->Page())) + "\" cannot be shown."});
     });
     view->ShowPage(page);
@@ -262,12 +264,12 @@ void HostWindow::Tell(const std::vector<std::string>& sentences) {
     status_->setToolTip(PlainToolTip(lines.mid(0, 20).join('\n')));
 }
 
-// The folders that the tree has read, and those of the pages in tabs with their themes' pictures.
+// The files of the pages in tabs, and the folders that the tree has read.
 void HostWindow::WatchShown() {
     if (!model_) return;
     QStringList paths;
     for (int i = 0; i < tabs_->count(); ++i)
-        paths += PathOf(static_cast<WebPageView*>(tabs_->widget(i))->Page());
+        paths += PathsOf(*static_cast<WebPageView*>(tabs_->widget(i)));
     for (const WebPath& folder : model_->ListedFolders())
         paths += PathOf(folder);
     paths.removeDuplicates();
@@ -279,9 +281,18 @@ void HostWindow::DiskHasChanged(const QStringList& paths) {
     model_->Update();
     for (int i = 0; i < tabs_->count(); ++i) {
         auto* const view = static_cast<WebPageView*>(tabs_->widget(i));
-        if (paths.contains(PathOf(view->Page()))) view->Reload();
+        const QStringList files = PathsOf(*view);
+        const auto isOfPage = [&](const QString& path) { return files.contains(path); };
+        if (std::any_of(paths.begin(), paths.end(), isOfPage)) view->Reload();
     }
     WatchShown();
+}
+
+QStringList HostWindow::PathsOf(const WebPageView& page) const {
+    QStringList paths;
+    for (const WebPath& file : page.Files())
+        paths += PathOf(file);
+    return paths;
 }
 
 // The path of the disk.

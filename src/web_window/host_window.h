@@ -76,6 +76,7 @@ class HostWindow : public QMainWindow {
     void WatchShown();
     void DiskHasChanged(const QStringList& paths);
     QString PathOf(const WebPath& names) const;
+    QStringList PathsOf(const WebPageView& page) const;
     void RestorePlace();
 
     HostParts host_;

@@ -57,6 +57,7 @@ WebPageView::WebPageView(PageServer& pages, std::shared_ptr<WebSession> web, QWi
     connect(this, &QWebEngineView::urlChanged, this, [this](const QUrl& address) {
         const auto names = PageServer::NamesIn(address);
         if (names && PageServer::IsOfScheme(address)) page_ = *names;
+        files_ = {page_};
         SetSelection({});
         emit PageChanged();
     });
@@ -68,10 +69,11 @@ WebPageView::~WebPageView() {
 
 void WebPageView::ShowPage(const WebPath& page) {
     page_ = page;
-    const auto web = web_;
-    Open(pages_.Open(
-        site_, [web](const PageServer::Names& names) { return ReadWebFile(web->Files(), names); },
-        page));
+    const auto read = [this](const PageServer::Names& names) {
+        files_.insert(names);
+        return ReadWebFile(web_->Files(), names);
+    };
+    Open(pages_.Open(site_, read, page));
 }
 
 bool WebPageView::Follows(const QUrl& link) {

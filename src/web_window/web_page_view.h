@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <set>
 
 #include "qt/page_server.h"
 #include "qt/page_view.h"
@@ -31,6 +32,8 @@ class WebPageView : public PageView {
     void ShowPage(const WebPath& page);
     // The page that is shown: links lead from one to another.
     const WebPath& Page() const { return page_; }
+    // The files that the page consists of, as far as they have been read: itself and its pictures.
+    const std::set<WebPath>& Files() const { return files_; }
     const PageSelection& Selection() const { return selection_; }
     // Selects a picture (from 0), or none.
     void SelectPicture(std::optional<int> picture);
@@ -58,6 +61,7 @@ class WebPageView : public PageView {
     std::shared_ptr<WebSession> web_;
     std::string site_;
     WebPath page_;
+    std::set<WebPath> files_;
     PageSelection selection_;
 };
 
