@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
-# Installs those packages of scripts/packages.txt that this machine lacks. Needs root, or sudo.
+# Installs those packages of scripts/packages.txt, and of the LISTs, that this machine lacks. Needs root, or sudo.
+# usage: scripts/install_packages.sh [LIST...]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 missing=()
 while read -r package; do
     dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
-done < <(grep -v '^#' scripts/packages.txt)
+done < <(grep -hv '^#' scripts/packages.txt "$@")
 
 if [ ${#missing[@]} -eq 0 ]; then exit 0; fi
 echo "== Installing ${missing[*]}"

@@ -1,0 +1,55 @@
+#!/usr/bin/env bash
+# Works the program's window by keyboard alone, on a screen in memory: opens Theme Morpho through the Format menu,
+# recolours the sample web's theme, saves it as a new one, applies it and closes the editor. Leaves a picture of each
+# stage in OUT, to be looked at, and fails unless the web has the new theme and its home page uses it.
+# usage: scripts/walk_window.sh [OUT]      (default: out/window)
+set -euo pipefail
+cd "$(dirname "$0")/.."
+out=${1:-out/window}
+
+scripts/install_packages.sh scripts/packages_window.txt
+cmake --preset release >/dev/null
+cmake --build --preset release --target morpho
+work=$(mktemp -d)
+export XDG_DATA_HOME=$work/data XDG_CACHE_HOME=$work/cache DISPLAY=:79
+trap 'kill $(jobs -p) 2>/dev/null || true; rm -rf "$work"' EXIT
+cp -r samples/larkfell "$work/larkfell"
+mkdir -p "$out"
+
+Xvfb $DISPLAY -screen 0 1280x900x24 >/dev/null 2>&1 &
+sleep 1
+openbox >/dev/null 2>&1 &
+sleep 1
+build/release/bin/morpho "$work/larkfell" &
+sleep 5
+
+press() { # SECONDS KEY...: presses the keys and waits
+    local pause=$1 key
+    shift
+    for key in "$@"; do xdotool key "$key"; sleep 0.1; done
+    sleep "$pause"
+}
+picture() { import -window root "$out/$1.png"; }
+
+picture 1-web
+press 2 alt+o t        # Format, Theme Morpho...
+press 2 Return         # the About box
+press 2 Return         # the quick reference
+press 2 alt+t End      # the theme "Orrery"
+picture 2-editor
+press 2 alt+h Page_Up  # the hue; the theme has JPEG pictures
+picture 3-quality
+press 1 Return
+press 2 Page_Up Page_Up Page_Up Page_Up Page_Up Page_Up Page_Up Page_Up
+press 2 alt+a          # Apply
+picture 4-recoloured
+press 1 alt+v alt+a    # Save As..., Apply to entire web
+picture 5-save-as
+press 4 Return
+picture 6-saved
+press 1 Return         # "Theme saved."
+press 2 alt+c          # Close
+picture 7-page
+grep -q "_themes/orrery2/" "$work/larkfell/index.htm"
+cmp -s "$work/larkfell/_themes/orrery/orrbnra.gif" "$work/larkfell/_themes/orrery2/orrbnra.gif" && exit 1
+echo "The web has the theme orrery2 and its home page uses it. The pictures are in $out."
