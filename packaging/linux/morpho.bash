@@ -14,7 +14,7 @@ _morpho() {
     local word=${COMP_WORDS[COMP_CWORD]} options
     COMPREPLY=()
     case ${COMP_WORDS[COMP_CWORD - 1]} in
-    --theme) mapfile -t COMPREPLY < <(compgen -W "$(_morpho_themes)" -- "$word"); return ;;
+    --theme | --in-place-of) mapfile -t COMPREPLY < <(compgen -W "$(_morpho_themes)" -- "$word"); return ;;
     --select) mapfile -t COMPREPLY < <(compgen -W "all none active normal" -- "$word"); return ;;
     --export) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
     --picture) compopt -o filenames; mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
@@ -27,9 +27,9 @@ _morpho() {
     list) options+=" --theme --json" ;;
     recolor)
         options+=" --theme --select --brightness --saturation --hue --quality --apply --undo --redo --reset"
-        options+=" --picture --json --dry-run --export --save --save-as --title --apply-to-web"
+        options+=" --picture --json --dry-run --export --save --save-as --title --apply-to-web --apply-to-pages"
         ;;
-    apply) options+=" --theme --overwrite" ;;
+    apply) options+=" --theme --in-place-of --overwrite" ;;
     *) options+=" --version --host-version" ;;
     esac
     if [[ $COMP_CWORD -eq 1 ]]; then

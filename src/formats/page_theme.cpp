@@ -1,6 +1,5 @@
 #include "formats/page_theme.h"
 
-#include "formats/theme_mark.h"
 #include "formats/web_text.h"
 #include "platform/run_time_error.h"
 #include "text/ignoring_case.h"
@@ -47,10 +46,11 @@ std::string WithTheme(const std::string& page, const ThemeMark& mark, std::strin
 }  // namespace
 
 std::optional<std::string> PageWithTheme(std::string_view page, std::string_view theme,
+                                         const PageChoice& choice,
                                          const std::function<bool(const ThemeAddress&)>& moves) {
     const PageText text(page);
     const auto mark = FindThemeMark(text.Text());
-    if (!mark || !mark->theme.ofWeb || mark->theme.name.empty()) return {};
+    if (!mark || !choice.Has(mark->theme)) return {};
     if (EqualIgnoringCase(mark->theme.name, theme)) return {};
     auto bytes = text.BytesOf(WithTheme(text.Text(), *mark, theme, moves));
     if (!bytes) throw RunTimeError(ErrorNumber::kInvalidFileFormat, "The page is broken UTF-16.");

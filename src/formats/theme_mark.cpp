@@ -33,6 +33,11 @@ ThemeMark ParsedContent(const std::string_view whole, std::size_t begin) {
 
 }  // namespace
 
+bool PageChoice::Has(const PageTheme& theme) const {
+    if (theme.name.empty()) return false;
+    return theme.ofWeb ? ofWeb : EqualIgnoringCase(theme.name, ownTheme);
+}
+
 std::optional<PageTheme> ThemeOfPage(std::string_view page) {
     const auto mark = FindThemeMark(page);
     return mark ? std::optional(mark->theme) : std::nullopt;

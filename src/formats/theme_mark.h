@@ -16,6 +16,14 @@ struct PageTheme {
     bool ofWeb = false;
 };
 
+// Which pages get another theme, by what their tag says.
+struct PageChoice {
+    bool ofWeb = true;          // those that take the theme of the whole web
+    std::string ownTheme = {};  // those that name this theme themselves; empty: none
+
+    bool Has(const PageTheme& theme) const;
+};
+
 // Nothing for a page without the tag. `page` may be its first part only.
 std::optional<PageTheme> ThemeOfPage(std::string_view page);
 

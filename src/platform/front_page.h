@@ -202,10 +202,11 @@ class Application {
     // The open web; null when there is none.
     virtual std::unique_ptr<Web> ActiveWeb() = 0;
     virtual std::unique_ptr<LanguageSettings> Languages() const = 0;
-    // Begins to save a theme of this folder name in the open web. Throws RunTimeError while another
-    // program saves there. Null where the host has no transactions (the real one has none), or no
-    // web is open.
-    virtual std::unique_ptr<SaveTransaction> BeginSave(std::string_view /*themeName*/) {
+    // Begins to save a theme of this folder name, made from `sourceName`, in the open web. Throws
+    // RunTimeError while another program saves there. Null where the host has no transactions (the
+    // real one has none), or no web is open.
+    virtual std::unique_ptr<SaveTransaction> BeginSave(std::string_view /*themeName*/,
+                                                       std::string_view /*sourceName*/) {
         return nullptr;
     }
 };

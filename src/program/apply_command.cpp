@@ -11,7 +11,11 @@ void Apply(const ApplyRequest& request, std::string& warnings) {
         throw CommandError(CommandError::Status::kRefused,
                            "The web has another theme \"" + request.theme +
                                "\" than you have; --overwrite replaces it by yours.");
-    batch.ApplyTheme(request.theme);
+    if (request.inPlaceOf.empty()) {
+        batch.ApplyTheme(request.theme);
+    } else {
+        batch.ApplyInPlaceOf(request.theme, request.inPlaceOf);
+    }
     for (const std::string& sentence : batch.Reports())
         warnings += sentence + "\n";
     if (!batch.IsThemeShown())

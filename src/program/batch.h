@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -38,6 +39,16 @@ class Batch {
     }
     // Gives the web a theme that it has, or one of the user's own. Throws RunTimeError.
     void ApplyTheme(const std::string& name) { desktop_.FrontPage().ActiveWeb()->ApplyTheme(name); }
+    // The same for all pages that have the theme `earlier`, and for no others.
+    void ApplyInPlaceOf(const std::string& name, const std::string& earlier) {
+        desktop_.FrontPage().ApplyInPlaceOf(name, earlier);
+    }
+    // Whether pages that name the theme that a save starts from follow to the new one, too.
+    void LetPagesFollow(bool follow) { desktop_.FrontPage().Session()->LetPagesFollow(follow); }
+    // The pages that kept a theme of their own when a theme was applied, by its name.
+    const std::map<std::string, int>& KeptThemes() {
+        return desktop_.FrontPage().Session()->KeptThemes();
+    }
     // The theme whose interrupted save was completed when the web was opened; empty for none.
     const std::string& CompletedTheme() { return desktop_.FrontPage().Session()->CompletedTheme(); }
     // Whether a page uses the theme that was applied last.

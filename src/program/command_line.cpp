@@ -170,9 +170,16 @@ void AddOutcomes(CLI::App& command, Outcome& outcome) {
         ->type_name("TITLE")
         ->check(NotEmpty())
         ->needs(newTheme);
-    command.add_flag("--apply-to-web", outcome.applyToWeb, "Give the new theme to the web's pages")
+    CLI::Option* const applied =
+        command
+            .add_flag("--apply-to-web", outcome.applyToWeb, "Give the new theme to the web's pages")
+            ->disable_flag_override()
+            ->needs(newTheme);
+    command
+        .add_flag("--apply-to-pages", outcome.applyToPages,
+                  "Also to the pages that name the recoloured theme themselves")
         ->disable_flag_override()
-        ->needs(newTheme);
+        ->needs(applied);
 }
 
 // What the program takes without a subcommand.
@@ -235,6 +242,12 @@ CLI::App* AddApply(CLI::App& app, ApplyRequest& apply) {
         ->type_name("NAME")
         ->check(NotEmpty())
         ->required();
+    command
+        ->add_option(
+            "--in-place-of", apply.inPlaceOf,
+            "Give it to the pages that have this theme, also those that name it themselves")
+        ->type_name("OLD")
+        ->check(NotEmpty());
     command
         ->add_flag("--overwrite", apply.overwrite,
                    "Replace the web's own theme of that name by the user's")

@@ -68,6 +68,7 @@ std::string Save(const RecolorRequest& request, const UserFolders& folders, std:
     warnings += Warnings(window.Window());
     DrawIfAsked(window, request);
     nlohmann::ordered_json report = RecolorReport(window.Window());
+    batch.LetPagesFollow(request.outcome.applyToPages);
     const bool asNew = request.outcome.kind == Outcome::Kind::kSaveAs;
     const SavedTheme saved = asNew ? window.SaveAs(request.outcome) : window.Save();
     const bool applied = EqualIgnoringCase(batch.ThemeOfWeb(), saved.name);
@@ -75,6 +76,7 @@ std::string Save(const RecolorRequest& request, const UserFolders& folders, std:
                        {"title", saved.title},
                        {"web", asNew ? request.outcome.applyToWeb : applied},
                        {"applied", applied}};
+    if (applied) report["saved"]["pagesWithOwnTheme"] = batch.KeptThemes();
     const std::string& notice = window.Window().LastSave().notice;
     if (!notice.empty()) warnings += notice + "\n";
     for (const std::string& sentence : batch.Reports())

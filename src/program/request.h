@@ -54,6 +54,7 @@ struct Outcome {
     std::string name;                    // kSaveAs; "auto": the one that the dialog suggests
     std::optional<std::string> title;    // kSaveAs; nothing: the one that the dialog suggests
     bool applyToWeb = false;             // kSaveAs
+    bool applyToPages = false;           // with applyToWeb: also to pages that name their theme
 };
 
 struct RecolorRequest {
@@ -69,6 +70,7 @@ struct RecolorRequest {
 struct ApplyRequest {
     std::filesystem::path web;
     std::string theme;       // of the web, or the user's own
+    std::string inPlaceOf;   // the theme of the pages that get it; empty: that of the web
     bool overwrite = false;  // the user's own replaces another one of that name in the web
 };
 

@@ -103,7 +103,7 @@ bool ThemeSave::MayWriteTarget() {
 bool ThemeSave::OpenWebFolder() {
     web_ = program_.component.application->ActiveWeb();
     if (!web_) return true;
-    transaction_ = program_.component.application->BeginSave(target_.name);
+    transaction_ = program_.component.application->BeginSave(target_.name, theme_.name);
     if (transaction_ && target_.asNew && !IsNameFree()) return false;
     SetStatus("Creating theme folder...");
     webFolder_.emplace(program_, *web_, target_.name);

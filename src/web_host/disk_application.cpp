@@ -1,6 +1,8 @@
 #include "web_host/disk_application.h"
 
+#include "text/ignoring_case.h"
 #include "web_host/disk_web.h"
+#include "web_host/theme_of_web.h"
 #include "web_host/web_save_transaction.h"
 
 namespace morpho {
@@ -50,10 +52,26 @@ std::unique_ptr<LanguageSettings> DiskApplication::Languages() const {
     return std::make_unique<DiskLanguageSettings>();
 }
 
-std::unique_ptr<SaveTransaction> DiskApplication::BeginSave(std::string_view themeName) {
+std::unique_ptr<SaveTransaction> DiskApplication::BeginSave(std::string_view themeName,
+                                                            std::string_view sourceName) {
     if (!web_) return nullptr;
-    return std::make_unique<WebSaveTransaction>(*web_, std::string(themeName),
-                                                WebSaveTransaction::Purpose::kSave);
+    auto save = std::make_unique<WebSaveTransaction>(*web_, std::string(themeName),
+                                                     WebSaveTransaction::Purpose::kSave);
+    sourceOfSave_ = sourceName;
+    if (web_->PagesFollow()) save->ChoosePages({.ofWeb = true, .ownTheme = sourceOfSave_});
+    return save;
+}
+
+void DiskApplication::ApplyInPlaceOf(const std::string& themeName, const std::string& earlier) {
+    if (!HasPageWithTheme(web_->Files(), earlier))
+        throw RunTimeError(ErrorNumber::kAutomation,
+                           "No page of the web has the theme \"" + earlier + "\".");
+    const bool isOfWeb = EqualIgnoringCase(ThemeOfWeb(web_->Files().Root()), earlier);
+    WebSaveTransaction change(*web_, themeName, WebSaveTransaction::Purpose::kApply);
+    change.ChoosePages({.ofWeb = isOfWeb, .ownTheme = earlier});
+    change.ApplyTheme(themeName);
+    change.RefreshAtCommit();
+    change.Commit();
 }
 
 }  // namespace morpho

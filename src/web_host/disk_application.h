@@ -48,7 +48,14 @@ class DiskApplication : public Application {
     std::unique_ptr<CommandBars> Bars() override { return bars_.View(); }
     std::unique_ptr<Web> ActiveWeb() override;
     std::unique_ptr<LanguageSettings> Languages() const override;
-    std::unique_ptr<SaveTransaction> BeginSave(std::string_view themeName) override;
+    std::unique_ptr<SaveTransaction> BeginSave(std::string_view themeName,
+                                               std::string_view sourceName) override;
+    // The theme that the last save started from; empty before the first.
+    const std::string& SourceOfSave() const { return sourceOfSave_; }
+    // Gives a theme of the web, or of the user's own, to all pages that have the theme `earlier`:
+    // those that name it themselves and, if it is the web's theme, those that take that. Throws
+    // RunTimeError.
+    void ApplyInPlaceOf(const std::string& themeName, const std::string& earlier);
 
   private:
     Disk& disk_;
@@ -59,6 +66,7 @@ class DiskApplication : public Application {
     WebReports::Log log_;
     WebReports::Reporter reporter_;
     std::shared_ptr<WebSession> web_;
+    std::string sourceOfSave_;
 };
 
 }  // namespace morpho

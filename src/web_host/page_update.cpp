@@ -37,7 +37,7 @@ void PageUpdate::Visit(const WebPage& page) {
     try {
         const std::string bytes = ReadWholeFile(*page.folder, page.name, kMaxPageBytes);
         auto changed =
-            theme_ ? PageWithTheme(bytes, *theme_,
+            theme_ ? PageWithTheme(bytes, *theme_, choice_,
                                    [this](const ThemeAddress& address) { return Moves(address); })
                    : std::nullopt;
         const std::string text = PageText(changed ? *changed : bytes).Text();
@@ -59,11 +59,13 @@ bool PageUpdate::Moves(const ThemeAddress& address) {
     return !stays;
 }
 
-// The page may have the theme already.
+// The page may have the theme already, or one of its own.
 void PageUpdate::LookAtUnchanged(const std::string& text) {
-    if (isShown_ || !theme_) return;
-    const auto theme = ThemeOfPage(text);
-    isShown_ = theme && theme->ofWeb && EqualIgnoringCase(theme->name, *theme_);
+    const auto theme = theme_ ? ThemeOfPage(text) : std::nullopt;
+    if (!theme || theme->name.empty()) return;
+    const bool hasTheme = EqualIgnoringCase(theme->name, *theme_);
+    if (hasTheme && (theme->ofWeb ? choice_.ofWeb : !choice_.ownTheme.empty())) isShown_ = true;
+    if (!hasTheme && !theme->ofWeb) ++keptThemes_[theme->name];
 }
 
 void PageUpdate::NoteBroken(const std::string& url, const std::string& text) {
@@ -99,6 +101,7 @@ void PageUpdate::ReportSummary() {
     if (!isShown_)
         report_("No page uses the theme \"" + *theme_ +
                 "\": none takes the web's theme, or none could be written.");
+    ReportKeptThemes();
     if (kept_.empty()) return;
     std::string files;
     for (const std::string& file : kept_)
@@ -106,6 +109,13 @@ void PageUpdate::ReportSummary() {
     report_("The theme \"" + *theme_ +
             "\" lacks files that the pages use; their addresses still lead to the earlier theme: " +
             files + ".");
+}
+
+void PageUpdate::ReportKeptThemes() {
+    for (const auto& [theme, count] : keptThemes_)
+        report_(count == 1 ? "1 page names the theme \"" + theme + "\" itself and keeps it."
+                           : std::to_string(count) + " pages name the theme \"" + theme +
+                                 "\" themselves and keep it.");
 }
 
 void PageUpdate::Sweep(Folder& folder, const std::vector<FolderEntry>& entries,

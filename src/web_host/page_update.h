@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
@@ -8,24 +9,27 @@
 #include <vector>
 
 #include "formats/theme_addresses.h"
+#include "formats/theme_mark.h"
 #include "platform/run_time_error.h"
 #include "web_host/page_walk.h"
 #include "web_host/theme_files.h"
 
 namespace morpho {
 
-// Gives a theme to the pages of a web that take the web's theme, in one walk, and finds the
-// addresses that lead to files which the web's themes do not have. Each page is replaced as a whole
-// and flushed; one that cannot be written keeps its theme and is reported, and the rest goes on.
+// Gives a theme to the chosen pages of a web, in one walk, and finds the addresses that lead to
+// files which the web's themes do not have. Each page is replaced as a whole and flushed; one that
+// cannot be written keeps its theme and is reported, and the rest goes on.
 class PageUpdate {
   public:
     using Report = std::function<void(const std::string& sentence)>;
 
     // Without a theme no page is changed.
-    PageUpdate(Disk& disk, const WebFiles& web, std::optional<std::string> theme, Report report)
+    PageUpdate(Disk& disk, const WebFiles& web, std::optional<std::string> theme, PageChoice choice,
+               Report report)
         : disk_(disk),
           web_(web),
           theme_(std::move(theme)),
+          choice_(std::move(choice)),
           report_(std::move(report)),
           files_(web) {}
 
@@ -34,6 +38,8 @@ class PageUpdate {
 
     // Whether a page takes the theme now.
     bool IsThemeShown() const { return isShown_; }
+    // How many pages keep a theme that they name themselves, by its name.
+    const std::map<std::string, int>& KeptThemes() const { return keptThemes_; }
     // What to log: `Broken hyperlink in "index.htm": _themes/blends/x.gif`.
     const std::vector<std::string>& BrokenAddresses() const { return broken_; }
 
@@ -58,17 +64,20 @@ class PageUpdate {
     void Write();
     void ReportKept(const std::string& url, const RunTimeError& error);
     void ReportSummary();
+    void ReportKeptThemes();
     static void Sweep(Folder& folder, const std::vector<FolderEntry>& entries,
                       std::uint64_t program);
 
     Disk& disk_;
     const WebFiles& web_;
     std::optional<std::string> theme_;
+    PageChoice choice_;
     Report report_;
     ThemeFiles files_;
     std::set<std::string> kept_;  // files of the earlier theme that the new one does not have
     std::vector<Change> changes_;
     std::size_t changedBytes_ = 0;  // in changes_
+    std::map<std::string, int> keptThemes_;
     bool isShown_ = false;
     std::vector<std::string> broken_;
 };

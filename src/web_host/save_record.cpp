@@ -1,9 +1,9 @@
 #include "web_host/save_record.h"
 
-#include <charconv>
 #include <map>
 
 #include "formats/web_text.h"
+#include "text/parsed_number.h"
 
 namespace morpho {
 
@@ -30,32 +30,29 @@ std::vector<std::string> WordsOf(std::string_view line) {
     }
 }
 
-bool ReadNumber(const std::string& text, std::uint64_t& number) {
-    const char* const end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, number);
-    return error == std::errc() && stop == end;
-}
-
 // Takes over the value of a line with one value.
 bool ReadValue(const std::string& key, const std::string& value, SaveRecord& record) {
-    const std::map<std::string_view, std::string*> texts = {{"machine", &record.machine},
-                                                            {"webtheme", &record.webTheme},
-                                                            {"theme", &record.theme},
-                                                            {"new", &record.newThemeFolder},
-                                                            {"apply", &record.appliedTheme}};
+    const std::map<std::string_view, std::string*> texts = {
+        {"machine", &record.machine},    {"webtheme", &record.webTheme},
+        {"theme", &record.theme},        {"new", &record.newThemeFolder},
+        {"apply", &record.appliedTheme}, {"ownpages", &record.pages.ownTheme}};
     const std::map<std::string_view, std::uint64_t*> numbers = {{"program", &record.program},
                                                                 {"device", &record.webId.device},
                                                                 {"folder", &record.webId.number}};
     const std::map<std::string_view, bool*> flags = {{"changesuser", &record.changesUserTheme},
                                                      {"userhad", &record.userHadTheme},
+                                                     {"webpages", &record.pages.ofWeb},
                                                      {"committed", &record.isCommitted},
                                                      {"ended", &record.hasEnded}};
     if (const auto text = texts.find(key); text != texts.end()) {
         *text->second = value;
         return true;
     }
-    if (const auto number = numbers.find(key); number != numbers.end())
-        return ReadNumber(value, *number->second);
+    if (const auto found = numbers.find(key); found != numbers.end()) {
+        const auto number = ParsedNumber<std::uint64_t>(value);
+        *found->second = number.value_or(0);
+        return number.has_value();
+    }
     const auto flag = flags.find(key);
     if (flag == flags.end() || (value != "yes" && value != "no")) return false;
     *flag->second = value == "yes";
@@ -92,6 +89,8 @@ std::string FormatSaveRecord(const SaveRecord& record) {
                       file.digestBefore, file.digestAfter});
     text += Line({"committed", YesOrNo(record.isCommitted)});
     text += Line({"apply", record.appliedTheme});
+    text += Line({"webpages", YesOrNo(record.pages.ofWeb)});
+    text += Line({"ownpages", record.pages.ownTheme});
     text += Line({"ended", YesOrNo(record.hasEnded)});
     return text.append(kLastLine);
 }

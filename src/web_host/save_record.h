@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "formats/theme_mark.h"
 #include "web_host/disk.h"
 
 namespace morpho {
@@ -37,6 +38,7 @@ struct SaveRecord {
     std::vector<ThemeFile> files;   // what is replaced in a theme of the web
     bool isCommitted = false;       // from here on it is completed, not rolled back
     std::string appliedTheme;       // the theme that pages get; empty: none
+    PageChoice pages;               // which pages get it
     // The save is complete. Its record stays until its program ends, so that a program killed
     // right after the save is not taken for one that has saved nothing.
     bool hasEnded = false;

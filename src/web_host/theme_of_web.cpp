@@ -31,9 +31,13 @@ std::string HeadOf(const Folder& root, const std::string& name) {
     }
 }
 
+std::optional<PageTheme> ThemeOf(const Folder& folder, const std::string& page) {
+    return ThemeOfPage(PageText(HeadOf(folder, page)).Text());
+}
+
 // The theme of the web, as far as this page takes it.
 std::optional<std::string> ThemeTaken(const Folder& root, const std::string& name) {
-    const auto theme = ThemeOfPage(PageText(HeadOf(root, name)).Text());
+    const auto theme = ThemeOf(root, name);
     if (!theme || !theme->ofWeb) return {};
     return theme->name;
 }
@@ -62,6 +66,22 @@ std::string ThemeOfWeb(const Folder& root) {
         std::max_element(counts.begin(), counts.end(),
                          [](const auto& a, const auto& b) { return a.second < b.second; });
     return most == counts.end() ? "" : most->first;
+}
+
+bool HasPageWithTheme(const WebFiles& web, const std::string& theme) {
+    bool found = false;
+    VisitPageFolders(
+        web,
+        [&](const std::shared_ptr<Folder>& folder, const std::string& /*url*/,
+            const std::vector<FolderEntry>& entries) {
+            for (const FolderEntry& entry : entries) {
+                if (found || !IsPage(entry)) continue;
+                const auto itsTheme = ThemeOf(*folder, entry.name);
+                found = itsTheme && EqualIgnoringCase(itsTheme->name, theme);
+            }
+        },
+        [](const std::string&) {});
+    return found;
 }
 
 }  // namespace morpho

@@ -218,9 +218,11 @@ void WebSaveTransaction::UpdatePages() {
     try {
         if (applies || recalculates_) {
             PageUpdate pages(web_.TheDisk(), web_.Files(),
-                             applies ? std::optional(record_.appliedTheme) : std::nullopt, report);
+                             applies ? std::optional(record_.appliedTheme) : std::nullopt,
+                             record_.pages, report);
             pages.Run();
             web_.SetThemeShown(pages.IsThemeShown());
+            if (applies) web_.SetKeptThemes(pages.KeptThemes());
             for (const std::string& line : pages.BrokenAddresses()) {
                 if (recalculates_) web_.Reports().WriteLog(line);
             }

@@ -51,6 +51,8 @@ class WebSaveTransaction : public SaveTransaction {
     // users, else the one that the web has), and gives it to the pages with Commit. Throws
     // RunTimeError when there is no such theme or its package cannot be trusted.
     void ApplyTheme(const std::string& name);
+    // Gives it to these pages instead of those that take the web's theme.
+    void ChoosePages(const PageChoice& pages) { record_.pages = pages; }
 
     void RefreshAtCommit() { refreshes_ = true; }
     void RecalcAtCommit() { recalculates_ = true; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -90,6 +91,13 @@ class WebSession {
     // A save has ended: its record goes when this object does.
     void SetSaved() { hasSaved_ = true; }
 
+    // Whether pages that name the theme that a save starts from follow to the new one, too.
+    void LetPagesFollow(bool follow) { pagesFollow_ = follow; }
+    bool PagesFollow() const { return pagesFollow_; }
+    // The pages that kept a theme of their own when a theme was applied last, by its name.
+    const std::map<std::string, int>& KeptThemes() const { return keptThemes_; }
+    void SetKeptThemes(std::map<std::string, int> kept) { keptThemes_ = std::move(kept); }
+
     // Whether a page uses the theme that was applied last.
     bool IsThemeShown() const { return isThemeShown_; }
     void SetThemeShown(bool shown) { isThemeShown_ = shown; }
@@ -107,6 +115,8 @@ class WebSession {
     WebSaveTransaction* transaction_ = nullptr;
     bool hasSaved_ = false;
     bool isThemeShown_ = false;
+    bool pagesFollow_ = false;
+    std::map<std::string, int> keptThemes_;
 };
 
 }  // namespace morpho

@@ -21,7 +21,7 @@ const std::string kNewMark = Meta("new 1011, default");
 
 // The new theme has all files but "lacking.gif".
 std::optional<std::string> Rethemed(const std::string& page, const std::string& theme = "new") {
-    return PageWithTheme(page, theme,
+    return PageWithTheme(page, theme, PageChoice(),
                          [](const ThemeAddress& address) { return address.file != "lacking.gif"; });
 }
 void ExpectPage(const std::string& page, const std::string& expected,
@@ -51,6 +51,20 @@ TEST(PageTheme, PagesThatDoNotTakeTheWebsThemeStay) {
             "<meta name='Microsoft Theme' content='" + content + "'><img src='_themes/old/a.gif'>",
             "unchanged");
     ExpectPage("<img src='_themes/old/a.gif'>", "unchanged");
+}
+
+TEST(PageTheme, PagesThatNameTheThemeThemselvesChangeWhereTheyAreChosen) {
+    const auto moves = [](const ThemeAddress&) { return true; };
+    const auto rethemed = [&](const std::string& content, const PageChoice& choice) {
+        const std::string page = Meta(content) + "<img src='_themes/old/a.gif'>";
+        return PageWithTheme(page, "new", choice, moves).value_or("unchanged");
+    };
+    const std::string rest = "<img src='_themes/new/a.gif'>";
+    EXPECT_EQ(rethemed("Old 011", {true, "old"}), Meta("new 011") + rest);
+    EXPECT_EQ(rethemed("old 011, default", {true, "old"}), Meta("new 011, default") + rest);
+    EXPECT_EQ(rethemed("old 011, default", {false, "old"}), "unchanged");
+    EXPECT_EQ(rethemed("other 011", {true, "old"}), "unchanged");
+    EXPECT_EQ(rethemed("none", {true, "none"}), "unchanged");
 }
 
 TEST(PageTheme, AddressesOfTheOldFolderChangeWhereverTheyStand) {

@@ -38,7 +38,11 @@ TEST_F(Save, AsAnotherGivesTheWebANewThemeThatItsPagesShow) {
     const Tree before = Web();
     Report(kRecolour + "--export OUT");
     EXPECT_EQ(Report(kRecolour + "--save-as auto --apply-to-web")["saved"],
-              json({{"name", "orrery2"}, {"title", "Orrery2"}, {"web", true}, {"applied", true}}));
+              json({{"name", "orrery2"},
+                    {"title", "Orrery2"},
+                    {"web", true},
+                    {"applied", true},
+                    {"pagesWithOwnTheme", {{"almanac", 1}}}}));
     EXPECT_EQ(WithoutTheme(Web(), "orrery2"), Rethemed(before, "orrery2"));
     ExpectPictures(home_.FilesIn("out"), Theme("orrery2"));
     EXPECT_NE(Theme("orrery2")["orrbnra.gif"], Theme("orrery")["orrbnra.gif"]);
@@ -49,6 +53,19 @@ TEST_F(Save, AsAnotherGivesTheWebANewThemeThatItsPagesShow) {
     EXPECT_EQ(Report("recolor WEB --theme orrery2 --hue 20 --apply --save")["saved"]["applied"],
               true);
     EXPECT_EQ(WithoutTheme(Web(), "orrery2"), Rethemed(before, "orrery2"));
+}
+
+TEST_F(Save, PagesThatNameTheirThemeThemselvesFollowWhenTheyAreTold) {
+    Tree expected = Web();
+    ExpectRefusal("apply WEB --theme orrery --in-place-of night", 1, "No page of the web has");
+    EXPECT_EQ(Web(), expected);
+    EXPECT_EQ(Run("apply WEB --theme orrery --in-place-of almanac").status, 0);
+    expected["visit.htm"] = Replaced(expected["visit.htm"], "almanac 011", "orrery 011");
+    // Its pictures have other names than those of "orrery", so their addresses stay.
+    EXPECT_EQ(Web(), expected);
+    Report(kRecolour + "--save-as night --apply-to-web --apply-to-pages");
+    expected["visit.htm"] = Replaced(expected["visit.htm"], "orrery 011", "night 011");
+    EXPECT_EQ(Web()["visit.htm"], expected["visit.htm"]);
 }
 
 TEST_F(Save, AsAnotherWithoutTheWebKeepsTheThemeWithTheUser) {

@@ -36,6 +36,7 @@ class SaveTransactionTest : public testing::Test {
         folder_.Write("web/_themes/old/a.gif", "old a");
         for (const char* const page : {"index.htm", "sub/page.htm"})
             folder_.Write(std::string("web/") + page, Page("old"));
+        folder_.Write("web/own.htm", "<meta name='Microsoft Theme' content='old 1011'>");
         for (const std::string name : {"new", "old"}) {
             folder_.Write("user/" + name + "/" + name + ".inf", "[info]\ntitle=Mine\n");
             folder_.Write("user/" + name + "/" + name + ".elm",
@@ -47,11 +48,12 @@ class SaveTransactionTest : public testing::Test {
     std::unique_ptr<DiskApplication> Opened() {
         auto host = std::make_unique<DiskApplication>(disk_, files_, Path("cache"));
         host->Open(Path("web"), {}, Stores());
+        host->Session()->LetPagesFollow(true);
         return host;
     }
     // The user's theme of this name is saved anew, with other bytes, and given to the web.
     void Save(DiskApplication& host, const std::string& name) {
-        const auto save = host.BeginSave(name);
+        const auto save = host.BeginSave(name, "old");
         files_.WriteFile(Path("user/" + name + "/" + name + ".inf"), "[info]\ntitle=Saved\n");
         host.ActiveWeb()->ApplyTheme(name);
         save->Commit();
@@ -147,7 +149,7 @@ TEST_F(SaveTransactionTest, WhatAKilledProgramLeftIsRepairedByAnotherOneOnAnyPat
     const auto host = Opened();
     kill();
     EXPECT_NE(Everything(), after);
-    host->BeginSave("new").reset();
+    host->BeginSave("new", "old").reset();
     EXPECT_EQ(Everything(), after);
 }
 
@@ -169,7 +171,7 @@ TEST_F(SaveTransactionTest, ASaveThatEndsWithoutCommitLeavesNothing) {
     const Tree before = Everything();
     const auto host = Opened();
     {
-        const auto save = host->BeginSave("new");
+        const auto save = host->BeginSave("new", "old");
         host->ActiveWeb()->LocateFolder("_themes")->AddFolder("new")->AddFile(
             ToWindowsPath(folder_.Write("x/new.inf", "[info]")), true);
         EXPECT_TRUE(host->ActiveWeb()->LocateFolder("_themes/NEW"));
@@ -184,10 +186,10 @@ TEST_F(SaveTransactionTest, OneProgramAtATimeSaves) {
     const auto first = Opened();
     DiskApplication second(disk_, files_, Path("other cache"));
     second.Open(Path("web"), {}, {Path("user"), Path("all of second"), Path("saves of second")});
-    auto save = first->BeginSave("new");
+    auto save = first->BeginSave("new", "old");
     const Tree during = Everything();
     try {
-        second.BeginSave("other");
+        second.BeginSave("other", "old");
         ADD_FAILURE() << "the web is locked";
     } catch (const RunTimeError& error) {
         EXPECT_NE(std::string(error.what()).find(std::to_string(::getpid())), std::string::npos);
@@ -214,7 +216,7 @@ TEST_F(SaveTransactionTest, WhatAWebSaysOfSavesIsToldAndLeftAlone) {
     const Tree before = Everything();
     for (const auto& plant : plants) {
         plant();
-        EXPECT_THROW(Opened()->BeginSave("new"), RunTimeError);
+        EXPECT_THROW(Opened()->BeginSave("new", "old"), RunTimeError);
         EXPECT_EQ(folder_.Read("outside"), "kept");
         fs::remove(lock);
         EXPECT_EQ(Everything(), before);
