@@ -11,7 +11,6 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTreeView>
-#include <algorithm>
 
 #include "platform/run_time_error.h"
 #include "qt/qt_text.h"
@@ -35,11 +34,6 @@ constexpr int kRecentId = 30126;
 constexpr std::string_view kApplication = "Morpho";
 constexpr std::string_view kSection = "Web Window";
 constexpr int kTreeWidth = 240;  // pixels
-
-bool IsPicture(const std::string& name) {
-    const QString extension = ToQt(name).section('.', -1).toLower();
-    return QStringList{"gif", "jpg", "jpeg", "png", "bmp"}.contains(extension);
-}
 
 // A name in a menu, where "&" would mark an access key.
 QString Unmarked(QString text) {
@@ -180,16 +174,14 @@ void HostWindow::ShowWeb() {
 }
 
 void HostWindow::ShowHomePage() {
-    for (const char* const name : {"index.htm", "index.html", "default.htm"}) {
-        const auto entry = host_.frontPage.Session()->Files().Root().Find(name);
-        if (entry && entry->kind == EntryKind::kFile) return OpenPage({entry->name});
-    }
+    const auto page = FindFile(host_.frontPage.Session()->Files(), {});
+    if (page) OpenPage(*page);
 }
 
 void HostWindow::OpenEntry(const QModelIndex& index) {
     if (!index.isValid() || model_->IsFolder(index)) return;
     const WebPath path = model_->PathOf(index);
-    if (IsPageName(path.back()) || IsPicture(path.back())) return OpenPage(path);
+    if (IsShownByBrowser(path.back())) return OpenPage(path);
     Tell({"\"" + path.back() + "\" is neither a page nor a picture."});
 }
 
@@ -209,12 +201,11 @@ void HostWindow::OpenPage(const WebPath& page) {
     });
     connect(view, &WebPageView::SelectionChanged, this, &HostWindow::SelectionChanged);
     connect(view, &WebPageView::MenuAsked, this, &HostWindow::ShowPageMenu);
-    connect(view, &WebPageView::LinkRefused, this, [this](const QString& address) {
-        Tell({"This address is outside of the web: " + FromQt(address)});
-    });
+    connect(view, &WebPageView::LinkRefused, this,
+            [this](const QString& reason) { Tell({FromQt(reason)}); });
     connect(view, &WebPageView::loadFinished, this, [this, view](bool loaded) {
-        WatchShown();
         if (!loaded) Tell({"The page \"" + FromQt(PathOf(view->Page())) + "\" cannot be shown."});
+        WatchShown();
     });
     view->ShowPage(page);
     tabs_->setCurrentIndex(index);
@@ -250,7 +241,7 @@ void HostWindow::RefreshViews() {
     if (!model_) return;
     model_->Update();
     for (int i = 0; i < tabs_->count(); ++i)
-        static_cast<WebPageView*>(tabs_->widget(i))->Reload();
+        static_cast<WebPageView*>(tabs_->widget(i))->ReadAgain();
     WatchShown();
 }
 
@@ -264,35 +255,26 @@ void HostWindow::Tell(const std::vector<std::string>& sentences) {
     status_->setToolTip(PlainToolTip(lines.mid(0, 20).join('\n')));
 }
 
-// The files of the pages in tabs, and the folders that the tree has read.
+// The folders that the tree has read, and the files that the pages in tabs were made of.
 void HostWindow::WatchShown() {
     if (!model_) return;
     QStringList paths;
     for (int i = 0; i < tabs_->count(); ++i)
-        paths += PathsOf(*static_cast<WebPageView*>(tabs_->widget(i)));
+        paths += static_cast<WebPageView*>(tabs_->widget(i))->Files().Paths();
     for (const WebPath& folder : model_->ListedFolders())
-        paths += PathOf(folder);
+        paths.prepend(PathOf(folder));
     paths.removeDuplicates();
     watcher_.Watch(paths);
 }
 
-void HostWindow::DiskHasChanged(const QStringList& paths) {
+void HostWindow::DiskHasChanged() {
     if (!model_) return;
     model_->Update();
     for (int i = 0; i < tabs_->count(); ++i) {
         auto* const view = static_cast<WebPageView*>(tabs_->widget(i));
-        const QStringList files = PathsOf(*view);
-        const auto isOfPage = [&](const QString& path) { return files.contains(path); };
-        if (std::any_of(paths.begin(), paths.end(), isOfPage)) view->Reload();
+        if (view->Files().HaveChanged()) view->ReadAgain();
     }
     WatchShown();
-}
-
-QStringList HostWindow::PathsOf(const WebPageView& page) const {
-    QStringList paths;
-    for (const WebPath& file : page.Files())
-        paths += PathOf(file);
-    return paths;
 }
 
 // The path of the disk.

@@ -74,9 +74,8 @@ class HostWindow : public QMainWindow {
     void ShowCurrentPage();
     void ShowPageMenu(const QPoint& place);
     void WatchShown();
-    void DiskHasChanged(const QStringList& paths);
+    void DiskHasChanged();
     QString PathOf(const WebPath& names) const;
-    QStringList PathsOf(const WebPageView& page) const;
     void RestorePlace();
 
     HostParts host_;

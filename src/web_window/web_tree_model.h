@@ -12,7 +12,7 @@ namespace morpho {
 class WebSession;
 
 // The folders and files of a web as a tree. A folder is read when it is expanded first, so that a
-// large web opens as fast as a small one. Folders of the host's own ("_vti_...") are left out.
+// large web opens as fast as a small one. What the host hides (see hidden_entries.h) is left out.
 class WebTreeModel : public QAbstractItemModel {
   public:
     // `title` is what the root, the web itself, is called.
