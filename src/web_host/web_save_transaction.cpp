@@ -193,6 +193,10 @@ void WebSaveTransaction::ApplyTheme(const std::string& name) {
 }
 
 void WebSaveTransaction::Commit() {
+    web_.Work().run([this] { CommitAll(); });
+}
+
+void WebSaveTransaction::CommitAll() {
     try {
         changes_.Flush();
         record_.isCommitted = true;
@@ -219,6 +223,7 @@ void WebSaveTransaction::UpdatePages() {
         if (applies || recalculates_) {
             PageUpdate pages(web_.TheDisk(), web_.Files(),
                              applies ? std::optional(record_.appliedTheme) : std::nullopt, report);
+            pages.SetProgress(web_.Work().advanced);
             pages.Run();
             web_.SetThemeShown(pages.IsThemeShown());
             for (const std::string& line : pages.BrokenAddresses()) {

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
@@ -47,7 +48,9 @@ HostWindow::HostWindow(const HostParts& host)
       bars_(host.frontPage.HostBars(), *this),
       tree_(new QTreeView),
       tabs_(new QTabWidget),
-      status_(new QLabel) {
+      status_(new QLabel),
+      progress_(new QProgressBar),
+      runner_(*progress_) {
     auto* const splitter = new QSplitter;
     splitter->addWidget(tree_);
     splitter->addWidget(tabs_);
@@ -61,6 +64,8 @@ HostWindow::HostWindow(const HostParts& host)
     tabs_->setMovable(true);
     tabs_->setDocumentMode(true);
     statusBar()->addWidget(status_, 1);
+    statusBar()->addPermanentWidget(progress_);
+    host_.frontPage.SetLongWork(runner_.ForHost());
     status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     setContextMenuPolicy(Qt::NoContextMenu);
     connect(tree_, &QTreeView::activated, this, &HostWindow::OpenEntry);
@@ -74,6 +79,7 @@ HostWindow::HostWindow(const HostParts& host)
 }
 
 HostWindow::~HostWindow() {
+    host_.frontPage.SetLongWork({});
     // The views go before the page server's sites and the session that they show.
     while (tabs_->count() > 0)
         delete tabs_->widget(0);
@@ -131,10 +137,11 @@ void HostWindow::FillRecentWebs() {
 }
 
 bool HostWindow::OpenWeb(const std::string& folder) {
+    if (runner_.IsRunning()) return false;
     QApplication::setOverrideCursor(Qt::WaitCursor);
     std::string failure;
     try {
-        host_.openWeb(folder);
+        runner_.Run([&] { host_.openWeb(folder); });
     } catch (const RunTimeError& error) {
         failure = error.what();
     }
@@ -160,8 +167,9 @@ void HostWindow::ShowWeb() {
     while (tabs_->count() > 0)
         CloseTab(0);
     const auto web = host_.frontPage.Session();
-    const QString title = ToQt(web->Files().Root().Path()).section('/', -1);
-    auto model = std::make_unique<WebTreeModel>(web, title);
+    files_ = std::make_shared<WebFiles>(web->TheDisk(), web->Files().Path());
+    const QString title = ToQt(files_->Root().Path()).section('/', -1);
+    auto model = std::make_unique<WebTreeModel>(files_, title);
     tree_->setModel(model.get());
     model_ = std::move(model);
     tree_->expand(model_->index(0, 0));
@@ -174,7 +182,7 @@ void HostWindow::ShowWeb() {
 }
 
 void HostWindow::ShowHomePage() {
-    const auto page = FindFile(host_.frontPage.Session()->Files(), {});
+    const auto page = FindFile(*files_, {});
     if (page) OpenPage(*page);
 }
 
@@ -190,7 +198,7 @@ void HostWindow::OpenPage(const WebPath& page) {
         if (static_cast<WebPageView*>(tabs_->widget(i))->Page() == page)
             return tabs_->setCurrentIndex(i);
     }
-    auto* const view = new WebPageView(host_.pages, host_.frontPage.Session(), tabs_);
+    auto* const view = new WebPageView(host_.pages, files_, tabs_);
     const int index = tabs_->addTab(view, ToQt(page.back()));
     connect(view, &WebPageView::PageChanged, this, [this, view] {
         const WebPath& shown = view->Page();
@@ -279,7 +287,7 @@ void HostWindow::DiskHasChanged() {
 
 // The path of the disk.
 QString HostWindow::PathOf(const WebPath& names) const {
-    QString path = ToQt(host_.frontPage.Session()->Files().Root().Path());
+    QString path = ToQt(files_->Root().Path());
     for (const std::string& name : names)
         path += '/' + ToQt(name);
     return path;

@@ -22,7 +22,7 @@ std::optional<std::string> HomePageOf(const Folder& folder) {
 
 std::string PageFiles::Read(const WebPath& names) {
     if (names.empty()) throw RunTimeError(ErrorNumber::kFileNotFound, "A folder is no file.");
-    const auto folder = web_->Files().OpenFolder({names.begin(), names.end() - 1});
+    const auto folder = web_->OpenFolder({names.begin(), names.end() - 1});
     const auto entry = folder->Find(names.back());
     const std::string& name = entry ? entry->name : names.back();
     const QString path = ToQt(folder->PathOf(name));

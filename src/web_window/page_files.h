@@ -7,14 +7,14 @@
 #include <optional>
 #include <string>
 
-#include "web_host/web_session.h"
+#include "web_host/web_files.h"
 
 namespace morpho {
 
 // Gives a page view the files of the web, and knows which of them have changed on the disk since.
 class PageFiles {
   public:
-    explicit PageFiles(std::shared_ptr<WebSession> web) : web_(std::move(web)) {}
+    explicit PageFiles(std::shared_ptr<const WebFiles> web) : web_(std::move(web)) {}
 
     // The file at these names, without regard to case. Throws RunTimeError when there is none.
     std::string Read(const WebPath& names);
@@ -35,7 +35,7 @@ class PageFiles {
 
     static Stamp StampOf(const QString& path);
 
-    std::shared_ptr<WebSession> web_;
+    std::shared_ptr<const WebFiles> web_;
     std::map<QString, Stamp> read_;  // by path of the disk
 };
 

@@ -7,7 +7,6 @@
 
 #include "qt/qt_text.h"
 #include "web_host/page_walk.h"
-#include "web_host/web_session.h"
 #include "web_window/page_script.h"
 
 namespace morpho {
@@ -37,7 +36,7 @@ bool IsShownByBrowser(const std::string& name) {
     return pictures.contains(type.name()) || type.inherits("text/plain");
 }
 
-WebPageView::WebPageView(PageServer& pages, std::shared_ptr<WebSession> web, QWidget* parent)
+WebPageView::WebPageView(PageServer& pages, std::shared_ptr<const WebFiles> web, QWidget* parent)
     : PageView(pages.Profile(), parent),
       pages_(pages),
       web_(std::move(web)),
@@ -63,7 +62,7 @@ void WebPageView::ShowPage(const WebPath& page) {
 }
 
 void WebPageView::ReadAgain() {
-    if (!FindFile(web_->Files(), page_)) return;
+    if (!FindFile(*web_, page_)) return;
     files_->Clear();
     Reload();
 }
@@ -84,7 +83,7 @@ bool WebPageView::Follows(const QUrl& link) {
         emit LinkRefused("This address is outside of the web: " + link.toString());
         return false;
     }
-    const auto file = FindFile(web_->Files(), *names);
+    const auto file = FindFile(*web_, *names);
     if (!file) {
         emit LinkRefused("The web has no \"" + link.path().mid(1) + "\".");
         return false;
@@ -109,7 +108,7 @@ void WebPageView::ScriptSays(const QString& message) {
 void WebPageView::AddressChanged(const QUrl& address) {
     const auto names = PageServer::NamesIn(address);
     if (!names || !PageServer::IsOfScheme(address)) return;
-    page_ = FindFile(web_->Files(), *names).value_or(*names);
+    page_ = FindFile(*web_, *names).value_or(*names);
     AskSelection();
     emit PageChanged();
 }
@@ -127,7 +126,7 @@ void WebPageView::AskSelection(const std::function<void()>& then) {
         const QVariantMap values = answer.toMap();
         PageSelection now;
         const WebPath names = PageServer::NamesIn(values["url"].toUrl()).value_or(WebPath());
-        now.page = FindFile(web_->Files(), names).value_or(page_);
+        now.page = FindFile(*web_, names).value_or(page_);
         const int picture = values.value("image", -1).toInt();
         if (picture >= 0) now.picture = picture;
         now.html = FromQt(values["text"].toString());

@@ -11,8 +11,6 @@
 
 namespace morpho {
 
-class WebSession;
-
 // What is selected in a page.
 struct PageSelection {
     WebPath page = {};                // the page; in a frame, the frame's own
@@ -29,7 +27,7 @@ class WebPageView : public PageView {
 
   public:
     // `pages` must outlive it.
-    WebPageView(PageServer& pages, std::shared_ptr<WebSession> web, QWidget* parent);
+    WebPageView(PageServer& pages, std::shared_ptr<const WebFiles> web, QWidget* parent);
     ~WebPageView() override;
 
     // Shows a page of the web.
@@ -64,7 +62,7 @@ class WebPageView : public PageView {
     void AddressChanged(const QUrl& address);
 
     PageServer& pages_;
-    std::shared_ptr<WebSession> web_;
+    std::shared_ptr<const WebFiles> web_;
     std::string site_;
     WebPath page_;
     PageSelection selection_;

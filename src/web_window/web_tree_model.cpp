@@ -9,7 +9,6 @@
 #include "qt/qt_text.h"
 #include "text/ignoring_case.h"
 #include "web_host/hidden_entries.h"
-#include "web_host/web_session.h"
 
 namespace morpho {
 
@@ -41,7 +40,7 @@ bool IsShown(const FolderEntry& entry, bool showsHidden) {
 
 }  // namespace
 
-WebTreeModel::WebTreeModel(std::shared_ptr<WebSession> web, const QString& title)
+WebTreeModel::WebTreeModel(std::shared_ptr<const WebFiles> web, const QString& title)
     : web_(std::move(web)), title_(title), root_(std::make_unique<Node>("", true, nullptr)) {
     root_->isListed = true;
     root_->children.push_back(std::make_unique<Node>("", true, root_.get()));
@@ -80,9 +79,9 @@ std::vector<WebPath> WebTreeModel::ListedFolders() const {
 
 WebTreeModel::Nodes WebTreeModel::Read(Node& folder) const {
     Nodes nodes;
-    const bool showsHidden = ShowsHiddenEntries(web_->Files());
+    const bool showsHidden = ShowsHiddenEntries(*web_);
     try {
-        for (const FolderEntry& entry : web_->Files().OpenFolder(PathOf(folder))->Entries()) {
+        for (const FolderEntry& entry : web_->OpenFolder(PathOf(folder))->Entries()) {
             const bool isFolder = entry.kind == EntryKind::kFolder;
             if (IsShown(entry, showsHidden))
                 nodes.push_back(std::make_unique<Node>(entry.name, isFolder, &folder));

@@ -5,10 +5,14 @@
 #include <QAction>
 #include <QLabel>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTest>
+#include <QTimer>
 #include <QTreeView>
+#include <chrono>
+#include <thread>
 
 #include "linux/disk_file_system.h"
 #include "linux/disk_path.h"
@@ -76,12 +80,14 @@ class HostWindowTest : public testing::Test {
     }
 
     TemporaryFolder web_;
+    std::function<void()> beforeOpen_;
     FakePlatform world_;
     DiskFileSystem files_;
     LinuxDisk disk_;
     DiskApplication application_{disk_, files_, ToWindowsPath(web_ / "cache")};
     PageServer pages_{files_};
     HostWindow window_{{application_, world_.platform, pages_, [this](const std::string& folder) {
+                            if (beforeOpen_) beforeOpen_();
                             application_.Open(ToWindowsPath(folder));
                         }}};
 };
@@ -142,6 +148,35 @@ TEST_F(HostWindowTest, LinksLeadToWhatTheWebHasAndAPageFollowsItsFiles) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return Evaluate(body) == "rgb(0, 0, 255)"; }));
     web_.Write("web/_themes/t/t.css", "body { color: #00ff00 }");
     EXPECT_TRUE(QTest::qWaitFor([&] { return Evaluate(body) == "rgb(0, 255, 0)"; }));
+}
+
+TEST_F(HostWindowTest, IsAliveButTakesNoInputWhileTheHostWorks) {
+    Open();
+    int ticks = 0;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &window_, [&] {
+        ++ticks;
+        QTest::keyClick(&window_.Tree(), Qt::Key_Home);
+    });
+    window_.Tree().setCurrentIndex(window_.Tree().model()->index(1, 0, Root()));
+    timer.start(10);
+    beforeOpen_ = [&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(500));
+        throw RunTimeError(ErrorNumber::kPathNotFound, "gone");
+    };
+    QTimer::singleShot(800, [] { QApplication::activeModalWidget()->close(); });
+    const QModelIndex before = window_.Tree().currentIndex();
+    QTimer::singleShot(450, [&] {
+        timer.stop();
+        EXPECT_GT(ticks, 10);
+        EXPECT_EQ(window_.Tree().currentIndex(), before) << "no key came through";
+    });
+    EXPECT_FALSE(window_.OpenWeb(web_ / "web"));
+
+    web_.Write("web/b.htm", "");
+    application_.ActiveWeb()->RecalcHyperlinks();
+    const auto* const progress = window_.findChild<QProgressBar*>();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return progress->text() == "2 of 2 pages"; }));
 }
 
 TEST_F(HostWindowTest, AClickSelectsAPictureUntilSomethingElseIsClicked) {
