@@ -77,14 +77,20 @@ void ShowWebWindow(const WebRequest& request) {
                             resources, clipboard, request.hostVersion);
     const std::string folder = FolderOf(request, desktop.Parts());
     const auto open = [&](const std::string& web) { desktop.OpenForSaving(web); };
-    // A web that was named and cannot be opened is the command's error, not the window's.
-    if (!request.web.empty()) open(folder);
+    // A folder that is not there is the command's error, not the window's.
+    if (!request.web.empty() && !std::filesystem::is_directory(folder)) {
+        throw CommandError(CommandError::Status::kRefused,
+                           "There is no folder \"" + folder + "\".");
+    }
     HostWindow window({desktop.FrontPage(), desktop.Parts(), toolkit.Pages(), open});
     Component component;
     const Program program{desktop.Parts(), component};
     desktop.FrontPage().SetReporter([&](const std::vector<std::string>& sentences) {
-        window.Tell(sentences);
-        window.RefreshViews();
+        // A save may have ended on another thread than the window's.
+        QMetaObject::invokeMethod(&window, [&window, sentences] {
+            window.Tell(sentences);
+            window.RefreshViews();
+        });
     });
     desktop.FrontPage().SetLog([&](std::string_view line) { WriteLog(program, line); });
     window.show();

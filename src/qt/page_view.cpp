@@ -1,6 +1,7 @@
 #include "qt/page_view.h"
 
 #include <QWebEngineHistory>
+#include <QWebEngineNewWindowRequest>
 #include <QWebEnginePage>
 #include <QWebEngineSettings>
 
@@ -9,26 +10,6 @@
 namespace morpho {
 
 namespace {
-
-class FilteredPage : public QWebEnginePage {
-  public:
-    FilteredPage(QWebEngineProfile* profile, QObject* parent, PageView::LinkFilter follows)
-        : QWebEnginePage(profile, parent), follows_(std::move(follows)) {}
-
-  protected:
-    bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override {
-        const bool asked = type == NavigationTypeTyped || type == NavigationTypeReload;
-        if (isMainFrame && !asked) return follows_ && follows_(url);
-        return PageServer::IsOfScheme(url);
-    }
-
-    void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel /*level*/,
-                                  const QString& /*message*/, int /*line*/,
-                                  const QString& /*source*/) override {}
-
-  private:
-    PageView::LinkFilter follows_;
-};
 
 void ShowOnly(QWebEngineSettings* settings) {
     using Setting = QWebEngineSettings;
@@ -50,9 +31,36 @@ void UseClassicFonts(QWebEngineSettings* settings) {
 
 }  // namespace
 
-PageView::PageView(QWebEngineProfile* profile, QWidget* parent, LinkFilter follows)
-    : QWebEngineView(parent) {
-    auto* const page = new FilteredPage(profile, this, std::move(follows));
+class PageView::FilteredPage : public QWebEnginePage {
+  public:
+    FilteredPage(QWebEngineProfile* profile, PageView& view)
+        : QWebEnginePage(profile, &view), view_(view) {
+        // A link that asks for a window of its own is followed in this one.
+        connect(this, &QWebEnginePage::newWindowRequested, this,
+                [this](const QWebEngineNewWindowRequest& request) {
+                    if (view_.Follows(request.requestedUrl())) setUrl(request.requestedUrl());
+                });
+    }
+
+  protected:
+    bool acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) override {
+        if (type == NavigationTypeFormSubmitted) return false;
+        const bool asked = type == NavigationTypeTyped || type == NavigationTypeReload;
+        if (isMainFrame && !asked) return view_.Follows(url);
+        return PageServer::IsOfScheme(url);
+    }
+
+    void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel /*level*/, const QString& message,
+                                  int /*line*/, const QString& /*source*/) override {
+        view_.ScriptSays(message);
+    }
+
+  private:
+    PageView& view_;
+};
+
+PageView::PageView(QWebEngineProfile* profile, QWidget* parent) : QWebEngineView(parent) {
+    auto* const page = new FilteredPage(profile, *this);
     ShowOnly(page->settings());
     UseClassicFonts(page->settings());
     setPage(page);

@@ -1,17 +1,13 @@
 #pragma once
 
 #include <QWebEngineView>
-#include <functional>
 
 namespace morpho {
 
-// Shows a page without scripts or network. A link is followed only if the filter says so.
+// Shows a page without scripts or network. All links are refused; a derived view may follow some.
 class PageView : public QWebEngineView {
   public:
-    using LinkFilter = std::function<bool(const QUrl& link)>;
-
-    // Without a filter all links are refused.
-    PageView(QWebEngineProfile* profile, QWidget* parent, LinkFilter follows = {});
+    PageView(QWebEngineProfile* profile, QWidget* parent);
 
     void Open(const QUrl& page);
     // Shows the page and its pictures anew, at the same scroll position.
@@ -19,7 +15,15 @@ class PageView : public QWebEngineView {
     // Whether a page is still loading.
     bool IsLoading() const { return loading_; }
 
+  protected:
+    // Whether the browser may go where a link leads.
+    virtual bool Follows(const QUrl& /*link*/) { return false; }
+    // A script of the view, never one of the page, has written this to the console.
+    virtual void ScriptSays(const QString& /*message*/) {}
+
   private:
+    class FilteredPage;
+
     bool loading_ = false;
 };
 

@@ -31,12 +31,18 @@ void DiskApplication::Open(const std::string& path, const std::optional<std::str
     auto web = std::make_shared<WebSession>(
         disk_, WebOptions{path, unpackFolder_, onlyTheme, stores}, log_);
     web->Reports().SetReporter(reporter_);
+    web->SetWork(work_);
     web_ = std::move(web);
 }
 
 void DiskApplication::SetLog(WebReports::Log log) {
     log_ = std::move(log);
     if (web_) web_->Reports().SetLog(log_);
+}
+
+void DiskApplication::SetLongWork(LongWork work) {
+    work_ = std::move(work);
+    if (web_) web_->SetWork(work_);
 }
 
 void DiskApplication::SetReporter(WebReports::Reporter reporter) {

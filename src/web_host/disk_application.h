@@ -39,9 +39,13 @@ class DiskApplication : public Application {
     // The menus and toolbars, for the window that shows them.
     HostCommandBars& HostBars() { return bars_; }
 
-    // Takes the host's own messages from now on: broken hyperlinks, pages that keep their theme.
+    // Takes the host's own messages from now on: broken hyperlinks, pages that keep their theme;
+    // also from the thread of the long work.
     void SetLog(WebReports::Log log);
-    // Takes what happened to single pages, whenever a save has ended; often nothing.
+    // Does what may take seconds in this way from now on.
+    void SetLongWork(LongWork work);
+    // Takes what happened to single pages, whenever a save has ended; often nothing. It comes from
+    // the thread of the long work.
     void SetReporter(WebReports::Reporter reporter);
 
     std::string Version() const override { return options_.version; }
@@ -65,6 +69,7 @@ class DiskApplication : public Application {
     HostCommandBars bars_;
     WebReports::Log log_;
     WebReports::Reporter reporter_;
+    LongWork work_;
     std::shared_ptr<WebSession> web_;
     std::string sourceOfSave_;
 };

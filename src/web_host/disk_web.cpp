@@ -1,38 +1,16 @@
 #include "web_host/disk_web.h"
 
-#include <algorithm>
-
 #include "platform/run_time_error.h"
 #include "text/ignoring_case.h"
-#include "text/windows_1252.h"
 #include "web_host/disk_web_folder.h"
 #include "web_host/disk_web_window.h"
-#include "web_host/limits.h"
 #include "web_host/page_update.h"
 #include "web_host/refusal.h"
 #include "web_host/theme_of_web.h"
 #include "web_host/web_save_transaction.h"
+#include "web_host/web_settings.h"
 
 namespace morpho {
-
-namespace {
-
-// A property in the host's settings, lines "key:TYPE|value" where TYPE is two letters.
-std::optional<std::string> PropertyIn(std::string_view settings, std::string_view key) {
-    while (!settings.empty()) {
-        const std::string_view line = settings.substr(0, settings.find('\n'));
-        settings.remove_prefix(std::min(line.size() + 1, settings.size()));
-        const std::size_t colon = line.find(':');
-        const std::size_t bar = line.find('|', colon == line.npos ? line.size() : colon);
-        if (bar == line.npos || !EqualIgnoringAsciiCase(line.substr(0, colon), key)) continue;
-        std::string_view value = line.substr(bar + 1);
-        if (value.ends_with('\r')) value.remove_suffix(1);
-        return TextOfUnknownCoding(value);
-    }
-    return {};
-}
-
-}  // namespace
 
 int DiskWeb::ThemeCount() const {
     return static_cast<int>(web_->Themes().size());
@@ -65,10 +43,7 @@ std::unique_ptr<WebFolder> DiskWeb::LocateFolder(std::string_view url) {
 }
 
 std::optional<std::string> DiskWeb::Property(std::string_view key) const {
-    const auto folder = web_->Files().FindFolder({"_vti_pvt"});
-    const auto settings = folder ? folder->Find("service.cnf") : std::nullopt;
-    if (!settings) return {};
-    return PropertyIn(ReadWholeFile(*folder, settings->name, kMaxFileBytes), key);
+    return WebSetting(web_->Files(), key);
 }
 
 void DiskWeb::ApplyTheme(std::string_view themeName) {
@@ -88,7 +63,8 @@ void DiskWeb::RecalcHyperlinks() {
     if (web_->Transaction()) return web_->Transaction()->RecalcAtCommit();
     const auto log = [this](const std::string& line) { web_->Reports().WriteLog(line); };
     PageUpdate pages(web_->TheDisk(), web_->Files(), {}, {}, log);
-    pages.Run();
+    pages.SetProgress(web_->Work().advanced);
+    web_->Work().run([&] { pages.Run(); });
     for (const std::string& line : pages.BrokenAddresses())
         log(line);
 }

@@ -1,5 +1,7 @@
 #include "web_host/page_update.h"
 
+#include <algorithm>
+
 #include "formats/page_theme.h"
 #include "formats/theme_mark.h"
 #include "formats/web_text.h"
@@ -23,14 +25,27 @@ void PageUpdate::Run(std::optional<std::uint64_t> deadProgram) {
         [&](const std::shared_ptr<Folder>& folder, const std::string& url,
             const std::vector<FolderEntry>& entries) {
             if (deadProgram) Sweep(*folder, entries, *deadProgram);
-            for (const FolderEntry& entry : entries) {
-                if (entry.kind == EntryKind::kFile && IsPageName(entry.name))
-                    Visit({folder, entry.name, url + entry.name});
-            }
+            VisitFolder(folder, url, entries);
         },
         report_);
     Write();
     if (theme_) ReportSummary();
+}
+
+void PageUpdate::VisitFolder(const std::shared_ptr<Folder>& folder, const std::string& url,
+                             const std::vector<FolderEntry>& entries) {
+    const auto isPage = [](const FolderEntry& entry) {
+        return entry.kind == EntryKind::kFile && IsPageName(entry.name);
+    };
+    pagesFound_ += static_cast<std::size_t>(std::count_if(entries.begin(), entries.end(), isPage));
+    for (const FolderEntry& entry : entries) {
+        if (isPage(entry)) Visit({folder, entry.name, url + entry.name});
+    }
+}
+
+void PageUpdate::Advance(std::size_t pages) {
+    pagesDone_ += pages;
+    if (advanced_) advanced_(pagesDone_, pagesFound_);
 }
 
 void PageUpdate::Visit(const WebPage& page) {
@@ -42,10 +57,14 @@ void PageUpdate::Visit(const WebPage& page) {
                    : std::nullopt;
         const std::string text = PageText(changed ? *changed : bytes).Text();
         NoteBroken(page.url, text);
-        if (!changed) return LookAtUnchanged(text);
+        if (!changed) {
+            Advance(1);
+            return LookAtUnchanged(text);
+        }
         changes_.push_back({page.folder, page.name, page.url, std::move(*changed)});
         changedBytes_ += changes_.back().bytes.size();
     } catch (const RunTimeError& error) {
+        Advance(1);
         ReportKept(page.url, error);
     }
     if (changes_.size() >= kMaxGroup || changedBytes_ >= kMaxGroupBytes) Write();
@@ -89,6 +108,7 @@ void PageUpdate::Write() {
         isShown_ = isShown_ || !change.failure;
         if (change.failure) ReportKept(change.url, *change.failure);
     }
+    Advance(changes_.size());
     changes_.clear();
     changedBytes_ = 0;
 }

@@ -33,6 +33,11 @@ class PageUpdate {
           report_(std::move(report)),
           files_(web) {}
 
+    // Tells how many of the pages found so far are done.
+    void SetProgress(std::function<void(std::size_t done, std::size_t found)> advanced) {
+        advanced_ = std::move(advanced);
+    }
+
     // Walks the pages. Temporary files that this program, now dead, left beside them are removed.
     void Run(std::optional<std::uint64_t> deadProgram = {});
 
@@ -57,7 +62,10 @@ class PageUpdate {
         std::optional<RunTimeError> failure = {};
     };
 
+    void VisitFolder(const std::shared_ptr<Folder>& folder, const std::string& url,
+                     const std::vector<FolderEntry>& entries);
     void Visit(const WebPage& page);
+    void Advance(std::size_t pages);
     bool Moves(const ThemeAddress& address);
     void LookAtUnchanged(const std::string& text);
     void NoteBroken(const std::string& url, const std::string& text);
@@ -73,11 +81,14 @@ class PageUpdate {
     std::optional<std::string> theme_;
     PageChoice choice_;
     Report report_;
+    std::function<void(std::size_t done, std::size_t found)> advanced_;
     ThemeFiles files_;
     std::set<std::string> kept_;  // files of the earlier theme that the new one does not have
     std::vector<Change> changes_;
     std::size_t changedBytes_ = 0;  // in changes_
     std::map<std::string, int> keptThemes_;
+    std::size_t pagesDone_ = 0;   // written, or left as they are
+    std::size_t pagesFound_ = 0;  // in the folders visited so far
     bool isShown_ = false;
     std::vector<std::string> broken_;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <functional>
 #include <memory>
 #include <string>
@@ -8,6 +9,10 @@
 #include "web_host/web_files.h"
 
 namespace morpho {
+
+// The names that the home page of a folder may have, the best first.
+inline constexpr std::array<std::string_view, 4> kHomePages = {"index.htm", "index.html",
+                                                               "default.htm", "default.html"};
 
 // Whether a file of this name is a page.
 bool IsPageName(std::string_view name);

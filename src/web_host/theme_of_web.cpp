@@ -1,7 +1,6 @@
 #include "web_host/theme_of_web.h"
 
 #include <algorithm>
-#include <array>
 #include <map>
 #include <optional>
 #include <vector>
@@ -18,9 +17,6 @@ namespace {
 
 // The head of every page that was ever made in the host fits in here.
 constexpr std::uint64_t kHeadBytes = 64 * 1024;
-
-constexpr std::array<std::string_view, 4> kHomePages = {"index.htm", "index.html", "default.htm",
-                                                        "default.html"};
 
 // As much of the page as its head can be; what cannot be read has no theme.
 std::string HeadOf(const Folder& root, const std::string& name) {

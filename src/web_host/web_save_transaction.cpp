@@ -193,6 +193,10 @@ void WebSaveTransaction::ApplyTheme(const std::string& name) {
 }
 
 void WebSaveTransaction::Commit() {
+    web_.Work().run([this] { CommitAll(); });
+}
+
+void WebSaveTransaction::CommitAll() {
     try {
         changes_.Flush();
         record_.isCommitted = true;
@@ -220,6 +224,7 @@ void WebSaveTransaction::UpdatePages() {
             PageUpdate pages(web_.TheDisk(), web_.Files(),
                              applies ? std::optional(record_.appliedTheme) : std::nullopt,
                              record_.pages, report);
+            pages.SetProgress(web_.Work().advanced);
             pages.Run();
             web_.SetThemeShown(pages.IsThemeShown());
             if (applies) web_.SetKeptThemes(pages.KeptThemes());

@@ -74,6 +74,7 @@ class WebSaveTransaction : public SaveTransaction {
     void ReplaceWithPacked(const PackedTheme& packed, const std::string& theme, Folder& folder);
     static void FillWithPacked(const PackedTheme& packed, Folder& folder);
     void RollBack();
+    void CommitAll();
     void UpdatePages();
     void End();
     void EndJournal();

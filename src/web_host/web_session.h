@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "web_host/long_work.h"
 #include "web_host/theme_stores.h"
 #include "web_host/theme_unpacking.h"
 #include "web_host/web_files.h"
@@ -71,6 +72,8 @@ class WebSession {
     const WebFiles& Files() const { return files_; }
     const WebOptions& Options() const { return options_; }
     WebReports& Reports() { return reports_; }
+    const LongWork& Work() const { return work_; }
+    void SetWork(LongWork work) { work_ = std::move(work); }
 
     const std::vector<Theme>& Themes() const { return listed_.themes; }
     // What could not be taken from the themes, and what was repaired, a sentence each.
@@ -109,6 +112,7 @@ class WebSession {
     WebOptions options_;
     WebFiles files_;
     WebReports reports_;
+    LongWork work_;
     ListedThemes listed_;
     std::vector<std::string> repairs_;
     std::string completedTheme_;

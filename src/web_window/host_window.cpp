@@ -6,12 +6,12 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTreeView>
-#include <algorithm>
 
 #include "platform/run_time_error.h"
 #include "qt/qt_text.h"
@@ -36,11 +36,6 @@ constexpr std::string_view kApplication = "Morpho";
 constexpr std::string_view kSection = "Web Window";
 constexpr int kTreeWidth = 240;  // pixels
 
-bool IsPicture(const std::string& name) {
-    const QString extension = ToQt(name).section('.', -1).toLower();
-    return QStringList{"gif", "jpg", "jpeg", "png", "bmp"}.contains(extension);
-}
-
 // A name in a menu, where "&" would mark an access key.
 QString Unmarked(QString text) {
     return text.replace("&", "&&");
@@ -53,7 +48,9 @@ HostWindow::HostWindow(const HostParts& host)
       bars_(host.frontPage.HostBars(), *this),
       tree_(new QTreeView),
       tabs_(new QTabWidget),
-      status_(new QLabel) {
+      status_(new QLabel),
+      progress_(new QProgressBar),
+      runner_(*progress_) {
     auto* const splitter = new QSplitter;
     splitter->addWidget(tree_);
     splitter->addWidget(tabs_);
@@ -67,6 +64,8 @@ HostWindow::HostWindow(const HostParts& host)
     tabs_->setMovable(true);
     tabs_->setDocumentMode(true);
     statusBar()->addWidget(status_, 1);
+    statusBar()->addPermanentWidget(progress_);
+    host_.frontPage.SetLongWork(runner_.ForHost());
     status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     setContextMenuPolicy(Qt::NoContextMenu);
     connect(tree_, &QTreeView::activated, this, &HostWindow::OpenEntry);
@@ -80,6 +79,7 @@ HostWindow::HostWindow(const HostParts& host)
 }
 
 HostWindow::~HostWindow() {
+    host_.frontPage.SetLongWork({});
     // The views go before the page server's sites and the session that they show.
     while (tabs_->count() > 0)
         delete tabs_->widget(0);
@@ -137,10 +137,11 @@ void HostWindow::FillRecentWebs() {
 }
 
 bool HostWindow::OpenWeb(const std::string& folder) {
+    if (runner_.IsRunning()) return false;
     QApplication::setOverrideCursor(Qt::WaitCursor);
     std::string failure;
     try {
-        host_.openWeb(folder);
+        runner_.Run([&] { host_.openWeb(folder); });
     } catch (const RunTimeError& error) {
         failure = error.what();
     }
@@ -166,8 +167,9 @@ void HostWindow::ShowWeb() {
     while (tabs_->count() > 0)
         CloseTab(0);
     const auto web = host_.frontPage.Session();
-    const QString title = ToQt(web->Files().Root().Path()).section('/', -1);
-    auto model = std::make_unique<WebTreeModel>(web, title);
+    files_ = std::make_shared<WebFiles>(web->TheDisk(), web->Files().Path());
+    const QString title = ToQt(files_->Root().Path()).section('/', -1);
+    auto model = std::make_unique<WebTreeModel>(files_, title);
     tree_->setModel(model.get());
     model_ = std::move(model);
     tree_->expand(model_->index(0, 0));
@@ -180,16 +182,14 @@ void HostWindow::ShowWeb() {
 }
 
 void HostWindow::ShowHomePage() {
-    for (const char* const name : {"index.htm", "index.html", "default.htm"}) {
-        const auto entry = host_.frontPage.Session()->Files().Root().Find(name);
-        if (entry && entry->kind == EntryKind::kFile) return OpenPage({entry->name});
-    }
+    const auto page = FindFile(*files_, {});
+    if (page) OpenPage(*page);
 }
 
 void HostWindow::OpenEntry(const QModelIndex& index) {
     if (!index.isValid() || model_->IsFolder(index)) return;
     const WebPath path = model_->PathOf(index);
-    if (IsPageName(path.back()) || IsPicture(path.back())) return OpenPage(path);
+    if (IsShownByBrowser(path.back())) return OpenPage(path);
     Tell({"\"" + path.back() + "\" is neither a page nor a picture."});
 }
 
@@ -198,7 +198,7 @@ void HostWindow::OpenPage(const WebPath& page) {
         if (static_cast<WebPageView*>(tabs_->widget(i))->Page() == page)
             return tabs_->setCurrentIndex(i);
     }
-    auto* const view = new WebPageView(host_.pages, host_.frontPage.Session(), tabs_);
+    auto* const view = new WebPageView(host_.pages, files_, tabs_);
     const int index = tabs_->addTab(view, ToQt(page.back()));
     connect(view, &WebPageView::PageChanged, this, [this, view] {
         const WebPath& shown = view->Page();
@@ -209,12 +209,11 @@ void HostWindow::OpenPage(const WebPath& page) {
     });
     connect(view, &WebPageView::SelectionChanged, this, &HostWindow::SelectionChanged);
     connect(view, &WebPageView::MenuAsked, this, &HostWindow::ShowPageMenu);
-    connect(view, &WebPageView::LinkRefused, this, [this](const QString& address) {
-        Tell({"This address is outside of the web: " + FromQt(address)});
-    });
+    connect(view, &WebPageView::LinkRefused, this,
+            [this](const QString& reason) { Tell({FromQt(reason)}); });
     connect(view, &WebPageView::loadFinished, this, [this, view](bool loaded) {
-        WatchShown();
         if (!loaded) Tell({"The page \"" + FromQt(PathOf(view->Page())) + "\" cannot be shown."});
+        WatchShown();
     });
     view->ShowPage(page);
     tabs_->setCurrentIndex(index);
@@ -250,7 +249,7 @@ void HostWindow::RefreshViews() {
     if (!model_) return;
     model_->Update();
     for (int i = 0; i < tabs_->count(); ++i)
-        static_cast<WebPageView*>(tabs_->widget(i))->Reload();
+        static_cast<WebPageView*>(tabs_->widget(i))->ReadAgain();
     WatchShown();
 }
 
@@ -264,40 +263,31 @@ void HostWindow::Tell(const std::vector<std::string>& sentences) {
     status_->setToolTip(PlainToolTip(lines.mid(0, 20).join('\n')));
 }
 
-// The files of the pages in tabs, and the folders that the tree has read.
+// The folders that the tree has read, and the files that the pages in tabs were made of.
 void HostWindow::WatchShown() {
     if (!model_) return;
     QStringList paths;
     for (int i = 0; i < tabs_->count(); ++i)
-        paths += PathsOf(*static_cast<WebPageView*>(tabs_->widget(i)));
+        paths += static_cast<WebPageView*>(tabs_->widget(i))->Files().Paths();
     for (const WebPath& folder : model_->ListedFolders())
-        paths += PathOf(folder);
+        paths.prepend(PathOf(folder));
     paths.removeDuplicates();
     watcher_.Watch(paths);
 }
 
-void HostWindow::DiskHasChanged(const QStringList& paths) {
+void HostWindow::DiskHasChanged() {
     if (!model_) return;
     model_->Update();
     for (int i = 0; i < tabs_->count(); ++i) {
         auto* const view = static_cast<WebPageView*>(tabs_->widget(i));
-        const QStringList files = PathsOf(*view);
-        const auto isOfPage = [&](const QString& path) { return files.contains(path); };
-        if (std::any_of(paths.begin(), paths.end(), isOfPage)) view->Reload();
+        if (view->Files().HaveChanged()) view->ReadAgain();
     }
     WatchShown();
 }
 
-QStringList HostWindow::PathsOf(const WebPageView& page) const {
-    QStringList paths;
-    for (const WebPath& file : page.Files())
-        paths += PathOf(file);
-    return paths;
-}
-
 // The path of the disk.
 QString HostWindow::PathOf(const WebPath& names) const {
-    QString path = ToQt(host_.frontPage.Session()->Files().Root().Path());
+    QString path = ToQt(files_->Root().Path());
     for (const std::string& name : names)
         path += '/' + ToQt(name);
     return path;

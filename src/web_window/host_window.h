@@ -9,8 +9,10 @@
 #include "web_window/bar_mirror.h"
 #include "web_window/web_page_view.h"
 #include "web_window/web_watcher.h"
+#include "web_window/work_runner.h"
 
 class QLabel;
+class QProgressBar;
 class QTabWidget;
 class QTreeView;
 
@@ -25,7 +27,8 @@ struct HostParts {
     DiskApplication& frontPage;
     const Platform& platform;
     PageServer& pages;
-    // Opens the web in this folder, a path of the disk. Throws RunTimeError.
+    // Opens the web in this folder, a path of the disk; called on another thread. Throws
+    // RunTimeError.
     std::function<void(const std::string& folder)> openWeb;
 };
 
@@ -74,9 +77,8 @@ class HostWindow : public QMainWindow {
     void ShowCurrentPage();
     void ShowPageMenu(const QPoint& place);
     void WatchShown();
-    void DiskHasChanged(const QStringList& paths);
+    void DiskHasChanged();
     QString PathOf(const WebPath& names) const;
-    QStringList PathsOf(const WebPageView& page) const;
     void RestorePlace();
 
     HostParts host_;
@@ -84,10 +86,14 @@ class HostWindow : public QMainWindow {
     std::vector<std::unique_ptr<ClickEvents>> clicks_;
     std::vector<std::unique_ptr<ClickEvents>> recentClicks_;
     std::shared_ptr<HostControl> recentWebs_;
+    // The window's own view of the open web: the host may be at work on its own meanwhile.
+    std::shared_ptr<const WebFiles> files_;
     std::unique_ptr<WebTreeModel> model_;
     QTreeView* tree_;
     QTabWidget* tabs_;
     QLabel* status_;
+    QProgressBar* progress_;
+    WorkRunner runner_;
     WebWatcher watcher_;
 };
 

@@ -1,66 +1,51 @@
 #include "web_window/web_page_view.h"
 
-#include <QMouseEvent>
-#include <QPointer>
+#include <QContextMenuEvent>
+#include <QMimeDatabase>
 #include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
 
 #include "qt/qt_text.h"
-#include "web_host/limits.h"
-#include "web_host/web_session.h"
+#include "web_host/page_walk.h"
+#include "web_window/page_script.h"
 
 namespace morpho {
 
 namespace {
 
-// The page that a server shows for a folder.
-constexpr std::string_view kFolderPages[] = {"index.htm", "index.html", "default.htm"};
+// Page scripts are off; this world is out of their reach all the same.
+constexpr QWebEngineScript::ScriptWorldId kWorld = QWebEngineScript::ApplicationWorld;
 
-// Marks the picture of this index, or the one at a point, and unmarks all others; gives its index,
-// or -1.
-const char* const kSelect = R"((function(pick) {
-    const pictures = document.body ? Array.from(document.body.getElementsByTagName('img')) : [];
-    const index = pick(pictures);
-    pictures.forEach(function(picture, i) {
-        if (i === index) picture.style.setProperty('outline', '3px solid #1a73e8', 'important');
-        else picture.style.removeProperty('outline');
-    });
-    return index;
-})(function(pictures) { return %1; }))";
-
-std::string ReadWebFile(const WebFiles& files, WebPath names) {
-    const auto folder = files.FindFolder(names);
-    if (folder) {
-        for (const std::string_view page : kFolderPages) {
-            const auto entry = folder->Find(page);
-            if (entry) return ReadWholeFile(*folder, entry->name, kMaxFileBytes);
-        }
-    }
-    if (names.empty()) throw RunTimeError(ErrorNumber::kFileNotFound, "The web has no home page.");
-    const std::string name = names.back();
-    names.pop_back();
-    const auto parent = files.OpenFolder(names);
-    const auto entry = parent->Find(name);
-    return ReadWholeFile(*parent, entry ? entry->name : name, kMaxFileBytes);
+QWebEngineScript SelectionScript() {
+    QWebEngineScript script;
+    script.setName("selection");
+    script.setWorldId(kWorld);
+    script.setInjectionPoint(QWebEngineScript::DocumentReady);
+    script.setRunsOnSubFrames(true);
+    script.setSourceCode(kPageScript);
+    return script;
 }
 
 }  // namespace
 
-WebPageView::WebPageView(PageServer& pages, std::shared_ptr<WebSession> web, QWidget* parent)
-    : PageView(pages.Profile(), parent, [this](const QUrl& link) { return Follows(link); }),
+bool IsShownByBrowser(const std::string& name) {
+    if (IsPageName(name)) return true;
+    const QMimeType type =
+        QMimeDatabase().mimeTypeForFile(ToQt(name), QMimeDatabase::MatchExtension);
+    const QStringList pictures = {"image/gif", "image/jpeg", "image/png", "image/bmp"};
+    return pictures.contains(type.name()) || type.inherits("text/plain");
+}
+
+WebPageView::WebPageView(PageServer& pages, std::shared_ptr<const WebFiles> web, QWidget* parent)
+    : PageView(pages.Profile(), parent),
       pages_(pages),
       web_(std::move(web)),
-      site_(pages.NewSite()) {
-    connect(this, &QWebEngineView::loadFinished, this, &WebPageView::WatchMouse);
-    connect(this, &QWebEngineView::selectionChanged, this, [this] {
-        SetSelection({selection_.picture, selectedText()});
-    });
-    connect(this, &QWebEngineView::urlChanged, this, [this](const QUrl& address) {
-        const auto names = PageServer::NamesIn(address);
-        if (names && PageServer::IsOfScheme(address)) page_ = *names;
-        files_ = {page_};
-        SetSelection({});
-        emit PageChanged();
-    });
+      site_(pages.NewSite()),
+      files_(std::make_shared<PageFiles>(web_)) {
+    setContextMenuPolicy(Qt::DefaultContextMenu);
+    page()->scripts().insert(SelectionScript());
+    connect(this, &QWebEngineView::loadFinished, this, [this] { AskSelection(); });
+    connect(this, &QWebEngineView::urlChanged, this, &WebPageView::AddressChanged);
 }
 
 WebPageView::~WebPageView() {
@@ -69,71 +54,87 @@ WebPageView::~WebPageView() {
 
 void WebPageView::ShowPage(const WebPath& page) {
     page_ = page;
-    const auto read = [this](const PageServer::Names& names) {
-        files_.insert(names);
-        return ReadWebFile(web_->Files(), names);
-    };
-    Open(pages_.Open(site_, read, page));
+    files_->Clear();
+    // Keeps the files that the browser asks for, also after the view has gone.
+    const auto files = files_;
+    Open(pages_.Open(
+        site_, [files](const PageServer::Names& names) { return files->Read(names); }, page));
+}
+
+void WebPageView::ReadAgain() {
+    if (!FindFile(*web_, page_)) return;
+    files_->Clear();
+    Reload();
+}
+
+void WebPageView::StepPicture(int step) {
+    Run(step > 0 ? kNextPicture : kPreviousPicture, [](const QVariant&) {});
+}
+
+void WebPageView::contextMenuEvent(QContextMenuEvent* event) {
+    const QPoint place = event->globalPos();
+    // The page has selected the picture by now, but its notice may still be on the way.
+    AskSelection([this, place] { emit MenuAsked(place); });
 }
 
 bool WebPageView::Follows(const QUrl& link) {
-    if (PageServer::IsOfScheme(link) && FromQt(link.host()) == site_) return true;
-    emit LinkRefused(link.toString());
+    const auto names = PageServer::NamesIn(link);
+    if (!names || !PageServer::IsOfScheme(link) || FromQt(link.host()) != site_) {
+        emit LinkRefused("This address is outside of the web: " + link.toString());
+        return false;
+    }
+    const auto file = FindFile(*web_, *names);
+    if (!file) {
+        emit LinkRefused("The web has no \"" + link.path().mid(1) + "\".");
+        return false;
+    }
+    if (!IsShownByBrowser(file->back())) {
+        emit LinkRefused("\"" + ToQt(file->back()) + "\" is neither a page nor a picture.");
+        return false;
+    }
+    files_->Clear();
+    if (file->size() == names->size()) return true;
+    // The home page of a folder gets its own address, for what is relative to it. The browser is
+    // sent there after its question has been answered.
+    QMetaObject::invokeMethod(
+        this, [this, file] { ShowPage(*file); }, Qt::QueuedConnection);
     return false;
 }
 
-// The widget that gets the mouse is made with the page.
-void WebPageView::WatchMouse() {
-    if (QWidget* const target = focusProxy()) {
-        target->removeEventFilter(this);
-        target->installEventFilter(this);
-    }
-    if (selection_.picture) SelectPicture(selection_.picture);
+void WebPageView::ScriptSays(const QString& message) {
+    if (message == kSelectionNotice) AskSelection();
 }
 
-bool WebPageView::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonPress) {
-        const auto* const mouse = static_cast<QMouseEvent*>(event);
-        const QPoint screen = mouse->globalPosition().toPoint();
-        const bool isRight = mouse->button() == Qt::RightButton;
-        SelectAt(mouse->position().toPoint(), [this, screen, isRight] {
-            if (isRight) emit MenuAsked(screen);
-        });
-    }
-    return PageView::eventFilter(watched, event);
-}
-
-void WebPageView::SelectAt(const QPoint& place, const std::function<void()>& then) {
-    const QString pick = QString("pictures.indexOf(document.elementFromPoint(%1, %2))");
-    const qreal zoom = zoomFactor();
-    const QString script = QString(kSelect).arg(pick.arg(place.x() / zoom).arg(place.y() / zoom));
-    Run(script, [this, then](const QVariant& index) {
-        const int picture = index.isValid() ? index.toInt() : -1;
-        SetSelection({picture >= 0 ? std::optional(picture) : std::nullopt, selectedText()});
-        then();
-    });
-}
-
-void WebPageView::SelectPicture(std::optional<int> picture) {
-    const QString pick = QString("pictures[%1] ? %1 : -1").arg(picture.value_or(-1));
-    Run(QString(kSelect).arg(pick), [this](const QVariant& index) {
-        const int found = index.isValid() ? index.toInt() : -1;
-        SetSelection({found >= 0 ? std::optional(found) : std::nullopt, selectedText()});
-    });
+void WebPageView::AddressChanged(const QUrl& address) {
+    const auto names = PageServer::NamesIn(address);
+    if (!names || !PageServer::IsOfScheme(address)) return;
+    page_ = FindFile(*web_, *names).value_or(*names);
+    AskSelection();
+    emit PageChanged();
 }
 
 void WebPageView::Run(const QString& script, const std::function<void(const QVariant&)>& result) {
-    const QPointer<WebPageView> self(this);
-    page()->runJavaScript(script, QWebEngineScript::ApplicationWorld,
-                          [self, result](const QVariant& value) {
-                              if (self) result(value);
-                          });
+    // The page answers what is left when it is destroyed, after this view.
+    const std::weak_ptr<bool> alive = alive_;
+    page()->runJavaScript(script, kWorld, [alive, result](const QVariant& value) {
+        if (!alive.expired()) result(value);
+    });
 }
 
-void WebPageView::SetSelection(PageSelection selection) {
-    if (selection == selection_) return;
-    selection_ = std::move(selection);
-    emit SelectionChanged();
+void WebPageView::AskSelection(const std::function<void()>& then) {
+    Run(kAskSelection, [this, then](const QVariant& answer) {
+        const QVariantMap values = answer.toMap();
+        PageSelection now;
+        const WebPath names = PageServer::NamesIn(values["url"].toUrl()).value_or(WebPath());
+        now.page = FindFile(*web_, names).value_or(page_);
+        const int picture = values.value("image", -1).toInt();
+        if (picture >= 0) now.picture = picture;
+        now.html = FromQt(values["text"].toString());
+        const bool isOther = now != selection_;
+        selection_ = std::move(now);
+        if (isOther) emit SelectionChanged();
+        if (then) then();
+    });
 }
 
 }  // namespace morpho

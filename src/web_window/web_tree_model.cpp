@@ -3,10 +3,12 @@
 #include <QApplication>
 #include <QStyle>
 #include <algorithm>
+#include <set>
+#include <utility>
 
 #include "qt/qt_text.h"
 #include "text/ignoring_case.h"
-#include "web_host/web_session.h"
+#include "web_host/hidden_entries.h"
 
 namespace morpho {
 
@@ -31,15 +33,14 @@ struct WebTreeModel::Node {
 
 namespace {
 
-bool IsShown(const FolderEntry& entry) {
-    const bool isOfHost = Folded(entry.name).starts_with("_vti_");
+bool IsShown(const FolderEntry& entry, bool showsHidden) {
     const bool isKnown = entry.kind == EntryKind::kFolder || entry.kind == EntryKind::kFile;
-    return isKnown && !isOfHost && !entry.name.starts_with('.');
+    return isKnown && !IsTemporaryName(entry.name) && (showsHidden || !IsHiddenEntry(entry));
 }
 
 }  // namespace
 
-WebTreeModel::WebTreeModel(std::shared_ptr<WebSession> web, const QString& title)
+WebTreeModel::WebTreeModel(std::shared_ptr<const WebFiles> web, const QString& title)
     : web_(std::move(web)), title_(title), root_(std::make_unique<Node>("", true, nullptr)) {
     root_->isListed = true;
     root_->children.push_back(std::make_unique<Node>("", true, root_.get()));
@@ -78,10 +79,11 @@ std::vector<WebPath> WebTreeModel::ListedFolders() const {
 
 WebTreeModel::Nodes WebTreeModel::Read(Node& folder) const {
     Nodes nodes;
+    const bool showsHidden = ShowsHiddenEntries(*web_);
     try {
-        for (const FolderEntry& entry : web_->Files().OpenFolder(PathOf(folder))->Entries()) {
+        for (const FolderEntry& entry : web_->OpenFolder(PathOf(folder))->Entries()) {
             const bool isFolder = entry.kind == EntryKind::kFolder;
-            if (IsShown(entry))
+            if (IsShown(entry, showsHidden))
                 nodes.push_back(std::make_unique<Node>(entry.name, isFolder, &folder));
         }
     } catch (const RunTimeError&) {
@@ -106,11 +108,12 @@ void WebTreeModel::Update(Node& folder) {
         return a.name == b.name && a.isFolder == b.isFolder;
     };
     const QModelIndex index = IndexOf(folder);
+    std::set<std::pair<std::string, bool>> present;
+    for (const auto& node : now)
+        present.emplace(node->name, node->isFolder);
     for (int row = static_cast<int>(folder.children.size()) - 1; row >= 0; --row) {
         const Node& child = *folder.children[static_cast<std::size_t>(row)];
-        const bool isThere = std::any_of(now.begin(), now.end(),
-                                         [&](const auto& node) { return sameEntry(*node, child); });
-        if (isThere) continue;
+        if (present.contains({child.name, child.isFolder})) continue;
         beginRemoveRows(index, row, row);
         folder.children.erase(folder.children.begin() + row);
         endRemoveRows();

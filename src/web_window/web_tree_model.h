@@ -9,14 +9,12 @@
 
 namespace morpho {
 
-class WebSession;
-
 // The folders and files of a web as a tree. A folder is read when it is expanded first, so that a
-// large web opens as fast as a small one. Folders of the host's own ("_vti_...") are left out.
+// large web opens as fast as a small one. What the host hides (see hidden_entries.h) is left out.
 class WebTreeModel : public QAbstractItemModel {
   public:
     // `title` is what the root, the web itself, is called.
-    WebTreeModel(std::shared_ptr<WebSession> web, const QString& title);
+    WebTreeModel(std::shared_ptr<const WebFiles> web, const QString& title);
     ~WebTreeModel() override;
 
     // The names that lead to an entry; empty for the web itself.
@@ -46,7 +44,7 @@ class WebTreeModel : public QAbstractItemModel {
     void Update(Node& folder);
     static WebPath PathOf(const Node& node);
 
-    std::shared_ptr<WebSession> web_;
+    std::shared_ptr<const WebFiles> web_;
     QString title_;
     std::unique_ptr<Node> root_;  // not shown; its only child is the web
 };

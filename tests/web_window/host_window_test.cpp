@@ -3,10 +3,16 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QLabel>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QSignalSpy>
+#include <QStatusBar>
 #include <QTest>
+#include <QTimer>
 #include <QTreeView>
+#include <chrono>
+#include <thread>
 
 #include "linux/disk_file_system.h"
 #include "linux/disk_path.h"
@@ -31,6 +37,7 @@ class HostWindowTest : public testing::Test {
                    "<script>document.title = 'run'</script></body>");
         web_.Write("web/pics/A.gif", kRed);
         web_.Write("web/_vti_cnf/index.htm", "");
+        web_.Write("web/_themes/t/t.css", "body { color: #ff0000 }");
         web_.Write("secret.gif", kRed);
         window_.show();
     }
@@ -59,6 +66,7 @@ class HostWindowTest : public testing::Test {
         [[maybe_unused]] const bool came = QTest::qWaitFor([&] { return result != "(none)"; });
         return result;
     }
+    QString StatusText() { return window_.statusBar()->findChild<QLabel*>()->text(); }
     // The captions in the menu of this name.
     QString MenuOf(const QString& name) {
         QStringList captions;
@@ -72,12 +80,14 @@ class HostWindowTest : public testing::Test {
     }
 
     TemporaryFolder web_;
+    std::function<void()> beforeOpen_;
     FakePlatform world_;
     DiskFileSystem files_;
     LinuxDisk disk_;
     DiskApplication application_{disk_, files_, ToWindowsPath(web_ / "cache")};
     PageServer pages_{files_};
     HostWindow window_{{application_, world_.platform, pages_, [this](const std::string& folder) {
+                            if (beforeOpen_) beforeOpen_();
                             application_.Open(ToWindowsPath(folder));
                         }}};
 };
@@ -99,6 +109,74 @@ TEST_F(HostWindowTest, APageRunsNoScriptAndGetsNothingFromOutsideTheWeb) {
     std::filesystem::create_symlink(web_ / "secret.gif", web_ / "web/link.gif");
     web_.Write("web/index.htm", "<img src=link.gif><img src=page://site1/pics/a.gif>");
     EXPECT_TRUE(QTest::qWaitFor([&] { return Evaluate(widths) == "0,1"; })) << "reloaded";
+}
+
+TEST_F(HostWindowTest, ShowsHiddenFoldersWhereTheWebSaysSo) {
+    web_.Write("web/_vti_pvt/service.cnf", "vti_showhiddenpages:IX|1\n");
+    Open();
+    EXPECT_EQ(Rows(Root()), "_themes _vti_cnf _vti_pvt pics index.htm");
+}
+
+TEST_F(HostWindowTest, LinksLeadToWhatTheWebHasAndAPageFollowsItsFiles) {
+    web_.Write("web/sub/index.htm",
+               "<link rel=stylesheet href=../_themes/t/t.css><img src=../pics/a.gif>");
+    web_.Write("web/data.bin", std::string("\0\1", 2));
+    const QString body = "getComputedStyle(document.body).color";
+    for (const auto& [link, title] : std::map<std::string, std::string>{
+             {"sub", "index.htm in sub"},
+             {"SUB/Index.HTM", "index.htm in sub"},
+             {"sub target=_blank", "index.htm in sub"},
+             {"data.bin", "\"data.bin\" is neither a page nor a picture."},
+             {"none.htm", "The web has no \"none.htm\"."},
+             {"http://example.org/", "This address is outside of the web: http://example.org/"}}) {
+        web_.Write("web/index.htm", "<a id=a href=" + link + ">go</a>");
+        Open();
+        Evaluate("document.getElementById('a').click()");
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            const WebPath& page = window_.CurrentPage()->Page();
+            return page == WebPath{"sub", "index.htm"}
+                       ? title == "index.htm in sub"
+                       : StatusText() == QString::fromStdString(title);
+        })) << link;
+        if (title != "index.htm in sub") continue;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Evaluate(body) == "rgb(255, 0, 0)"; })) << link;
+    }
+    web_.Write("web/_themes/t/new.css", "body { color: #0000ff }");
+    std::filesystem::rename(web_ / "web/_themes/t/new.css", web_ / "web/_themes/t/t.css");
+    web_.Write("web/index.htm", "<link rel=stylesheet href=_themes/t/t.css>");
+    Open();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Evaluate(body) == "rgb(0, 0, 255)"; }));
+    web_.Write("web/_themes/t/t.css", "body { color: #00ff00 }");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Evaluate(body) == "rgb(0, 255, 0)"; }));
+}
+
+TEST_F(HostWindowTest, IsAliveButTakesNoInputWhileTheHostWorks) {
+    Open();
+    int ticks = 0;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &window_, [&] {
+        ++ticks;
+        QTest::keyClick(&window_.Tree(), Qt::Key_Home);
+    });
+    window_.Tree().setCurrentIndex(window_.Tree().model()->index(1, 0, Root()));
+    timer.start(10);
+    beforeOpen_ = [&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(500));
+        throw RunTimeError(ErrorNumber::kPathNotFound, "gone");
+    };
+    QTimer::singleShot(800, [] { QApplication::activeModalWidget()->close(); });
+    const QModelIndex before = window_.Tree().currentIndex();
+    QTimer::singleShot(450, [&] {
+        timer.stop();
+        EXPECT_GT(ticks, 10);
+        EXPECT_EQ(window_.Tree().currentIndex(), before) << "no key came through";
+    });
+    EXPECT_FALSE(window_.OpenWeb(web_ / "web"));
+
+    web_.Write("web/b.htm", "");
+    application_.ActiveWeb()->RecalcHyperlinks();
+    const auto* const progress = window_.findChild<QProgressBar*>();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return progress->text() == "2 of 2 pages"; }));
 }
 
 TEST_F(HostWindowTest, AClickSelectsAPictureUntilSomethingElseIsClicked) {
