@@ -1,7 +1,7 @@
 #include "program/web_command.h"
 
 #include <QApplication>
-#include <QEventLoop>
+#include <algorithm>
 
 #include "addin/add_in_im.h"
 #include "addin/add_in_tm.h"
@@ -9,11 +9,13 @@
 #include "program/desktop_platform.h"
 #include "program/qt_program.h"
 #include "qt/qt_clipboard.h"
+#include "qt/qt_text.h"
 #include "qt/qt_toolkit.h"
 #include "resources/embedded_resources.h"
 #include "resources/resource_ids.h"
 #include "shared/log.h"
 #include "shared/logged_form.h"
+#include "text/ignoring_case.h"
 #include "web_window/host_window.h"
 #include "web_window/recent_webs.h"
 
@@ -65,6 +67,31 @@ std::string FolderOf(const WebRequest& request, const Platform& platform) {
     return webs.empty() ? std::string() : webs.front();
 }
 
+// After a save has given the web a theme: offers it to the pages that have kept the theme which it
+// was made from.
+void OfferTheme(HostWindow& window, DiskApplication& host) {
+    const std::string source = host.SourceOfSave();
+    const auto& kept = host.Session()->KeptThemes();
+    const auto pages = std::find_if(kept.begin(), kept.end(), [&](const auto& theme) {
+        return EqualIgnoringCase(theme.first, source);
+    });
+    if (pages == kept.end()) return;
+    const std::string theme = host.ActiveWeb()->ThemeProperties(kThemeNameProperty);
+    const QString question =
+        QString(
+            "Pages that name the theme \"%1\" themselves: %2.\nGive them the theme \"%3\", too?")
+            .arg(ToQt(source))
+            .arg(pages->second)
+            .arg(ToQt(theme));
+    window.AskLater(question, [&window, &host, theme, source] {
+        try {
+            host.ApplyInPlaceOf(theme, source);
+        } catch (const RunTimeError& error) {
+            window.Tell({error.what()});
+        }
+    });
+}
+
 }  // namespace
 
 void ShowWebWindow(const WebRequest& request) {
@@ -87,9 +114,10 @@ void ShowWebWindow(const WebRequest& request) {
     const Program program{desktop.Parts(), component};
     desktop.FrontPage().SetReporter([&](const std::vector<std::string>& sentences) {
         // A save may have ended on another thread than the window's.
-        QMetaObject::invokeMethod(&window, [&window, sentences] {
+        QMetaObject::invokeMethod(&window, [&, sentences] {
             window.Tell(sentences);
             window.RefreshViews();
+            OfferTheme(window, desktop.FrontPage());
         });
     });
     desktop.FrontPage().SetLog([&](std::string_view line) { WriteLog(program, line); });

@@ -46,6 +46,7 @@ WebSaveTransaction::WebSaveTransaction(WebSession& web, const std::string& theme
     record_.changesUserTheme = purpose == Purpose::kSave;
     try {
         web.Reports().Take();
+        web.SetKeptThemes({});
         Lock();
         // Another program may have been killed here since this one opened the web.
         RepairWhileLocked(web);

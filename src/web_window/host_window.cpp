@@ -11,6 +11,7 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QTreeView>
 
 #include "platform/run_time_error.h"
@@ -35,6 +36,7 @@ constexpr int kRecentId = 30126;
 constexpr std::string_view kApplication = "Morpho";
 constexpr std::string_view kSection = "Web Window";
 constexpr int kTreeWidth = 240;  // pixels
+constexpr int kAskAgainMilliseconds = 200;
 
 // A name in a menu, where "&" would mark an access key.
 QString Unmarked(QString text) {
@@ -251,6 +253,14 @@ void HostWindow::RefreshViews() {
     for (int i = 0; i < tabs_->count(); ++i)
         static_cast<WebPageView*>(tabs_->widget(i))->ReadAgain();
     WatchShown();
+}
+
+void HostWindow::AskLater(const QString& question, const std::function<void()>& yes) {
+    if (QApplication::activeModalWidget()) {
+        QTimer::singleShot(kAskAgainMilliseconds, this, [=, this] { AskLater(question, yes); });
+    } else if (QMessageBox::question(this, "Morpho", question) == QMessageBox::Yes) {
+        yes();
+    }
 }
 
 void HostWindow::Tell(const std::vector<std::string>& sentences) {

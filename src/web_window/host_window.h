@@ -52,6 +52,8 @@ class HostWindow : public QMainWindow {
     void RefreshViews();
     // Shows sentences for the person in the status line; the rest of several as its tool tip.
     void Tell(const std::vector<std::string>& sentences);
+    // Asks a question as soon as no dialog is open, and calls `yes` when the person agrees.
+    void AskLater(const QString& question, const std::function<void()>& yes);
 
     // The page whose tab is in front; null when there is none.
     WebPageView* CurrentPage() const;
