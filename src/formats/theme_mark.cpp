@@ -13,6 +13,7 @@ namespace {
 // The tag's content, which stands at `begin` in the page.
 ThemeMark ParsedContent(const std::string_view whole, std::size_t begin) {
     ThemeMark mark;
+    mark.contentEnd = begin + whole.size();
     std::string_view content = whole;
     const std::size_t comma = content.rfind(',');
     if (comma != content.npos &&
@@ -21,6 +22,8 @@ ThemeMark ParsedContent(const std::string_view whole, std::size_t begin) {
         content = content.substr(0, comma);
     }
     content = Trim(content, kWhiteSpace);
+    mark.digitsEnd =
+        content.empty() ? begin : begin + (content.data() - whole.data()) + content.size();
     const std::size_t blank = content.rfind(' ');
     if (blank != content.npos && content.find_first_not_of("0123456789", blank + 1) == content.npos)
         content = Trim(content.substr(0, blank), kWhiteSpace);
@@ -51,7 +54,9 @@ std::optional<ThemeMark> FindThemeMark(std::string_view page) {
         if (!EqualIgnoringAsciiCase(tag->Attribute("name").value_or(""), "Microsoft Theme"))
             continue;
         const HtmlAttribute* content = tag->Find("content");
-        return content ? ParsedContent(content->value, content->valueBegin) : ThemeMark();
+        ThemeMark mark = content ? ParsedContent(content->value, content->valueBegin) : ThemeMark();
+        mark.tagEnd = tag->end;
+        return mark;
     }
     return {};
 }

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
@@ -14,11 +15,14 @@
 #include <QTimer>
 #include <QTreeView>
 
+#include "platform/platform.h"
 #include "platform/run_time_error.h"
+#include "platform/shell.h"
 #include "qt/qt_text.h"
 #include "shared/settings.h"
 #include "web_host/disk_application.h"
 #include "web_host/page_walk.h"
+#include "web_host/theme_of_page.h"
 #include "web_window/recent_webs.h"
 #include "web_window/web_tree_model.h"
 
@@ -32,6 +36,8 @@ constexpr int kCloseId = 106;
 constexpr int kExitId = 752;
 constexpr int kRefreshId = 459;
 constexpr int kRecentId = 30126;
+constexpr int kThemeOfPageId = 40001;  // not one of FrontPage's
+constexpr int kHelpId = 984;
 
 constexpr std::string_view kApplication = "Morpho";
 constexpr std::string_view kSection = "Web Window";
@@ -98,6 +104,10 @@ void HostWindow::AddCommands() {
     AddCommand(
         HostMenu::kFile, kExitId, "E&xit", [this] { close(); }, true);
     AddCommand(HostMenu::kView, kRefreshId, "&Refresh", [this] { RefreshViews(); });
+    AddCommand(HostMenu::kFormat, kThemeOfPageId, "Theme of This &Page...",
+               [this] { AskForThemeOfPage(); });
+    AddCommand(HostMenu::kHelp, kHelpId, "Morpho &Help",
+               [this] { host_.platform.shell.WinExec("Winhlp32.exe morpho.hlp", 1); });
     const auto shortcut = [this](const QKeySequence& keys, auto action) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
     };
@@ -230,8 +240,11 @@ void HostWindow::CloseTab(int index) {
 }
 
 void HostWindow::ShowCurrentPage() {
-    const auto close = host_.frontPage.HostBars().Menu(HostMenu::kFile).Find(kCloseId, {}, false);
-    if (close) close->Set(&HostControlLook::isEnabled, tabs_->count() > 0);
+    for (const auto& [menu, id] :
+         {std::pair(HostMenu::kFile, kCloseId), std::pair(HostMenu::kFormat, kThemeOfPageId)}) {
+        const auto command = host_.frontPage.HostBars().Menu(menu).Find(id, {}, false);
+        if (command) command->Set(&HostControlLook::isEnabled, tabs_->count() > 0);
+    }
     emit SelectionChanged();
 }
 
@@ -253,6 +266,29 @@ void HostWindow::RefreshViews() {
     for (int i = 0; i < tabs_->count(); ++i)
         static_cast<WebPageView*>(tabs_->widget(i))->ReadAgain();
     WatchShown();
+}
+
+void HostWindow::AskForThemeOfPage() {
+    const WebPageView* const page = CurrentPage();
+    const auto web = host_.frontPage.Session();
+    if (!page || !web || web->Themes().empty()) return Tell({"The web has no themes."});
+    QStringList labels;
+    for (const Theme& theme : web->Themes())
+        labels += QString("%1 (%2)").arg(ToQt(theme.label), ToQt(theme.name));
+    bool chosen = false;
+    const QString label =
+        QInputDialog::getItem(this, "Theme of This Page", "&Theme:", labels, 0, false, &chosen);
+    const auto index = static_cast<std::size_t>(labels.indexOf(label));
+    if (chosen) GiveTheme(page->Page(), web->Themes()[index].name);
+}
+
+void HostWindow::GiveTheme(const WebPath& page, const std::string& theme) {
+    try {
+        Tell({GiveThemeToPage(*host_.frontPage.Session(), page, theme)});
+    } catch (const RunTimeError& error) {
+        Tell({error.what()});
+    }
+    RefreshViews();
 }
 
 void HostWindow::AskLater(const QString& question, const std::function<void()>& yes) {

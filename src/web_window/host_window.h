@@ -78,6 +78,8 @@ class HostWindow : public QMainWindow {
     void CloseTab(int index);
     void ShowCurrentPage();
     void ShowPageMenu(const QPoint& place);
+    void AskForThemeOfPage();
+    void GiveTheme(const WebPath& page, const std::string& theme);
     void WatchShown();
     void DiskHasChanged();
     QString PathOf(const WebPath& names) const;

@@ -4,6 +4,7 @@
 
 #include <chrono>
 
+#include "formats/own_theme.h"
 #include "formats/theme_addresses.h"
 #include "formats/theme_mark.h"
 #include "platform/run_time_error.h"
@@ -65,6 +66,27 @@ TEST(PageTheme, PagesThatNameTheThemeThemselvesChangeWhereTheyAreChosen) {
     EXPECT_EQ(rethemed("old 011, default", {false, "old"}), "unchanged");
     EXPECT_EQ(rethemed("other 011", {true, "old"}), "unchanged");
     EXPECT_EQ(rethemed("none", {true, "none"}), "unchanged");
+}
+
+TEST(PageTheme, ASinglePageGetsAThemeOfItsOwn) {
+    const OwnTheme theme{"new", "../", "new11011.css"};
+    const auto expectOwn = [&](const std::string& page, const std::string& expected) {
+        const auto moves = [](const ThemeAddress&) { return true; };
+        EXPECT_EQ(PageWithOwnTheme(page, theme, moves).value_or("unchanged"), expected) << page;
+    };
+    const std::string link =
+        "<!--mstheme--><link rel=\"stylesheet\" type=\"text/css\" "
+        "href=\"../_themes/new/new11011.css\">";
+    const std::string old = "<img src='_themes/old/a.gif'>",
+                      moved = "<img src='_themes/new/a.gif'>";
+    expectOwn(Meta("old 011, default") + old, Meta("new 011") + moved);
+    expectOwn(Meta("old 011") + old, Meta("new 011") + moved);
+    expectOwn(Meta("new 011, default") + old, Meta("new 011") + old);
+    expectOwn(Meta("new 011"), "unchanged");
+    expectOwn(Meta("none, default") + "<p>", Meta("new 1011") + link + "<p>");
+    expectOwn("<head><title>x</title>", "<head>" + Meta("new 1011") + link + "<title>x</title>");
+    expectOwn("<body>", Meta("new 1011") + link + "<body>");
+    expectOwn("words", "unchanged");
 }
 
 TEST(PageTheme, AddressesOfTheOldFolderChangeWhereverTheyStand) {

@@ -9,6 +9,7 @@
 #include "platform/run_time_error.h"
 #include "support/temporary_folder.h"
 #include "web_host/disk_explorer.h"
+#include "web_host/theme_of_page.h"
 
 namespace morpho {
 namespace {
@@ -65,6 +66,25 @@ class DiskWebTest : public testing::Test {
     DiskApplication application_{disk_, files_, Path("cache")};
     std::string log_;
 };
+
+TEST_F(DiskWebTest, ASinglePageGetsAThemeOfTheWebAsItsOwn) {
+    folder_.Write("web/_themes/Other/Other.inf", "[info]\ntitle=Other\n");
+    folder_.Write("web/_themes/Other/othe1011.css", "");
+    folder_.Write("web/sub/bare.htm", "<head></head>");
+    Open();
+    const auto give = [this](const std::string& page, const std::string& theme) {
+        return GiveThemeToPage(*application_.Session(), {"sub", page}, theme);
+    };
+    EXPECT_EQ(give("bare.htm", "other"), "");
+    EXPECT_NE(folder_.Read("web/sub/bare.htm").find("href=\"../_themes/Other/othe1011.css\""),
+              std::string::npos);
+    EXPECT_NE(give("page.html", "other").find("a.gif"), std::string::npos);
+    EXPECT_EQ(folder_.Read("web/sub/page.html"),
+              "<meta name='Microsoft Theme' content='Other 1011'><img src='../_themes/old/a.gif'>");
+    EXPECT_THROW(give("page.html", "none"), RunTimeError);
+    const auto save = application_.BeginSave("old", "old");
+    EXPECT_THROW(give("page.html", "old"), RunTimeError);
+}
 
 TEST_F(DiskWebTest, AWebThatCannotBeOpenedLeavesTheOneBefore) {
     EXPECT_FALSE(application_.ActiveWeb());

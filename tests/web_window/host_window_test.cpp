@@ -207,7 +207,7 @@ TEST_F(HostWindowTest, MirrorsTheHostsBars) {
     ASSERT_TRUE(popup);
     const auto item = popup->Controls()->Add(kButtonControl, "", 1, true);
     item->SetCaption("&Paint...");
-    EXPECT_EQ(MenuOf("F&ormat"), "&Paint...");
+    EXPECT_EQ(MenuOf("F&ormat"), "&Paint...|Theme of This &Page...");
     int clicked = 0;
     const auto events = item->AsButton()->OnClick([&] {
         ++clicked;
@@ -217,7 +217,7 @@ TEST_F(HostWindowTest, MirrorsTheHostsBars) {
         if (action->text() == "&Paint...") action->trigger();
     }
     EXPECT_EQ(clicked, 1);
-    EXPECT_EQ(MenuOf("F&ormat"), "");
+    EXPECT_EQ(MenuOf("F&ormat"), "Theme of This &Page...");
 }
 
 TEST_F(HostWindowTest, RemembersTheLastWebs) {

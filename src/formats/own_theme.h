@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "formats/theme_addresses.h"
+
+namespace morpho {
+
+// A theme for a single page.
+struct OwnTheme {
+    std::string name;   // folder name, UTF-8
+    std::string toWeb;  // from the page's folder to the web's: "", "../", ...
+    std::string
+        styleSheet;  // the sheet that pages with all of the theme's effects link; may be empty
+};
+
+// The page with this theme as its own, independent of the web's. A page that had a theme gets the
+// name in its theme tag and in those addresses of the old theme for which `moves` returns true; a
+// page without one gets the tag and a link to the style sheet. All other bytes stay. Nothing when
+// it has the theme as its own already, or has no place for the tag. Throws RunTimeError for a page
+// in broken UTF-16.
+std::optional<std::string> PageWithOwnTheme(std::string_view page, const OwnTheme& theme,
+                                            const std::function<bool(const ThemeAddress&)>& moves);
+
+}  // namespace morpho

@@ -1,0 +1,83 @@
+#include "web_host/theme_of_page.h"
+
+#include <set>
+
+#include "formats/own_theme.h"
+#include "text/ignoring_case.h"
+#include "web_host/limits.h"
+#include "web_host/save_locks.h"
+#include "web_host/theme_files.h"
+#include "web_host/web_session.h"
+
+namespace morpho {
+
+namespace {
+
+// Sheets that hold all of a theme's effects are called so after four letters of the theme's name.
+constexpr std::string_view kSheetOfAllEffects = "1011.css";
+
+OwnTheme OwnThemeFor(const WebFiles& web, const WebPath& page, const std::string& theme) {
+    OwnTheme own{theme, {}, {}};
+    for (std::size_t i = 1; i < page.size(); ++i)
+        own.toWeb += "../";
+    for (const FolderEntry& entry :
+         web.OpenFolder({std::string(kThemesFolder), theme})->Entries()) {
+        if (own.styleSheet.empty() && entry.kind == EntryKind::kFile &&
+            Folded(entry.name).ends_with(kSheetOfAllEffects))
+            own.styleSheet = entry.name;
+    }
+    return own;
+}
+
+// The theme's name as spelled on the disk.
+std::string SpelledName(const WebSession& web, const std::string& theme) {
+    for (const Theme& known : web.Themes()) {
+        if (EqualIgnoringCase(known.name, theme)) return known.name;
+    }
+    throw RunTimeError(ErrorNumber::kAutomation, "The web has no theme \"" + theme + "\".");
+}
+
+SaveLocks LockForSave(const WebSession& web) {
+    std::string holder;
+    SaveLocks locks = TryLockForSave(web, holder);
+    if (!locks.AreHeld())
+        throw RunTimeError(ErrorNumber::kPermissionDenied,
+                           "Nothing was written: a theme is being saved by " + holder + ".");
+    return locks;
+}
+
+std::string StillUsed(const std::string& theme, const std::set<std::string>& files) {
+    if (files.empty()) return {};
+    std::string names;
+    for (const std::string& file : files)
+        names += (names.empty() ? "" : ", ") + file;
+    return "The theme \"" + theme +
+           "\" lacks files that the page uses; their addresses still lead to the earlier theme: " +
+           names + ".";
+}
+
+}  // namespace
+
+std::string GiveThemeToPage(WebSession& web, const WebPath& page, const std::string& theme) {
+    const WebFiles& files = web.Files();
+    const std::string name = SpelledName(web, theme);
+    const SaveLocks locks = LockForSave(web);
+    WebPath parent = page;
+    parent.pop_back();
+    const auto folder = files.OpenFolder(parent);
+    const std::string bytes = ReadWholeFile(*folder, page.back(), kMaxPageBytes);
+    ThemeFiles themes(files);
+    std::set<std::string> stay;
+    // An address stays where it would lead nowhere in the new theme.
+    const auto moves = [&](const ThemeAddress& address) {
+        const bool stays =
+            !themes.Has(name, address.file) && themes.Has(address.theme, address.file);
+        if (stays) stay.insert(address.file);
+        return !stays;
+    };
+    const auto changed = PageWithOwnTheme(bytes, OwnThemeFor(files, page, name), moves);
+    if (changed) WriteWholeFile(*folder, page.back(), *changed, Durability::kFlushed);
+    return StillUsed(name, stay);
+}
+
+}  // namespace morpho
