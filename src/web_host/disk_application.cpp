@@ -2,6 +2,7 @@
 
 #include "text/ignoring_case.h"
 #include "web_host/disk_web.h"
+#include "web_host/refusal.h"
 #include "web_host/theme_of_web.h"
 #include "web_host/web_save_transaction.h"
 
@@ -69,12 +70,13 @@ std::unique_ptr<SaveTransaction> DiskApplication::BeginSave(std::string_view the
 }
 
 void DiskApplication::ApplyInPlaceOf(const std::string& themeName, const std::string& earlier) {
-    if (!HasPageWithTheme(web_->Files(), earlier))
-        throw RunTimeError(ErrorNumber::kAutomation,
-                           "No page of the web has the theme \"" + earlier + "\".");
+    if (!web_) RefuseCall("No web is open.");
     const bool isOfWeb = EqualIgnoringCase(ThemeOfWeb(web_->Files().Root()), earlier);
+    const PageChoice pages{.ofWeb = isOfWeb, .ownTheme = earlier};
+    if (!HasPage(web_->Files(), pages))
+        RefuseCall("No page of the web has the theme \"" + earlier + "\".");
     WebSaveTransaction change(*web_, themeName, WebSaveTransaction::Purpose::kApply);
-    change.ChoosePages({.ofWeb = isOfWeb, .ownTheme = earlier});
+    change.ChoosePages(pages);
     change.ApplyTheme(themeName);
     change.RefreshAtCommit();
     change.Commit();

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <algorithm>
+
 #include "formats/page_theme.h"
 #include "formats/theme_mark.h"
 #include "formats/web_text.h"
@@ -84,7 +86,15 @@ void PageUpdate::LookAtUnchanged(const std::string& text) {
     if (!theme || theme->name.empty()) return;
     const bool hasTheme = EqualIgnoringCase(theme->name, *theme_);
     if (hasTheme && (theme->ofWeb ? choice_.ofWeb : !choice_.ownTheme.empty())) isShown_ = true;
-    if (!hasTheme && !theme->ofWeb) ++keptThemes_[theme->name];
+    if (!hasTheme && !theme->ofWeb) CountKept(theme->name);
+}
+
+// Pages spell the name of one theme in several ways; the first one found is told.
+void PageUpdate::CountKept(const std::string& theme) {
+    const auto known = std::find_if(keptThemes_.begin(), keptThemes_.end(), [&](const auto& kept) {
+        return EqualIgnoringCase(kept.first, theme);
+    });
+    ++(known == keptThemes_.end() ? keptThemes_[theme] : known->second);
 }
 
 void PageUpdate::NoteBroken(const std::string& url, const std::string& text) {
@@ -121,7 +131,6 @@ void PageUpdate::ReportSummary() {
     if (!isShown_)
         report_("No page uses the theme \"" + *theme_ +
                 "\": none takes the web's theme, or none could be written.");
-    ReportKeptThemes();
     if (kept_.empty()) return;
     std::string files;
     for (const std::string& file : kept_)
@@ -131,7 +140,7 @@ void PageUpdate::ReportSummary() {
             files + ".");
 }
 
-void PageUpdate::ReportKeptThemes() {
+void PageUpdate::ReportKeptThemes() const {
     for (const auto& [theme, count] : keptThemes_)
         report_(count == 1 ? "1 page names the theme \"" + theme + "\" itself and keeps it."
                            : std::to_string(count) + " pages name the theme \"" + theme +

@@ -45,6 +45,7 @@ class PageUpdate {
     bool IsThemeShown() const { return isShown_; }
     // How many pages keep a theme that they name themselves, by its name.
     const std::map<std::string, int>& KeptThemes() const { return keptThemes_; }
+    void ReportKeptThemes() const;
     // What to log: `Broken hyperlink in "index.htm": _themes/blends/x.gif`.
     const std::vector<std::string>& BrokenAddresses() const { return broken_; }
 
@@ -68,11 +69,11 @@ class PageUpdate {
     void Advance(std::size_t pages);
     bool Moves(const ThemeAddress& address);
     void LookAtUnchanged(const std::string& text);
+    void CountKept(const std::string& theme);
     void NoteBroken(const std::string& url, const std::string& text);
     void Write();
     void ReportKept(const std::string& url, const RunTimeError& error);
     void ReportSummary();
-    void ReportKeptThemes();
     static void Sweep(Folder& folder, const std::vector<FolderEntry>& entries,
                       std::uint64_t program);
 

@@ -96,6 +96,7 @@ class SaveRepair {
         PageUpdate pages(web_.TheDisk(), web_.Files(), record_.appliedTheme, record_.pages,
                          [this](const std::string& sentence) { web_.Reports().Add(sentence); });
         pages.Run(record_.program);
+        pages.ReportKeptThemes();
         web_.SetThemeShown(pages.IsThemeShown());
     }
 

@@ -64,7 +64,7 @@ std::string ThemeOfWeb(const Folder& root) {
     return most == counts.end() ? "" : most->first;
 }
 
-bool HasPageWithTheme(const WebFiles& web, const std::string& theme) {
+bool HasPage(const WebFiles& web, const PageChoice& choice) {
     bool found = false;
     VisitPageFolders(
         web,
@@ -72,8 +72,8 @@ bool HasPageWithTheme(const WebFiles& web, const std::string& theme) {
             const std::vector<FolderEntry>& entries) {
             for (const FolderEntry& entry : entries) {
                 if (found || !IsPage(entry)) continue;
-                const auto itsTheme = ThemeOf(*folder, entry.name);
-                found = itsTheme && EqualIgnoringCase(itsTheme->name, theme);
+                const auto theme = ThemeOf(*folder, entry.name);
+                found = theme && choice.Has(*theme);
             }
         },
         [](const std::string&) {});

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "formats/theme_mark.h"
 #include "web_host/web_files.h"
 
 namespace morpho {
@@ -10,7 +11,7 @@ namespace morpho {
 // most of the pages in the web's root folder take. Empty when there is none.
 std::string ThemeOfWeb(const Folder& root);
 
-// Whether a page has this theme, one of its own or the web's.
-bool HasPageWithTheme(const WebFiles& web, const std::string& theme);
+// Whether the web has a page that is chosen so.
+bool HasPage(const WebFiles& web, const PageChoice& choice);
 
 }  // namespace morpho

@@ -229,6 +229,7 @@ void WebSaveTransaction::UpdatePages() {
             pages.Run();
             web_.SetThemeShown(pages.IsThemeShown());
             if (applies) web_.SetKeptThemes(pages.KeptThemes());
+            if (applies && !KeepsThemeOfWeb()) pages.ReportKeptThemes();
             for (const std::string& line : pages.BrokenAddresses()) {
                 if (recalculates_) web_.Reports().WriteLog(line);
             }
@@ -237,6 +238,11 @@ void WebSaveTransaction::UpdatePages() {
     } catch (const RunTimeError& error) {
         report(error.what());
     }
+}
+
+// Nobody expects other pages to change when the web's theme is saved over itself.
+bool WebSaveTransaction::KeepsThemeOfWeb() const {
+    return record_.changesUserTheme && EqualIgnoringCase(record_.webTheme, record_.appliedTheme);
 }
 
 void WebSaveTransaction::RollBack() {

@@ -76,6 +76,7 @@ class WebSaveTransaction : public SaveTransaction {
     void RollBack();
     void CommitAll();
     void UpdatePages();
+    bool KeepsThemeOfWeb() const;
     void End();
     void EndJournal();
 

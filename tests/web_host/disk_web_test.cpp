@@ -243,6 +243,27 @@ TEST_F(DiskWebTest, PagesThatCannotBeWrittenAreReportedAndTheRestGoesOn) {
     EXPECT_EQ(log_, Reports()[0] + "\n");
 }
 
+TEST_F(DiskWebTest, PagesThatNameTheirThemeAreCountedAndChangeInPlaceOfIt) {
+    InstallNew();
+    const auto own = [](const char* theme) {
+        return std::string("<META CONTENT='") + theme + " 011' NAME='microsoft theme'>";
+    };
+    folder_.Write("web/a.htm", own("Two"));
+    folder_.Write("web/sub/b.htm", own("two"));
+    folder_.Write("web/c.htm", own("one"));
+    Apply("new");
+    EXPECT_EQ(Reports(),
+              (std::vector<std::string>{"2 pages name the theme \"Two\" themselves and keep it.",
+                                        "1 page names the theme \"one\" itself and keeps it."}));
+    folder_.Write("web/late.htm", Page("three"));
+    Tree expected = WebTree();
+    EXPECT_THROW(application_.ApplyInPlaceOf("old", "three"), RunTimeError) << "not the web's";
+    EXPECT_EQ(WebTree(), expected);
+    application_.ApplyInPlaceOf("old", "TWO");
+    expected["a.htm"] = expected["sub/b.htm"] = own("old");
+    EXPECT_EQ(WebTree(), expected);
+}
+
 TEST_F(DiskWebTest, AddressesOfFilesThatTheNewThemeLacksStayAndAreTold) {
     InstallNew();
     folder_.Write("web/_themes/old/b.gif", "old b");
