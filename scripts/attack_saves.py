@@ -209,7 +209,7 @@ def exchange(home, options):
                 ctypes.CDLL(None).renameat2(AT_FDCWD, os.fsencode(inside), AT_FDCWD, os.fsencode(link), EXCHANGE)
             if target != "gallery" and status == 0:
                 # Temporary files that could not be deleted are told.
-                for path in inside.glob(".morpho-*"):
+                for path in inside.rglob(".morpho-*"):
                     home.expect("could not be deleted" in errors, "exchange", target, name, "left", path)
                     path.unlink()
                 home.expect_state(good, "exchange", target, name, "answered 0, yet")

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include <algorithm>
-
 #include "formats/page_theme.h"
 #include "formats/theme_mark.h"
 #include "formats/web_text.h"
