@@ -13,35 +13,30 @@ namespace {
 // The flags of a theme with background picture, active graphics and style sheet.
 constexpr std::string_view kAllEffects = "1011";
 
-std::string LinkOf(const OwnTheme& theme) {
-    if (theme.styleSheet.empty()) return {};
-    return "<!--mstheme--><link rel=\"stylesheet\" type=\"text/css\" href=\"" + theme.toWeb +
-           "_themes/" + EncodedPercents(theme.name) + "/" + EncodedPercents(theme.styleSheet) +
-           "\">";
-}
-
-std::string MarkOf(const OwnTheme& theme) {
-    return EncodedReferences(theme.name) + " " + std::string(kAllEffects);
+// The tag of a page that had no theme, and links to the theme's sheets.
+std::string MarkupFor(const OwnTheme& theme) {
+    std::string markup = "<meta name=\"Microsoft Theme\" content=\"" +
+                         EncodedReferences(theme.name) + " " + std::string(kAllEffects) + "\">";
+    if (!theme.styleSheets.empty()) markup += "<!--mstheme-->";
+    for (const std::string& sheet : theme.styleSheets)
+        markup += "<link rel=\"stylesheet\" type=\"text/css\" href=\"" + theme.toWeb + "_themes/" +
+                  EncodedPercents(theme.name) + "/" + EncodedPercents(sheet) + "\">";
+    return markup;
 }
 
 // Where the tag goes in a page without one: behind its head's start.
-std::optional<std::size_t> PlaceForTag(const std::string& page) {
+std::size_t PlaceForTag(const std::string& page) {
     HtmlTagReader tags(page);
     while (const auto tag = tags.Next()) {
         if (tag->name == "head") return tag->end;
         if (tag->name == "body" || tag->name == "frameset") return tag->begin;
     }
-    return {};
+    throw RunTimeError(ErrorNumber::kInvalidFileFormat,
+                       "The page has no head that could name a theme.");
 }
 
 std::string WithoutDefault(std::string page, const ThemeMark& mark) {
     return page.erase(mark.digitsEnd, mark.contentEnd - mark.digitsEnd);
-}
-
-// The page, which says that it has no theme, with this one.
-std::string InPlaceOfNone(std::string page, const ThemeMark& mark, const OwnTheme& theme) {
-    page.insert(mark.tagEnd, LinkOf(theme));
-    return page.replace(mark.nameBegin, mark.contentEnd - mark.nameBegin, MarkOf(theme));
 }
 
 }  // namespace
@@ -52,12 +47,10 @@ std::optional<std::string> PageWithOwnTheme(std::string_view page, const OwnThem
     std::string text = coded.Text();
     auto mark = FindThemeMark(text);
     if (!mark) {
-        const auto place = PlaceForTag(text);
-        if (!place) return {};
-        text.insert(*place, "<meta name=\"Microsoft Theme\" content=\"" + MarkOf(theme) + "\">" +
-                                LinkOf(theme));
+        text.insert(PlaceForTag(text), MarkupFor(theme));
     } else if (mark->theme.name.empty()) {
-        text = InPlaceOfNone(text, *mark, theme);
+        // Its tag says so, or is of no use.
+        text.replace(mark->tagBegin, mark->tagEnd - mark->tagBegin, MarkupFor(theme));
     } else {
         const auto changed =
             PageWithTheme(text, theme.name, {.ofWeb = true, .ownTheme = mark->theme.name}, moves);

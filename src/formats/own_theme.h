@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "formats/theme_addresses.h"
 
@@ -13,15 +14,15 @@ namespace morpho {
 struct OwnTheme {
     std::string name;   // folder name, UTF-8
     std::string toWeb;  // from the page's folder to the web's: "", "../", ...
-    std::string
-        styleSheet;  // the sheet that pages with all of the theme's effects link; may be empty
+    // The sheets that pages with all of the theme's effects link, in their order.
+    std::vector<std::string> styleSheets;
 };
 
 // The page with this theme as its own, independent of the web's. A page that had a theme gets the
 // name in its theme tag and in those addresses of the old theme for which `moves` returns true; a
-// page without one gets the tag and a link to the style sheet. All other bytes stay. Nothing when
-// it has the theme as its own already, or has no place for the tag. Throws RunTimeError for a page
-// in broken UTF-16.
+// page without one gets the tag and links to the style sheets. All other bytes stay. Nothing when
+// it has the theme as its own already. Throws RunTimeError for a page in broken UTF-16, and for one
+// without a place for the tag.
 std::optional<std::string> PageWithOwnTheme(std::string_view page, const OwnTheme& theme,
                                             const std::function<bool(const ThemeAddress&)>& moves);
 

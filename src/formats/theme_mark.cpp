@@ -55,6 +55,7 @@ std::optional<ThemeMark> FindThemeMark(std::string_view page) {
             continue;
         const HtmlAttribute* content = tag->Find("content");
         ThemeMark mark = content ? ParsedContent(content->value, content->valueBegin) : ThemeMark();
+        mark.tagBegin = tag->begin;
         mark.tagEnd = tag->end;
         return mark;
     }

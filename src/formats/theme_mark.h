@@ -34,7 +34,8 @@ struct ThemeMark {
     std::size_t nameLength = 0;
     std::size_t digitsEnd = 0;   // behind NAME DIGITS
     std::size_t contentEnd = 0;  // behind the whole of it
-    std::size_t tagEnd = 0;      // behind the tag's ">"
+    std::size_t tagBegin = 0;
+    std::size_t tagEnd = 0;  // behind the tag's ">"
 };
 std::optional<ThemeMark> FindThemeMark(std::string_view page);
 

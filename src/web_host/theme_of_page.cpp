@@ -1,5 +1,6 @@
 #include "web_host/theme_of_page.h"
 
+#include <array>
 #include <set>
 
 #include "formats/own_theme.h"
@@ -13,19 +14,27 @@ namespace morpho {
 
 namespace {
 
-// Sheets that hold all of a theme's effects are called so after four letters of the theme's name.
+// The sheet that holds all of a theme's effects is called so after letters of the theme's name.
+// Many themes do not have it: pages with all effects then need those that it is made from.
 constexpr std::string_view kSheetOfAllEffects = "1011.css";
+constexpr std::array<std::string_view, 3> kSheets = {"theme.css", "color1.css", "graph1.css"};
+
+std::vector<std::string> SheetsOf(const Folder& theme) {
+    for (const FolderEntry& entry : theme.Entries()) {
+        if (entry.kind == EntryKind::kFile && Folded(entry.name).ends_with(kSheetOfAllEffects))
+            return {entry.name};
+    }
+    std::vector<std::string> sheets;
+    for (const std::string_view name : kSheets) {
+        if (const auto entry = theme.Find(name)) sheets.push_back(entry->name);
+    }
+    return sheets;
+}
 
 OwnTheme OwnThemeFor(const WebFiles& web, const WebPath& page, const std::string& theme) {
-    OwnTheme own{theme, {}, {}};
+    OwnTheme own{theme, {}, SheetsOf(*web.OpenFolder({std::string(kThemesFolder), theme}))};
     for (std::size_t i = 1; i < page.size(); ++i)
         own.toWeb += "../";
-    for (const FolderEntry& entry :
-         web.OpenFolder({std::string(kThemesFolder), theme})->Entries()) {
-        if (own.styleSheet.empty() && entry.kind == EntryKind::kFile &&
-            Folded(entry.name).ends_with(kSheetOfAllEffects))
-            own.styleSheet = entry.name;
-    }
     return own;
 }
 

@@ -69,7 +69,7 @@ TEST(PageTheme, PagesThatNameTheThemeThemselvesChangeWhereTheyAreChosen) {
 }
 
 TEST(PageTheme, ASinglePageGetsAThemeOfItsOwn) {
-    const OwnTheme theme{"new", "../", "new11011.css"};
+    const OwnTheme theme{"new", "../", {"new11011.css"}};
     const auto expectOwn = [&](const std::string& page, const std::string& expected) {
         const auto moves = [](const ThemeAddress&) { return true; };
         EXPECT_EQ(PageWithOwnTheme(page, theme, moves).value_or("unchanged"), expected) << page;
@@ -86,7 +86,12 @@ TEST(PageTheme, ASinglePageGetsAThemeOfItsOwn) {
     expectOwn(Meta("none, default") + "<p>", Meta("new 1011") + link + "<p>");
     expectOwn("<head><title>x</title>", "<head>" + Meta("new 1011") + link + "<title>x</title>");
     expectOwn("<body>", Meta("new 1011") + link + "<body>");
-    expectOwn("words", "unchanged");
+    // Tags that have no room for the name.
+    for (const char* const tag :
+         {"<meta name='Microsoft Theme' content=none>", "<meta name='Microsoft Theme'>",
+          "<meta name='Microsoft Theme' content>"})
+        expectOwn(std::string("<head>") + tag, "<head>" + Meta("new 1011") + link);
+    EXPECT_THROW(PageWithOwnTheme("words", theme, {}), RunTimeError);
 }
 
 TEST(PageTheme, AddressesOfTheOldFolderChangeWhereverTheyStand) {

@@ -78,6 +78,13 @@ TEST_F(DiskWebTest, ASinglePageGetsAThemeOfTheWebAsItsOwn) {
     EXPECT_EQ(give("bare.htm", "other"), "");
     EXPECT_NE(folder_.Read("web/sub/bare.htm").find("href=\"../_themes/Other/othe1011.css\""),
               std::string::npos);
+    fs::remove(folder_ / "web/_themes/Other/othe1011.css");
+    folder_.Write("web/_themes/Other/Graph1.css", "");
+    folder_.Write("web/_themes/Other/theme.css", "");
+    folder_.Write("web/sub/none.htm", Page("none"));
+    EXPECT_EQ(give("none.htm", "other"), "");
+    for (const char* const sheet : {"Graph1.css", "theme.css"})
+        EXPECT_NE(folder_.Read("web/sub/none.htm").find(sheet), std::string::npos);
     EXPECT_NE(give("page.html", "other").find("a.gif"), std::string::npos);
     EXPECT_EQ(folder_.Read("web/sub/page.html"),
               "<meta name='Microsoft Theme' content='Other 1011'><img src='../_themes/old/a.gif'>");
