@@ -260,8 +260,11 @@ void WebSaveTransaction::RollBack() {
 // Whether it went well or not, the themes of web and user are whole now.
 void WebSaveTransaction::End() {
     hasEnded_ = true;
-    web_.Files().RedirectTheme({}, {});
-    web_.SetTransaction(nullptr);
+    // One that could not begin may find another one running.
+    if (web_.Transaction() == this) {
+        web_.Files().RedirectTheme({}, {});
+        web_.SetTransaction(nullptr);
+    }
     const bool removesThemesFolder = createdThemesFolder_ && !record_.isCommitted;
     try {
         EndJournal();
