@@ -17,7 +17,7 @@ timed() { # NAME WEB ARGUMENT...
     local name=$1 web=$2 start
     shift 2
     start=$EPOCHREALTIME
-    "$morpho" recolor "$web" --theme orrery --hue 60 --apply "$@"
+    "$morpho" recolor "$web" --theme orrery --hue 60 --apply "$@" 2>/dev/null
     echo $((${EPOCHREALTIME/./} - ${start/./})) >>"$work/$name"
 }
 median() { sort -n "$work/$1" | awk '{ value[NR] = $1 } END { printf "%.1f", value[int((NR + 1) / 2)] / 1000 }'; }
