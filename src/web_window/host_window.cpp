@@ -1,5 +1,6 @@
 #include "web_window/host_window.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
@@ -8,7 +9,6 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QProgressBar>
-#include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -36,8 +36,14 @@ constexpr int kCloseId = 106;
 constexpr int kExitId = 752;
 constexpr int kRefreshId = 459;
 constexpr int kRecentId = 30126;
-constexpr int kThemeOfPageId = 40001;  // not one of FrontPage's
+// Those from 40000 on are not FrontPage's.
 constexpr int kHelpId = 984;
+constexpr int kThemeOfPageId = 40000;
+constexpr int kRecalculateId = 40001;
+constexpr int kOtherPaneId = 40002;
+constexpr int kBackId = 40003;
+constexpr int kNextPictureId = 40004;
+constexpr int kPreviousPictureId = 40005;
 
 constexpr std::string_view kApplication = "Morpho";
 constexpr std::string_view kSection = "Web Window";
@@ -54,17 +60,17 @@ QString Unmarked(QString text) {
 HostWindow::HostWindow(const HostParts& host)
     : host_(host),
       bars_(host.frontPage.HostBars(), *this),
+      splitter_(new QSplitter),
       tree_(new QTreeView),
       tabs_(new QTabWidget),
       status_(new QLabel),
       progress_(new QProgressBar),
       runner_(*progress_) {
-    auto* const splitter = new QSplitter;
-    splitter->addWidget(tree_);
-    splitter->addWidget(tabs_);
-    splitter->setStretchFactor(1, 1);
-    splitter->setSizes({kTreeWidth, 3 * kTreeWidth});
-    setCentralWidget(splitter);
+    splitter_->addWidget(tree_);
+    splitter_->addWidget(tabs_);
+    splitter_->setStretchFactor(1, 1);
+    splitter_->setSizes({kTreeWidth, 3 * kTreeWidth});
+    setCentralWidget(splitter_);
     tree_->setHeaderHidden(true);
     tree_->setUniformRowHeights(true);
     tree_->setAccessibleName("Folders and files of the web");
@@ -94,39 +100,67 @@ HostWindow::~HostWindow() {
 }
 
 void HostWindow::AddCommands() {
-    AddCommand(HostMenu::kFile, kOpenWebId, "&Open Web...", [this] { AskForWeb(); });
+    AddCommand(HostMenu::kFile, {kOpenWebId, "&Open Web...", QKeySequence::Open},
+               [this] { AskForWeb(); });
     recentWebs_ =
         host_.frontPage.HostBars()
             .Menu(HostMenu::kFile)
             .Append({.type = kPopupControl, .id = kRecentId, .look = {.caption = "&Recent Webs"}});
-    AddCommand(HostMenu::kFile, kCloseId, "&Close Page",
+    AddCommand(HostMenu::kFile, {kCloseId, "&Close Page", QKeySequence("Ctrl+W")},
                [this] { CloseTab(tabs_->currentIndex()); });
-    AddCommand(
-        HostMenu::kFile, kExitId, "E&xit", [this] { close(); }, true);
-    AddCommand(HostMenu::kView, kRefreshId, "&Refresh", [this] { RefreshViews(); });
-    AddCommand(HostMenu::kFormat, kThemeOfPageId, "Theme of This &Page...",
+    AddCommand(HostMenu::kFile, {kRecalculateId, "Recalculate &Hyperlinks", {}, true},
+               [this] { RecalculateHyperlinks(); });
+    AddCommand(HostMenu::kFile, {kExitId, "E&xit", QKeySequence("Ctrl+Q"), true},
+               [this] { close(); });
+    AddCommand(HostMenu::kView, {kRefreshId, "&Refresh", QKeySequence("F5")},
+               [this] { RefreshViews(); });
+    AddCommand(HostMenu::kView, {kOtherPaneId, "&Other Pane", QKeySequence("F6")},
+               [this] { FocusOtherPane(); });
+    AddCommand(HostMenu::kFormat, {kThemeOfPageId, "Theme of This &Page...", {}},
                [this] { AskForThemeOfPage(); });
-    AddCommand(HostMenu::kHelp, kHelpId, "Morpho &Help",
+    AddCommand(HostMenu::kHelp, {kHelpId, "Morpho &Help", QKeySequence("F1")},
                [this] { host_.platform.shell.WinExec("Winhlp32.exe morpho.hlp", 1); });
-    const auto shortcut = [this](const QKeySequence& keys, auto action) {
-        connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
-    };
-    shortcut(QKeySequence::Open, [this] { AskForWeb(); });
-    shortcut(QKeySequence("Ctrl+W"), [this] { CloseTab(tabs_->currentIndex()); });
-    shortcut(QKeySequence("F5"), [this] { RefreshViews(); });
-    shortcut(QKeySequence("F6"), [this] {
-        QWidget* const page = tabs_->currentWidget();
-        (tree_->hasFocus() && page ? page : tree_)->setFocus(Qt::ShortcutFocusReason);
-    });
+    AddPageCommands();
     FillRecentWebs();
 }
 
-HostControl& HostWindow::AddCommand(HostMenu menu, int id, const QString& caption,
-                                    std::function<void()> clicked, bool beginsGroup) {
+void HostWindow::AddPageCommands() {
+    const auto onPage = [this](auto work) {
+        return [this, work] {
+            if (WebPageView* const page = CurrentPage()) work(*page);
+        };
+    };
+    AddCommand(HostMenu::kView, {kBackId, "&Back", QKeySequence("Alt+Left"), true},
+               onPage([](WebPageView& page) { page.back(); }));
+    AddCommand(HostMenu::kView, {kNextPictureId, "Select &Next Picture", QKeySequence("F8")},
+               onPage([](WebPageView& page) { page.StepPicture(1); }));
+    AddCommand(HostMenu::kView,
+               {kPreviousPictureId, "Select &Previous Picture", QKeySequence("Shift+F8")},
+               onPage([](WebPageView& page) { page.StepPicture(-1); }));
+}
+
+void HostWindow::AddCommand(HostMenu menu, const Command& command, std::function<void()> clicked) {
     const auto control = host_.frontPage.HostBars().Menu(menu).Append(
-        {.id = id, .look = {.caption = FromQt(caption), .beginsGroup = beginsGroup}});
+        {.id = command.id,
+         .look = {.caption = command.caption, .beginsGroup = command.beginsGroup}});
     clicks_.push_back(control->OnClick(std::move(clicked)));
-    return *control;
+    bars_.ActionOf(*control)->setShortcut(command.keys);
+}
+
+void HostWindow::FocusOtherPane() {
+    QWidget* const page = tabs_->currentWidget();
+    (tree_->hasFocus() && page ? page : tree_)->setFocus(Qt::ShortcutFocusReason);
+}
+
+void HostWindow::RecalculateHyperlinks() {
+    const auto web = host_.frontPage.ActiveWeb();
+    if (!web) return;
+    try {
+        web->RecalcHyperlinks();
+        Tell({"The hyperlinks to themes are recalculated; the log has the broken ones."});
+    } catch (const RunTimeError& error) {
+        Tell({error.what()});
+    }
 }
 
 void HostWindow::FillRecentWebs() {
@@ -341,13 +375,20 @@ QString HostWindow::PathOf(const WebPath& names) const {
 
 void HostWindow::RestorePlace() {
     resize(1100, 750);
-    const std::string place = GetSetting(host_.platform, kApplication, kSection, "Geometry", "");
-    if (!place.empty()) restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(place)));
+    const auto bytesOf = [this](const char* key) {
+        const std::string text = GetSetting(host_.platform, kApplication, kSection, key, "");
+        return QByteArray::fromBase64(QByteArray::fromStdString(text));
+    };
+    restoreGeometry(bytesOf("Geometry"));
+    splitter_->restoreState(bytesOf("Splitter"));
 }
 
 void HostWindow::closeEvent(QCloseEvent* event) {
-    SaveSetting(host_.platform, kApplication, kSection, "Geometry",
-                saveGeometry().toBase64().toStdString());
+    const auto save = [this](const char* key, const QByteArray& bytes) {
+        SaveSetting(host_.platform, kApplication, kSection, key, bytes.toBase64().toStdString());
+    };
+    save("Geometry", saveGeometry());
+    save("Splitter", splitter_->saveState());
     QMainWindow::closeEvent(event);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QKeySequence>
 #include <QMainWindow>
 #include <functional>
 #include <memory>
@@ -13,6 +14,7 @@
 
 class QLabel;
 class QProgressBar;
+class QSplitter;
 class QTabWidget;
 class QTreeView;
 
@@ -68,9 +70,18 @@ class HostWindow : public QMainWindow {
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    struct Command {
+        int id;
+        const char* caption;  // with "&" before the access key
+        QKeySequence keys;
+        bool beginsGroup = false;
+    };
+
     void AddCommands();
-    HostControl& AddCommand(HostMenu menu, int id, const QString& caption,
-                            std::function<void()> clicked, bool beginsGroup = false);
+    void AddPageCommands();
+    void AddCommand(HostMenu menu, const Command& command, std::function<void()> clicked);
+    void FocusOtherPane();
+    void RecalculateHyperlinks();
     void FillRecentWebs();
     void ShowWeb();
     void ShowHomePage();
@@ -93,6 +104,7 @@ class HostWindow : public QMainWindow {
     // The window's own view of the open web: the host may be at work on its own meanwhile.
     std::shared_ptr<const WebFiles> files_;
     std::unique_ptr<WebTreeModel> model_;
+    QSplitter* splitter_;
     QTreeView* tree_;
     QTabWidget* tabs_;
     QLabel* status_;
