@@ -24,6 +24,16 @@ class PushButton : public QPushButton {
     }
 };
 
+// Leaves its state to the model: a click that the model refuses must not end the choice of another
+// button.
+class RadioButton : public QRadioButton {
+  public:
+    using QRadioButton::QRadioButton;
+
+  protected:
+    void nextCheckState() override {}
+};
+
 QKeySequence ToQt(const Shortcut& shortcut) {
     const int key = shortcut.IsFunctionKey() ? Qt::Key_F1 + shortcut.FunctionNumber() - 1
                                              : Qt::Key_A + shortcut.key - 'A';
@@ -65,6 +75,24 @@ CheckBoxPeer::CheckBoxPeer(CheckBox& box, QWidget* parent, const PeerContext& co
 void CheckBoxPeer::WriteOwn(Aspects changed) {
     if (changed & aspect::kCaption) widget_->setText(MarkedCaptionOf(box_));
     if (changed & aspect::kValue) widget_->setChecked(box_.Value());
+}
+
+OptionButtonPeer::OptionButtonPeer(OptionButton& option, QWidget* parent,
+                                   const PeerContext& context)
+    : ControlPeer(option, new RadioButton(parent), context),
+      option_(option),
+      widget_(static_cast<QRadioButton*>(Widget())) {
+    QObject::connect(widget_, &QRadioButton::clicked, Receiver(),
+                     [this] { Did([this] { option_.UserClick(); }); });
+}
+
+void OptionButtonPeer::WriteOwn(Aspects changed) {
+    if (changed & aspect::kCaption) widget_->setText(MarkedCaptionOf(option_));
+    if (!(changed & aspect::kValue)) return;
+    // The chosen button of an exclusive group cannot be unchecked.
+    widget_->setAutoExclusive(false);
+    widget_->setChecked(option_.Value());
+    widget_->setAutoExclusive(true);
 }
 
 }  // namespace morpho

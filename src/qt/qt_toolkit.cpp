@@ -32,7 +32,7 @@ QMessageBox::Icon ToQt(int icon) {
     }
 }
 
-// The buttons; Enter presses the first, Escape the last.
+// The buttons; Enter presses the first unless the flags name the second, Escape the last.
 void AddButtons(QMessageBox& box, int flags) {
     switch (ButtonsOf(flags)) {
         case kYesNoCancel:
@@ -49,7 +49,9 @@ void AddButtons(QMessageBox& box, int flags) {
             box.setStandardButtons(QMessageBox::Ok);
             box.setDefaultButton(QMessageBox::Ok);
             box.setEscapeButton(QMessageBox::Ok);
+            return;
     }
+    if (flags & kSecondButtonDefault) box.setDefaultButton(QMessageBox::No);
 }
 
 Answer AnswerOf(int button) {
@@ -85,7 +87,8 @@ void QtToolkit::Prepare() {
     if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND")) qputenv("QT_QUICK_BACKEND", "software");
 }
 
-QtToolkit::QtToolkit(const FileSystem& files, std::string_view icon) : pages_(files) {
+QtToolkit::QtToolkit(const FileSystem& files, std::string_view icon, PathNames paths)
+    : pages_(files), paths_(std::move(paths)) {
     ApplyLook();
     QPixmap pixmap;
     if (!icon.empty() && pixmap.loadFromData(reinterpret_cast<const uchar*>(icon.data()),
@@ -116,9 +119,7 @@ void QtToolkit::RunModal(Form& form) {
 
 Answer QtToolkit::ShowMessage(Form* owner, std::string_view text, int flags,
                               std::string_view title) {
-    QWidget* parent = WindowOf(owner);
-    if (parent == nullptr || !parent->isVisible()) parent = TopWindow();
-    QMessageBox box(parent);
+    QMessageBox box(ParentOfBox(owner));
     box.setWindowModality(Qt::ApplicationModal);
     box.setTextFormat(Qt::PlainText);
     box.setText(morpho::ToQt(text).remove('\r'));
@@ -126,6 +127,10 @@ Answer QtToolkit::ShowMessage(Form* owner, std::string_view text, int flags,
     box.setIcon(ToQt(IconOf(flags)));
     AddButtons(box, flags);
     return AnswerOf(box.exec());
+}
+
+std::optional<std::string> QtToolkit::ShowFileDialog(Form* owner, const FileDialog& request) {
+    return RunFileDialog(ParentOfBox(owner), request, paths_);
 }
 
 Rectangle QtToolkit::NormalPlacement(const Form& form) const {
@@ -162,6 +167,11 @@ FormWindow* QtToolkit::WindowOf(const Form* form) const {
         std::find_if(windows_.rbegin(), windows_.rend(),
                      [&](const FormWindow* window) { return &window->Model() == form; });
     return found == windows_.rend() ? nullptr : *found;
+}
+
+QWidget* QtToolkit::ParentOfBox(const Form* owner) const {
+    QWidget* const window = WindowOf(owner);
+    return window != nullptr && window->isVisible() ? window : TopWindow();
 }
 
 QWidget* QtToolkit::TopWindow() const {

@@ -77,18 +77,45 @@ void SliderPeer::WriteOwn(Aspects changed) {
     widget_->setValue(slider_.Value());
 }
 
-ScrollBarPeer::ScrollBarPeer(ScrollBar& bar, QWidget* parent, const PeerContext& context)
+ArrowsPeer::ArrowsPeer(ScrollBar& bar, QWidget* parent, const PeerContext& context)
     : ControlPeer(bar, new Arrows(parent), context),
       bar_(bar),
       widget_(static_cast<QSpinBox*>(Widget())) {
-    // Once: every setting of the range ends the repeating of an arrow that is held down.
-    widget_->setRange(bar.Minimum(), bar.Maximum());
     QObject::connect(widget_, &QSpinBox::valueChanged, Receiver(),
                      [this](int value) { Did([&] { bar_.UserSet(value); }); });
 }
 
+void ArrowsPeer::WriteOwn(Aspects changed) {
+    if (!(changed & aspect::kValue)) return;
+    const ScrollBar::Range& limits = bar_.Limits();
+    // Not without need: setting the range ends the repeating of an arrow that is held down.
+    if (widget_->minimum() != limits.minimum || widget_->maximum() != limits.maximum)
+        widget_->setRange(limits.minimum, limits.maximum);
+    widget_->setSingleStep(limits.smallChange);
+    widget_->setValue(bar_.Value());
+}
+
+ScrollBarPeer::ScrollBarPeer(ScrollBar& bar, QWidget* parent, const PeerContext& context)
+    : ControlPeer(bar,
+                  new QScrollBar(bar.BarShape() == ScrollBar::Shape::kHorizontal ? Qt::Horizontal
+                                                                                 : Qt::Vertical,
+                                 parent),
+                  context),
+      bar_(bar),
+      widget_(static_cast<QScrollBar*>(Widget())) {
+    // Qt's scroll bars belong to their areas and cannot have the focus themselves.
+    widget_->setFocusPolicy(Qt::StrongFocus);
+    QObject::connect(widget_, &QScrollBar::valueChanged, Receiver(),
+                     [this](int value) { Did([&] { bar_.UserSet(value); }); });
+}
+
 void ScrollBarPeer::WriteOwn(Aspects changed) {
-    if (changed & aspect::kValue) widget_->setValue(bar_.Value());
+    if (!(changed & aspect::kValue)) return;
+    const ScrollBar::Range& limits = bar_.Limits();
+    widget_->setRange(limits.minimum, limits.maximum);
+    widget_->setSingleStep(limits.smallChange);
+    widget_->setPageStep(limits.largeChange);
+    widget_->setValue(bar_.Value());
 }
 
 }  // namespace morpho

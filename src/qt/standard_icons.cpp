@@ -1,0 +1,20 @@
+#include "qt/standard_icons.h"
+
+#include <QApplication>
+#include <QStyle>
+
+namespace morpho {
+
+QIcon StandardIcon(const std::string& imageName) {
+    const struct {
+        const char* name;
+        QStyle::StandardPixmap icon;
+    } icons[] = {{"ClosedFolder", QStyle::SP_DirClosedIcon},
+                 {"OpenFolder", QStyle::SP_DirOpenIcon},
+                 {"Image", QStyle::SP_FileIcon}};
+    for (const auto& [name, icon] : icons)
+        if (imageName == name) return QApplication::style()->standardIcon(icon);
+    return {};
+}
+
+}  // namespace morpho
