@@ -1,5 +1,6 @@
 #include "qt/slider_peers.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 
 namespace morpho {
@@ -28,6 +29,29 @@ class Arrows : public QSpinBox {
 
   private:
     bool held_ = false;
+};
+
+// Qt's scroll bars belong to scroll areas, which handle the keys: alone they do not have the focus,
+// and the arrow keys of a horizontal one are exchanged.
+class Bar : public QScrollBar {
+  public:
+    Bar(ScrollBar::Shape shape, QWidget* parent)
+        : QScrollBar(shape == ScrollBar::Shape::kHorizontal ? Qt::Horizontal : Qt::Vertical,
+                     parent) {
+        setFocusPolicy(Qt::StrongFocus);
+    }
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        const bool horizontal = orientation() == Qt::Horizontal;
+        if (horizontal && event->key() == Qt::Key_Right) {
+            triggerAction(SliderSingleStepAdd);
+        } else if (horizontal && event->key() == Qt::Key_Left) {
+            triggerAction(SliderSingleStepSub);
+        } else {
+            QScrollBar::keyPressEvent(event);
+        }
+    }
 };
 
 }  // namespace
@@ -96,15 +120,9 @@ void ArrowsPeer::WriteOwn(Aspects changed) {
 }
 
 ScrollBarPeer::ScrollBarPeer(ScrollBar& bar, QWidget* parent, const PeerContext& context)
-    : ControlPeer(bar,
-                  new QScrollBar(bar.BarShape() == ScrollBar::Shape::kHorizontal ? Qt::Horizontal
-                                                                                 : Qt::Vertical,
-                                 parent),
-                  context),
+    : ControlPeer(bar, new Bar(bar.BarShape(), parent), context),
       bar_(bar),
       widget_(static_cast<QScrollBar*>(Widget())) {
-    // Qt's scroll bars belong to their areas and cannot have the focus themselves.
-    widget_->setFocusPolicy(Qt::StrongFocus);
     QObject::connect(widget_, &QScrollBar::valueChanged, Receiver(),
                      [this](int value) { Did([&] { bar_.UserSet(value); }); });
 }
