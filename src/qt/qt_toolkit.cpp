@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QPixmap>
 #include <QScreen>
+#include <QSettings>
 #include <algorithm>
 
 #include "qt/form_window.h"
@@ -79,6 +80,9 @@ void QtToolkit::Prepare() {
     // The browser writes messages about itself at every start.
     QLoggingCategory::setFilterRules("default.info=false\nqt.webenginecontext.info=false");
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    // Qt's file dialog would keep its history in a file of the person's own. The program writes to
+    // its own folders only, so the history goes where nothing can be written.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
     // The browser's sandbox refuses to run as root.
     if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
     // Pages are small and still: painting them without the graphics card starts faster, is the same
