@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QShortcut>
+#include <algorithm>
 
 #include "qt/qt_text.h"
 
@@ -32,6 +33,28 @@ class RadioButton : public QRadioButton {
 
   protected:
     void nextCheckState() override {}
+    // The group is one tab stop, its chosen button. Qt knows that only of a choice made by a click.
+    void focusInEvent(QFocusEvent* event) override {
+        const bool byTab =
+            event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+        QRadioButton* const chosen = byTab ? Chosen() : nullptr;
+        if (chosen != nullptr && chosen != this) {
+            chosen->setFocus(event->reason());
+        } else {
+            QRadioButton::focusInEvent(event);
+        }
+    }
+
+  private:
+    QRadioButton* Chosen() const {
+        const auto group =
+            parentWidget()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
+        const auto chosen =
+            std::find_if(group.begin(), group.end(), [](const QRadioButton* button) {
+                return button->isChecked() && button->isEnabled() && button->isVisible();
+            });
+        return chosen == group.end() ? nullptr : *chosen;
+    }
 };
 
 QKeySequence ToQt(const Shortcut& shortcut) {

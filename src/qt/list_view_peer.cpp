@@ -3,7 +3,6 @@
 #include <QHeaderView>
 
 #include "qt/qt_text.h"
-#include "qt/standard_icons.h"
 
 namespace morpho {
 
@@ -37,9 +36,9 @@ void ListViewPeer::Clicked() {
 
 void ListViewPeer::WriteOwn(Aspects changed) {
     if (changed & aspect::kItems) WriteRows();
-    if (!(changed & (aspect::kValue | aspect::kItems))) return;
-    WriteView();
-    widget_->Select(widget_->topLevelItem(list_.SelectedRow()));
+    if (changed & aspect::kValue) WriteView();
+    if (changed & (aspect::kValue | aspect::kItems))
+        widget_->Select(widget_->topLevelItem(list_.SelectedRow()));
 }
 
 void ListViewPeer::WriteRows() {
@@ -54,7 +53,7 @@ void ListViewPeer::WriteRows() {
         for (const std::string& detail : row.details)
             texts += ToQt(detail);
         added += new QTreeWidgetItem(texts);
-        added.back()->setIcon(0, StandardIcon(row.image));
+        added.back()->setIcon(0, icons_.Icon(row.image));
     }
     widget_->addTopLevelItems(added);
 }

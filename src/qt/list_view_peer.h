@@ -3,6 +3,7 @@
 #include "forms/list_view.h"
 #include "qt/control_peer.h"
 #include "qt/rows_widget.h"
+#include "qt/standard_icons.h"
 
 namespace morpho {
 
@@ -21,6 +22,7 @@ class ListViewPeer : public ControlPeer {
 
     ListView& list_;
     RowsWidget* widget_;
+    StandardIcons icons_;
     int clearings_ = 0;
 };
 

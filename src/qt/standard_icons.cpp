@@ -5,7 +5,9 @@
 
 namespace morpho {
 
-QIcon StandardIcon(const std::string& imageName) {
+namespace {
+
+QIcon IconOf(const std::string& imageName) {
     const struct {
         const char* name;
         QStyle::StandardPixmap icon;
@@ -15,6 +17,14 @@ QIcon StandardIcon(const std::string& imageName) {
     for (const auto& [name, icon] : icons)
         if (imageName == name) return QApplication::style()->standardIcon(icon);
     return {};
+}
+
+}  // namespace
+
+const QIcon& StandardIcons::Icon(const std::string& imageName) {
+    const auto found = icons_.find(imageName);
+    if (found != icons_.end()) return found->second;
+    return icons_.emplace(imageName, IconOf(imageName)).first->second;
 }
 
 }  // namespace morpho

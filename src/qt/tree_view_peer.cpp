@@ -3,7 +3,6 @@
 #include <QHeaderView>
 
 #include "qt/qt_text.h"
-#include "qt/standard_icons.h"
 
 namespace morpho {
 
@@ -38,7 +37,14 @@ void TreeViewPeer::Expanded(QTreeWidgetItem* item, bool expanded) {
 
 void TreeViewPeer::WriteOwn(Aspects changed) {
     if (changed & aspect::kItems) WriteNodes();
-    if (changed & (aspect::kValue | aspect::kItems)) WriteState();
+    if (changed & aspect::kValue) {
+        for (const auto& [node, item] : items_)
+            WriteState(*node, *item);
+    }
+    if (changed & (aspect::kValue | aspect::kItems)) {
+        const TreeNode* const selected = tree_.SelectedNode();
+        widget_->Select(selected == nullptr ? nullptr : items_.at(selected));
+    }
 }
 
 void TreeViewPeer::WriteNodes() {
@@ -53,6 +59,7 @@ void TreeViewPeer::WriteNodes() {
         QTreeWidgetItem* const item = AddItem(node);
         items_[&node] = item;
         nodes_[item] = &node;
+        WriteState(node, *item);
     }
 }
 
@@ -69,13 +76,11 @@ QTreeWidgetItem* TreeViewPeer::AddItem(TreeNode& node) {
     return item;
 }
 
-void TreeViewPeer::WriteState() {
-    for (const auto& [node, item] : items_) {
-        if (item->isExpanded() != node->IsExpanded()) item->setExpanded(node->IsExpanded());
-        item->setIcon(0, StandardIcon(node->ShownImage()));
-    }
-    const TreeNode* const selected = tree_.SelectedNode();
-    widget_->Select(selected == nullptr ? nullptr : items_.at(selected));
+void TreeViewPeer::WriteState(const TreeNode& node, QTreeWidgetItem& item) {
+    if (item.isExpanded() != node.IsExpanded()) item.setExpanded(node.IsExpanded());
+    // A row whose icon is set is laid out again.
+    const QIcon& icon = icons_.Icon(node.ShownImage());
+    if (item.icon(0).cacheKey() != icon.cacheKey()) item.setIcon(0, icon);
 }
 
 }  // namespace morpho

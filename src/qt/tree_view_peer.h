@@ -5,6 +5,7 @@
 #include "forms/tree_view.h"
 #include "qt/control_peer.h"
 #include "qt/rows_widget.h"
+#include "qt/standard_icons.h"
 
 namespace morpho {
 
@@ -17,13 +18,14 @@ class TreeViewPeer : public ControlPeer {
 
   private:
     void WriteNodes();
-    void WriteState();
+    void WriteState(const TreeNode& node, QTreeWidgetItem& item);
     QTreeWidgetItem* AddItem(TreeNode& node);
     void Clicked();
     void Expanded(QTreeWidgetItem* item, bool expanded);
 
     TreeView& tree_;
     RowsWidget* widget_;
+    StandardIcons icons_;
     std::map<const TreeNode*, QTreeWidgetItem*> items_;
     std::map<const QTreeWidgetItem*, TreeNode*> nodes_;
     int clearings_ = 0;

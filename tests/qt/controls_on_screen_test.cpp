@@ -185,8 +185,10 @@ TEST_F(ControlsOnScreen, RowsAreClickedAgainNodesOpenedAndClosed) {
         tree.topLevelItem(0)->setExpanded(false);
         EXPECT_EQ(tree.currentItem(), tree.topLevelItem(0)) << "the selected node is in sight";
         form_.tvFolders.Clear();
-        form_.tvFolders.AddNode(nullptr, {"other"});
-        EXPECT_EQ(tree.topLevelItem(0)->text(0), "other");
+        TreeNode& other = form_.tvFolders.AddNode(nullptr, {"other"});
+        form_.tvFolders.SetExpanded(other, true);
+        form_.tvFolders.AddNode(&other, {"child"});
+        EXPECT_FALSE(tree.visualItemRect(tree.topLevelItem(0)->child(0)).isEmpty());
         EXPECT_EQ(form_.events.size(), 4u) << "two rows, two nodes";
     });
 }
