@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QImageReader>
 #include <QLoggingCategory>
 #include <QMessageBox>
 #include <QPixmap>
@@ -11,6 +12,7 @@
 #include <QSettings>
 #include <algorithm>
 
+#include "forms/picture_size.h"
 #include "qt/form_window.h"
 #include "qt/look.h"
 #include "qt/qt_text.h"
@@ -94,6 +96,7 @@ void QtToolkit::Prepare() {
 QtToolkit::QtToolkit(const FileSystem& files, std::string_view icon, PathNames paths)
     : pages_(files), paths_(std::move(paths)) {
     ApplyLook();
+    QImageReader::setAllocationLimit(kMaxShownMegabytes);
     QPixmap pixmap;
     if (!icon.empty() && pixmap.loadFromData(reinterpret_cast<const uchar*>(icon.data()),
                                              static_cast<uint>(icon.size())))
