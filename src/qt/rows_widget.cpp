@@ -1,6 +1,5 @@
 #include "qt/rows_widget.h"
 
-#include <QHeaderView>
 #include <QMouseEvent>
 
 namespace morpho {
@@ -22,11 +21,12 @@ void RowsWidget::Select(QTreeWidgetItem* item) {
 }
 
 void RowsWidget::mousePressEvent(QMouseEvent* event) {
-    const QModelIndex pressed = indexAt(event->position().toPoint());
-    const bool again = event->button() == Qt::LeftButton && pressed.isValid() &&
+    const QPoint at = event->position().toPoint();
+    const QModelIndex pressed = indexAt(at);
+    // The arrow that expands a node stands before the node's rectangle.
+    const bool again = event->button() == Qt::LeftButton && visualRect(pressed).contains(at) &&
                        selectionModel()->isSelected(pressed);
     QTreeWidget::mousePressEvent(event);
-    if (!pressed.isValid()) clearSelection();
     if (again && clickedAgain && Selected() != nullptr) clickedAgain();
 }
 

@@ -177,6 +177,8 @@ TEST_F(ControlsOnScreen, RowsAreClickedAgainNodesOpenedAndClosed) {
 
         tree.topLevelItem(0)->setExpanded(true);
         EXPECT_TRUE(form_.root->IsExpanded());
+        form_.RunHandler("busy", [&] { tree.topLevelItem(0)->setExpanded(false); });
+        EXPECT_TRUE(tree.topLevelItem(0)->isExpanded()) << "refused";
         form_.tvFolders.AddNode(form_.root, {"Archive"});
         EXPECT_EQ(tree.topLevelItem(0)->child(1)->text(0), "Archive") << "among its siblings";
         form_.tvFolders.SelectNode(form_.root->Children()[1]);
