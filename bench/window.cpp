@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "linux/disk_path.h"
 #include "program/desktop_platform.h"
 #include "qt/qt_clipboard.h"
 #include "qt/qt_toolkit.h"
@@ -73,7 +74,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     const DiskFileSystem pages;
     const EmbeddedResources resources;
-    QtToolkit toolkit(pages, {});
+    QtToolkit toolkit(pages, {}, {FindOnDisk, ToWindowsPath});
     QtClipboard clipboard;
     DesktopPlatform desktop(DesktopUse::kBatch, FindUserFolders(EnvironmentVariable), toolkit,
                             resources, clipboard);

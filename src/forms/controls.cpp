@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "forms/control_visitor.h"
+#include "forms/picture_size.h"
 
 namespace morpho {
 
@@ -83,6 +84,8 @@ bool CheckBox::UserSet(bool value) {
 
 void PictureBox::SetPicture(std::string encoded) {
     picture_ = std::move(encoded);
+    const Size pixels = PictureSize(picture_);
+    naturalSize_ = {pixels.width * kTwipsPerPixel, pixels.height * kTwipsPerPixel};
     Changed(aspect::kPicture);
 }
 

@@ -79,8 +79,8 @@ class CheckBox : public Control {
     Handler click_;
 };
 
-// A still picture, shown at its own size from the top left corner; with `stretch` it fills the
-// control.
+// A still picture (of an animation the first), shown at its own size from the top left corner; with
+// `stretch` it fills the control. In a frame it can be moved beyond the edges, which clip it.
 class PictureBox : public Control {
   public:
     PictureBox(Container& parent, const ControlSpec& spec, bool stretch = false)
@@ -91,11 +91,17 @@ class PictureBox : public Control {
     // The encoded picture (JPEG, GIF, PNG, BMP); empty shows nothing.
     const std::string& Picture() const { return picture_; }
     void SetPicture(std::string encoded);
+    // The picture's own size in twips. {0, 0} when nothing can be shown: there is no picture, it is
+    // damaged, of another format, or has more than kMaxShownPixels.
+    Size NaturalSize() const { return naturalSize_; }
+    // Called by a peer that could not decode the picture.
+    void PictureFailed() { naturalSize_ = {}; }
     void Accept(ControlVisitor& visitor) override;
 
   private:
     bool stretch_;
     std::string picture_;
+    Size naturalSize_;
 };
 
 // Flags of WebBrowser::Navigate.

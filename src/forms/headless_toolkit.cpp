@@ -39,6 +39,18 @@ Answer HeadlessToolkit::ShowMessage(Form* /*owner*/, std::string_view text, int 
     return answer;
 }
 
+std::optional<std::string> HeadlessToolkit::ShowFileDialog(Form* /*owner*/,
+                                                           const FileDialog& request) {
+    fileDialogs_.push_back(request);
+    if (choices_.empty()) {
+        unscripted_.push_back("No answer to the file dialog " + request.title);
+        return std::nullopt;
+    }
+    std::optional<std::string> choice = std::move(choices_.front());
+    choices_.pop_front();
+    return choice;
+}
+
 Rectangle HeadlessToolkit::NormalPlacement(const Form& form) const {
     return form.Bounds();
 }

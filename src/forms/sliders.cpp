@@ -53,8 +53,15 @@ void Slider::Settle() {
     Raise("Change", change_);
 }
 
+void ScrollBar::SetLimits(const Range& range) {
+    range_ = range;
+    range_.maximum = std::max(range.maximum, range.minimum);
+    Changed(aspect::kValue);
+    SetValue(value_);
+}
+
 void ScrollBar::SetValue(int value) {
-    const int inside = std::clamp(value, minimum_, maximum_);
+    const int inside = std::clamp(value, range_.minimum, range_.maximum);
     if (inside == value_) return;
     value_ = inside;
     Changed(aspect::kValue);

@@ -47,28 +47,43 @@ class Slider : public Control {
     Handler change_;
 };
 
-// A scroll bar or spin control, vertical.
+// A value that a person changes by steps: with a pair of arrows, where up is more, or with a bar,
+// where right or down is more. Change is raised at every step, also while the thumb is dragged.
 class ScrollBar : public Control {
   public:
+    enum class Shape { kArrows, kHorizontal, kVertical };
+    struct Range {
+        int minimum = 0;
+        int maximum = 0;
+        int smallChange = 1;   // the arrows and arrow keys
+        int largeChange = 10;  // the bar's track and page keys; the thumb is as long in proportion
+    };
+    // A pair of arrows.
     ScrollBar(Container& parent, const ControlSpec& spec, int minimum, int maximum, int value,
               Handler change)
         : Control(parent, spec),
-          minimum_(minimum),
-          maximum_(maximum),
+          shape_(Shape::kArrows),
+          range_{minimum, maximum},
           value_(value),
           change_(std::move(change)) {}
+    ScrollBar(Container& parent, const ControlSpec& spec, Shape shape, Handler change)
+        : Control(parent, spec), shape_(shape), change_(std::move(change)) {}
 
-    int Minimum() const { return minimum_; }
-    int Maximum() const { return maximum_; }
+    Shape BarShape() const { return shape_; }
+    const Range& Limits() const { return range_; }
+    // A maximum below the minimum counts as the minimum. A value that is outside now becomes the
+    // nearest one inside, which raises Change.
+    void SetLimits(const Range& range);
     int Value() const { return value_; }
+    // A value outside the range becomes the nearest one inside.
     void SetValue(int value);
     bool UserSet(int value);
     void Accept(ControlVisitor& visitor) override;
 
   private:
-    int minimum_;
-    int maximum_;
-    int value_;
+    Shape shape_;
+    Range range_;
+    int value_ = 0;
     Handler change_;
 };
 

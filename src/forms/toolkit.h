@@ -4,19 +4,22 @@
 #include <string>
 #include <string_view>
 
+#include "forms/file_dialog.h"
 #include "forms/geometry.h"
 
 namespace morpho {
 
 class Form;
 
-// Flags of a message box: one kind of buttons and one icon, added.
+// Flags of a message box: one kind of buttons, one icon and the default button, added.
 inline constexpr int kOkOnly = 0;
 inline constexpr int kYesNoCancel = 3;
 inline constexpr int kYesNo = 4;
 inline constexpr int kCriticalIcon = 16;
 inline constexpr int kQuestionIcon = 32;
 inline constexpr int kInformationIcon = 64;
+// Enter presses the second button, not the first.
+inline constexpr int kSecondButtonDefault = 256;
 
 // The kind of buttons and the icon in a message box's flags.
 constexpr int ButtonsOf(int flags) {
@@ -49,6 +52,8 @@ class Toolkit {
     // OK.
     virtual Answer ShowMessage(Form* owner, std::string_view text, int flags,
                                std::string_view title) = 0;
+    // The path of the file that the user chose; nothing when the user cancelled.
+    virtual std::optional<std::string> ShowFileDialog(Form* owner, const FileDialog& request) = 0;
 
     // The form's rectangle, in twips, as it is when neither minimised nor maximised.
     virtual Rectangle NormalPlacement(const Form& form) const = 0;

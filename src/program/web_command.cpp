@@ -6,6 +6,7 @@
 #include "addin/add_in_im.h"
 #include "addin/add_in_tm.h"
 #include "forms/controls.h"
+#include "linux/disk_path.h"
 #include "program/desktop_platform.h"
 #include "program/qt_program.h"
 #include "qt/qt_clipboard.h"
@@ -98,7 +99,8 @@ void ShowWebWindow(const WebRequest& request) {
     const QtProgram qt;
     const DiskFileSystem pages;
     const EmbeddedResources resources;
-    QtToolkit toolkit(pages, resources.Bytes(kIconResource, kApplicationIcon128));
+    QtToolkit toolkit(pages, resources.Bytes(kIconResource, kApplicationIcon128),
+                      {FindOnDisk, ToWindowsPath});
     QtClipboard clipboard;
     DesktopPlatform desktop(DesktopUse::kWindows, FindUserFolders(EnvironmentVariable), toolkit,
                             resources, clipboard, request.hostVersion);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "forms/form.h"
+#include "linux/disk_path.h"
 #include "program/desktop_platform.h"
 #include "program/qt_program.h"
 #include "qt/qt_clipboard.h"
@@ -56,7 +57,8 @@ void ShowThemeWindow(const ThemeRequest& request) {
     const QtProgram qt;
     const DiskFileSystem pages;
     const EmbeddedResources resources;
-    QtToolkit toolkit(pages, resources.Bytes(kIconResource, kApplicationIcon128));
+    QtToolkit toolkit(pages, resources.Bytes(kIconResource, kApplicationIcon128),
+                      {FindOnDisk, ToWindowsPath});
     QtClipboard clipboard;
     DesktopPlatform desktop(DesktopUse::kWindows, FindUserFolders(EnvironmentVariable), toolkit,
                             resources, clipboard);
@@ -78,7 +80,7 @@ void DrawWindow(Form& form, const std::filesystem::path& picture) {
     if (qgetenv("QT_QPA_PLATFORM").isEmpty()) qputenv("QT_QPA_PLATFORM", "offscreen");
     const QtProgram qt;
     const DiskFileSystem pages;
-    QtToolkit toolkit(pages, {});
+    QtToolkit toolkit(pages, {}, {FindOnDisk, ToWindowsPath});
     bool drawn = false;
     toolkit.WhenFormStands([&](Form& standing) {
         drawn = toolkit.SavePicture(standing, picture.string());

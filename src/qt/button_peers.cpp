@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QShortcut>
+#include <algorithm>
 
 #include "qt/qt_text.h"
 
@@ -21,6 +22,38 @@ class PushButton : public QPushButton {
         } else {
             QPushButton::keyPressEvent(event);
         }
+    }
+};
+
+// Leaves its state to the model: a click that the model refuses must not end the choice of another
+// button.
+class RadioButton : public QRadioButton {
+  public:
+    using QRadioButton::QRadioButton;
+
+  protected:
+    void nextCheckState() override {}
+    // The group is one tab stop, its chosen button. Qt knows that only of a choice made by a click.
+    void focusInEvent(QFocusEvent* event) override {
+        const bool byTab =
+            event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+        QRadioButton* const chosen = byTab ? Chosen() : nullptr;
+        if (chosen != nullptr && chosen != this) {
+            chosen->setFocus(event->reason());
+        } else {
+            QRadioButton::focusInEvent(event);
+        }
+    }
+
+  private:
+    QRadioButton* Chosen() const {
+        const auto group =
+            parentWidget()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
+        const auto chosen =
+            std::find_if(group.begin(), group.end(), [](const QRadioButton* button) {
+                return button->isChecked() && button->isEnabled() && button->isVisible();
+            });
+        return chosen == group.end() ? nullptr : *chosen;
     }
 };
 
@@ -65,6 +98,24 @@ CheckBoxPeer::CheckBoxPeer(CheckBox& box, QWidget* parent, const PeerContext& co
 void CheckBoxPeer::WriteOwn(Aspects changed) {
     if (changed & aspect::kCaption) widget_->setText(MarkedCaptionOf(box_));
     if (changed & aspect::kValue) widget_->setChecked(box_.Value());
+}
+
+OptionButtonPeer::OptionButtonPeer(OptionButton& option, QWidget* parent,
+                                   const PeerContext& context)
+    : ControlPeer(option, new RadioButton(parent), context),
+      option_(option),
+      widget_(static_cast<QRadioButton*>(Widget())) {
+    QObject::connect(widget_, &QRadioButton::clicked, Receiver(),
+                     [this] { Did([this] { option_.UserClick(); }); });
+}
+
+void OptionButtonPeer::WriteOwn(Aspects changed) {
+    if (changed & aspect::kCaption) widget_->setText(MarkedCaptionOf(option_));
+    if (!(changed & aspect::kValue)) return;
+    // The chosen button of an exclusive group cannot be unchecked.
+    widget_->setAutoExclusive(false);
+    widget_->setChecked(option_.Value());
+    widget_->setAutoExclusive(true);
 }
 
 }  // namespace morpho

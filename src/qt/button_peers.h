@@ -2,8 +2,10 @@
 
 #include <QCheckBox>
 #include <QPushButton>
+#include <QRadioButton>
 
 #include "forms/controls.h"
+#include "forms/option_button.h"
 #include "qt/control_peer.h"
 
 namespace morpho {
@@ -30,6 +32,18 @@ class CheckBoxPeer : public ControlPeer {
   private:
     CheckBox& box_;
     QCheckBox* widget_;
+};
+
+class OptionButtonPeer : public ControlPeer {
+  public:
+    OptionButtonPeer(OptionButton& option, QWidget* parent, const PeerContext& context);
+
+  protected:
+    void WriteOwn(Aspects changed) override;
+
+  private:
+    OptionButton& option_;
+    QRadioButton* widget_;
 };
 
 }  // namespace morpho

@@ -7,10 +7,12 @@
 #include "qt/frame_peer.h"
 #include "qt/label_peer.h"
 #include "qt/list_peers.h"
+#include "qt/list_view_peer.h"
 #include "qt/picture_peer.h"
 #include "qt/slider_peers.h"
 #include "qt/text_box_peer.h"
 #include "qt/timer_peer.h"
+#include "qt/tree_view_peer.h"
 #include "qt/web_browser_peer.h"
 
 namespace morpho {
@@ -50,6 +52,9 @@ void PeerFactory::Visit(CommandButton& control) {
 void PeerFactory::Visit(CheckBox& control) {
     Add<CheckBoxPeer>(control);
 }
+void PeerFactory::Visit(OptionButton& control) {
+    Add<OptionButtonPeer>(control);
+}
 void PeerFactory::Visit(TextBox& control) {
     Add<TextBoxPeer>(control);
 }
@@ -62,11 +67,21 @@ void PeerFactory::Visit(ListBox& control) {
 void PeerFactory::Visit(CheckListBox& control) {
     Add<CheckListPeer>(control);
 }
+void PeerFactory::Visit(TreeView& control) {
+    Add<TreeViewPeer>(control);
+}
+void PeerFactory::Visit(ListView& control) {
+    Add<ListViewPeer>(control);
+}
 void PeerFactory::Visit(Slider& control) {
     Add<SliderPeer>(control);
 }
 void PeerFactory::Visit(ScrollBar& control) {
-    Add<ScrollBarPeer>(control);
+    if (control.BarShape() == ScrollBar::Shape::kArrows) {
+        Add<ArrowsPeer>(control);
+    } else {
+        Add<ScrollBarPeer>(control);
+    }
 }
 void PeerFactory::Visit(PictureBox& control) {
     Add<PicturePeer>(control);

@@ -24,10 +24,13 @@ class PeerFactory : private ControlVisitor {
     void Visit(Label& control) override;
     void Visit(CommandButton& control) override;
     void Visit(CheckBox& control) override;
+    void Visit(OptionButton& control) override;
     void Visit(TextBox& control) override;
     void Visit(ComboBox& control) override;
     void Visit(ListBox& control) override;
     void Visit(CheckListBox& control) override;
+    void Visit(TreeView& control) override;
+    void Visit(ListView& control) override;
     void Visit(Slider& control) override;
     void Visit(ScrollBar& control) override;
     void Visit(PictureBox& control) override;

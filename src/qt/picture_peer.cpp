@@ -11,11 +11,13 @@ class PictureWidget : public QWidget {
   public:
     PictureWidget(bool stretch, QWidget* parent) : QWidget(parent), stretch_(stretch) {}
 
-    void SetPicture(const std::string& encoded) {
+    // An empty text shows nothing. Whether the picture can be shown.
+    bool SetPicture(std::string_view encoded) {
         picture_ = QImage::fromData(
             QByteArray::fromRawData(encoded.data(), static_cast<qsizetype>(encoded.size())));
         fitted_ = {};
         update();
+        return !picture_.isNull();
     }
 
   protected:
@@ -46,8 +48,11 @@ PicturePeer::PicturePeer(PictureBox& box, QWidget* parent, const PeerContext& co
     : ControlPeer(box, new PictureWidget(box.Stretch(), parent), context), box_(box) {}
 
 void PicturePeer::WriteOwn(Aspects changed) {
-    if (changed & aspect::kPicture)
-        static_cast<PictureWidget*>(Widget())->SetPicture(box_.Picture());
+    if (!(changed & aspect::kPicture)) return;
+    // A picture that is too large is not decoded.
+    const bool tooLarge = box_.NaturalSize() == Size{};
+    const std::string_view encoded = tooLarge ? std::string_view() : box_.Picture();
+    if (!static_cast<PictureWidget*>(Widget())->SetPicture(encoded)) box_.PictureFailed();
 }
 
 }  // namespace morpho

@@ -4,12 +4,15 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QImageReader>
 #include <QLoggingCategory>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QScreen>
+#include <QSettings>
 #include <algorithm>
 
+#include "forms/picture_size.h"
 #include "qt/form_window.h"
 #include "qt/look.h"
 #include "qt/qt_text.h"
@@ -32,7 +35,7 @@ QMessageBox::Icon ToQt(int icon) {
     }
 }
 
-// The buttons; Enter presses the first, Escape the last.
+// The buttons; Enter presses the first unless the flags name the second, Escape the last.
 void AddButtons(QMessageBox& box, int flags) {
     switch (ButtonsOf(flags)) {
         case kYesNoCancel:
@@ -49,7 +52,9 @@ void AddButtons(QMessageBox& box, int flags) {
             box.setStandardButtons(QMessageBox::Ok);
             box.setDefaultButton(QMessageBox::Ok);
             box.setEscapeButton(QMessageBox::Ok);
+            return;
     }
+    if (flags & kSecondButtonDefault) box.setDefaultButton(QMessageBox::No);
 }
 
 Answer AnswerOf(int button) {
@@ -77,6 +82,9 @@ void QtToolkit::Prepare() {
     // The browser writes messages about itself at every start.
     QLoggingCategory::setFilterRules("default.info=false\nqt.webenginecontext.info=false");
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    // Qt's file dialog would keep its history in a file of the person's own. The program writes to
+    // its own folders only, so the history goes where nothing can be written.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
     // The browser's sandbox refuses to run as root.
     if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
     // Pages are small and still: painting them without the graphics card starts faster, is the same
@@ -85,8 +93,10 @@ void QtToolkit::Prepare() {
     if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND")) qputenv("QT_QUICK_BACKEND", "software");
 }
 
-QtToolkit::QtToolkit(const FileSystem& files, std::string_view icon) : pages_(files) {
+QtToolkit::QtToolkit(const FileSystem& files, std::string_view icon, PathNames paths)
+    : pages_(files), paths_(std::move(paths)) {
     ApplyLook();
+    QImageReader::setAllocationLimit(kMaxShownMegabytes);
     QPixmap pixmap;
     if (!icon.empty() && pixmap.loadFromData(reinterpret_cast<const uchar*>(icon.data()),
                                              static_cast<uint>(icon.size())))
@@ -116,9 +126,7 @@ void QtToolkit::RunModal(Form& form) {
 
 Answer QtToolkit::ShowMessage(Form* owner, std::string_view text, int flags,
                               std::string_view title) {
-    QWidget* parent = WindowOf(owner);
-    if (parent == nullptr || !parent->isVisible()) parent = TopWindow();
-    QMessageBox box(parent);
+    QMessageBox box(ParentOfBox(owner));
     box.setWindowModality(Qt::ApplicationModal);
     box.setTextFormat(Qt::PlainText);
     box.setText(morpho::ToQt(text).remove('\r'));
@@ -126,6 +134,10 @@ Answer QtToolkit::ShowMessage(Form* owner, std::string_view text, int flags,
     box.setIcon(ToQt(IconOf(flags)));
     AddButtons(box, flags);
     return AnswerOf(box.exec());
+}
+
+std::optional<std::string> QtToolkit::ShowFileDialog(Form* owner, const FileDialog& request) {
+    return RunFileDialog(ParentOfBox(owner), request, paths_);
 }
 
 Rectangle QtToolkit::NormalPlacement(const Form& form) const {
@@ -162,6 +174,11 @@ FormWindow* QtToolkit::WindowOf(const Form* form) const {
         std::find_if(windows_.rbegin(), windows_.rend(),
                      [&](const FormWindow* window) { return &window->Model() == form; });
     return found == windows_.rend() ? nullptr : *found;
+}
+
+QWidget* QtToolkit::ParentOfBox(const Form* owner) const {
+    QWidget* const window = WindowOf(owner);
+    return window != nullptr && window->isVisible() ? window : TopWindow();
 }
 
 QWidget* QtToolkit::TopWindow() const {

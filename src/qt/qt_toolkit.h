@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "forms/toolkit.h"
+#include "qt/file_dialog_box.h"
 #include "qt/page_server.h"
 
 namespace morpho {
@@ -23,14 +24,15 @@ class QtToolkit : public Toolkit {
 
     // Gives the application the look that the forms are laid out for. `icon` holds the program's
     // icon, an encoded picture, or nothing. `files` serves the browser controls and must outlive
-    // the toolkit.
-    QtToolkit(const FileSystem& files, std::string_view icon);
+    // the toolkit. `paths` serves the file dialogs.
+    QtToolkit(const FileSystem& files, std::string_view icon, PathNames paths);
     ~QtToolkit() override;
 
     void PlaceAtStart(Form& form) override;
     void RunModal(Form& form) override;
     Answer ShowMessage(Form* owner, std::string_view text, int flags,
                        std::string_view title) override;
+    std::optional<std::string> ShowFileDialog(Form* owner, const FileDialog& request) override;
     Rectangle NormalPlacement(const Form& form) const override;
     CapturedWindow ReleaseCapture() override;
     void SetCapture(CapturedWindow window) override;
@@ -49,8 +51,11 @@ class QtToolkit : public Toolkit {
   private:
     FormWindow* WindowOf(const Form* form) const;
     QWidget* TopWindow() const;
+    // The window that a box of this form stands on.
+    QWidget* ParentOfBox(const Form* owner) const;
 
     PageServer pages_;
+    PathNames paths_;
     std::vector<FormWindow*> windows_;  // nested, the innermost last
     std::function<void(Form&)> whenFormStands_;
 };

@@ -1,5 +1,6 @@
 #include "qt/slider_peers.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 
 namespace morpho {
@@ -28,6 +29,29 @@ class Arrows : public QSpinBox {
 
   private:
     bool held_ = false;
+};
+
+// Qt's scroll bars belong to scroll areas, which handle the keys: alone they do not have the focus,
+// and the arrow keys of a horizontal one are exchanged.
+class Bar : public QScrollBar {
+  public:
+    Bar(ScrollBar::Shape shape, QWidget* parent)
+        : QScrollBar(shape == ScrollBar::Shape::kHorizontal ? Qt::Horizontal : Qt::Vertical,
+                     parent) {
+        setFocusPolicy(Qt::StrongFocus);
+    }
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        const bool horizontal = orientation() == Qt::Horizontal;
+        if (horizontal && event->key() == Qt::Key_Right) {
+            triggerAction(SliderSingleStepAdd);
+        } else if (horizontal && event->key() == Qt::Key_Left) {
+            triggerAction(SliderSingleStepSub);
+        } else {
+            QScrollBar::keyPressEvent(event);
+        }
+    }
 };
 
 }  // namespace
@@ -77,18 +101,39 @@ void SliderPeer::WriteOwn(Aspects changed) {
     widget_->setValue(slider_.Value());
 }
 
-ScrollBarPeer::ScrollBarPeer(ScrollBar& bar, QWidget* parent, const PeerContext& context)
+ArrowsPeer::ArrowsPeer(ScrollBar& bar, QWidget* parent, const PeerContext& context)
     : ControlPeer(bar, new Arrows(parent), context),
       bar_(bar),
       widget_(static_cast<QSpinBox*>(Widget())) {
-    // Once: every setting of the range ends the repeating of an arrow that is held down.
-    widget_->setRange(bar.Minimum(), bar.Maximum());
     QObject::connect(widget_, &QSpinBox::valueChanged, Receiver(),
                      [this](int value) { Did([&] { bar_.UserSet(value); }); });
 }
 
+void ArrowsPeer::WriteOwn(Aspects changed) {
+    if (!(changed & aspect::kValue)) return;
+    const ScrollBar::Range& limits = bar_.Limits();
+    // Not without need: setting the range ends the repeating of an arrow that is held down.
+    if (widget_->minimum() != limits.minimum || widget_->maximum() != limits.maximum)
+        widget_->setRange(limits.minimum, limits.maximum);
+    widget_->setSingleStep(limits.smallChange);
+    widget_->setValue(bar_.Value());
+}
+
+ScrollBarPeer::ScrollBarPeer(ScrollBar& bar, QWidget* parent, const PeerContext& context)
+    : ControlPeer(bar, new Bar(bar.BarShape(), parent), context),
+      bar_(bar),
+      widget_(static_cast<QScrollBar*>(Widget())) {
+    QObject::connect(widget_, &QScrollBar::valueChanged, Receiver(),
+                     [this](int value) { Did([&] { bar_.UserSet(value); }); });
+}
+
 void ScrollBarPeer::WriteOwn(Aspects changed) {
-    if (changed & aspect::kValue) widget_->setValue(bar_.Value());
+    if (!(changed & aspect::kValue)) return;
+    const ScrollBar::Range& limits = bar_.Limits();
+    widget_->setRange(limits.minimum, limits.maximum);
+    widget_->setSingleStep(limits.smallChange);
+    widget_->setPageStep(limits.largeChange);
+    widget_->setValue(bar_.Value());
 }
 
 }  // namespace morpho

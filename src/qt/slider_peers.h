@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QScrollBar>
 #include <QSlider>
 #include <QSpinBox>
 
@@ -27,7 +28,20 @@ class SliderPeer : public ControlPeer {
     QSlider* widget_;
 };
 
-// A pair of arrows.
+// A scroll bar in the shape of a pair of arrows.
+class ArrowsPeer : public ControlPeer {
+  public:
+    ArrowsPeer(ScrollBar& bar, QWidget* parent, const PeerContext& context);
+
+  protected:
+    void WriteOwn(Aspects changed) override;
+
+  private:
+    ScrollBar& bar_;
+    QSpinBox* widget_;
+};
+
+// A scroll bar with a thumb.
 class ScrollBarPeer : public ControlPeer {
   public:
     ScrollBarPeer(ScrollBar& bar, QWidget* parent, const PeerContext& context);
@@ -37,7 +51,7 @@ class ScrollBarPeer : public ControlPeer {
 
   private:
     ScrollBar& bar_;
-    QSpinBox* widget_;
+    QScrollBar* widget_;
 };
 
 }  // namespace morpho

@@ -51,6 +51,25 @@ const Kind kKinds[] = {
      {"lstNames_ItemCheck 4"},
      [](Gallery& g) { g.lstNames.SetSelected(4, true); },
      [](Gallery& g) { g.lstNames.SetSelectedQuietly(4, true); }},
+    {[](Gallery& g) -> Control& { return g.optReport; },
+     [](Gallery& g) { return g.optReport.UserClick(); },
+     {"optReport_Click"},
+     [](Gallery& g) { g.optReport.SetValue(true); },
+     [](Gallery& g) { g.optReport.SetValueQuietly(true); }},
+    {[](Gallery& g) -> Control& { return g.tvFolders; },
+     [](Gallery& g) { return g.tvFolders.UserClick(*g.root); },
+     {"tvFolders_NodeClick web"},
+     [](Gallery& g) { g.tvFolders.SelectNode(g.root); },
+     [](Gallery& g) { g.tvFolders.SelectNodeQuietly(g.root); }},
+    {[](Gallery& g) -> Control& { return g.lvFiles; },
+     [](Gallery& g) { return g.lvFiles.UserClick(1); },
+     {"lvFiles_ItemClick 1"},
+     [](Gallery& g) { g.lvFiles.SelectRow(1); },
+     [](Gallery& g) { g.lvFiles.SelectRowQuietly(1); }},
+    {[](Gallery& g) -> Control& { return g.hsPan; },
+     [](Gallery& g) { return g.hsPan.UserSet(30); },
+     {"hsPan_Change"},
+     [](Gallery& g) { g.hsPan.SetValue(30); }},
     {[](Gallery& g) -> Control& { return g.cmdApply; },
      [](Gallery& g) { return g.cmdApply.UserClick(); },
      {"cmdApply_Click"}},
@@ -165,6 +184,76 @@ TEST_F(Controls, AListKnowsItsEntries) {
     form_.lstNames.AddItem("again");
     EXPECT_FALSE(form_.lstNames.Selected(0));
     EXPECT_EQ(form_.lstNames.TopIndex(), 0);
+}
+
+TEST_F(Controls, AGroupHasAtMostOneChoice) {
+    EXPECT_TRUE(form_.optList.UserClick() && form_.optReport.UserClick());
+    EXPECT_TRUE(form_.optReport.Value() && !form_.optList.Value());
+    EXPECT_TRUE(form_.optReport.UserClick());
+    form_.optReport.SetValue(false);
+    EXPECT_THAT(form_.events, ElementsAre("optList_Click", "optReport_Click"));
+}
+
+TEST_F(Controls, ATreeSortsItsNodesAndKeepsTheSelectedOneInSight) {
+    std::string children;
+    for (const TreeNode* const child : form_.root->Children())
+        children += child->Text() + " ";
+    EXPECT_EQ(children, "_private Docs images ");
+    form_.tvFolders.SelectNode(form_.root->Children()[1]);
+    EXPECT_EQ(form_.root->ShownImage(), "OpenFolder");
+    EXPECT_TRUE(form_.tvFolders.UserExpand(*form_.root, false));
+    EXPECT_EQ(form_.tvFolders.SelectedNode(), form_.root);
+    EXPECT_TRUE(form_.tvFolders.UserClick(*form_.root)) << "once more, which is told again";
+    form_.tvFolders.Clear();
+    EXPECT_EQ(form_.tvFolders.SelectedNode(), nullptr);
+    EXPECT_THAT(form_.events, ElementsAre("tvFolders_NodeClick Docs", "tvFolders_NodeClick web",
+                                          "tvFolders_NodeClick web"));
+}
+
+TEST_F(Controls, AListViewFindsItsRowsAndForgetsTheSelectionWithThem) {
+    EXPECT_EQ(form_.lvFiles.FindRow("B.JPG"), 1);
+    EXPECT_EQ(form_.lvFiles.FindRow("b"), kNoEntry);
+    EXPECT_FALSE(form_.lvFiles.UserClick(2));
+    EXPECT_THROW(form_.lvFiles.SelectRow(2), std::out_of_range);
+    form_.lvFiles.SelectRow(1);
+    form_.lvFiles.Clear();
+    EXPECT_EQ(form_.lvFiles.SelectedRow(), kNoEntry);
+}
+
+TEST_F(Controls, ANarrowerRangeMovesTheValueInside) {
+    form_.hsPan.SetValue(400);
+    form_.hsPan.SetLimits({0, 100});
+    form_.hsPan.SetLimits({0, -50});
+    EXPECT_EQ(form_.hsPan.Value(), 0);
+    EXPECT_THAT(form_.events, ElementsAre("hsPan_Change", "hsPan_Change", "hsPan_Change"));
+}
+
+TEST_F(Controls, APictureTellsItsSizeUnlessItCannotBeShown) {
+    const std::string jpeg("\xFF\xD8\xFF\xFF\xE0\0\4__\xFF\xC4\0\3_\xFF\xC2\0\x0B\x08\0\2\1\0", 24);
+    const std::string bmp = "BM" + std::string(12, '_');
+    const struct {
+        std::string header;
+        Size pixels;
+    } pictures[] = {{{"GIF89a\x58\2\x20\0", 10}, {600, 32}},
+                    {{"GIF89a\x20\x4E\x20\x4E", 10}, {}},  // 20000 x 20000
+                    {jpeg, {256, 2}},
+                    {jpeg.substr(0, 19), {}},
+                    {{"\x89PNG\r\n\x1A\n____IHDR\0\0\1\0\0\0\0\7", 24}, {256, 7}},
+                    {bmp + std::string("\x28\0\0\0\3\0\0\0\xFE\xFF\xFF\xFF", 12), {3, 2}},
+                    {bmp + std::string("\x0C\0\0\0\3\0\4\0", 8), {3, 4}},
+                    {"<html>", {}}};
+    for (const auto& [header, pixels] : pictures) {
+        form_.picPanned.SetPicture(header);
+        EXPECT_EQ(form_.picPanned.NaturalSize(), (Size{pixels.width * 15, pixels.height * 15}))
+            << testing::PrintToString(header);
+    }
+}
+
+TEST_F(Controls, AFilterNamesTypesAndTheirPatternsInPairs) {
+    const auto types = ReadFilter("Image files|*.gif; *.jpg||*.b|C|;|All Files|*.*|D");
+    ASSERT_EQ(types.size(), 2u) << "a pair without one of its parts is left out";
+    EXPECT_THAT(types[0].patterns, ElementsAre("*.gif", "*.jpg"));
+    EXPECT_EQ(types[1].description, "All Files");
 }
 
 TEST_F(Controls, ATimerTicksOnlyWhenEnabled) {

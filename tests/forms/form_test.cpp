@@ -105,6 +105,11 @@ TEST_F(FormTest, WithoutAScriptTheHeadlessToolkitChangesLeastAndRemembers) {
     expectAnswer(kYesNo, Answer::kYes, 2);
     EXPECT_EQ(toolkit_.Messages().size(), 4u);
 
+    toolkit_.WillChoose("Z:\\a.gif");
+    EXPECT_EQ(toolkit_.ShowFileDialog(&form_, {}), "Z:\\a.gif");
+    EXPECT_EQ(toolkit_.ShowFileDialog(&form_, {.title = "Open"}), std::nullopt);
+    EXPECT_EQ(toolkit_.Unscripted().back(), "No answer to the file dialog Open");
+
     form_.ShowModal();
     EXPECT_EQ(toolkit_.Unscripted().back(), "Nobody plays the form frmGallery");
     toolkit_.WillPlay("frmGallery", [](Form&) {});

@@ -6,8 +6,11 @@
 #include <vector>
 
 #include "forms/form.h"
+#include "forms/list_view.h"
 #include "forms/lists.h"
+#include "forms/option_button.h"
 #include "forms/text_box.h"
+#include "forms/tree_view.h"
 
 namespace morpho::test {
 
@@ -24,9 +27,17 @@ class Gallery : public Form {
             lstNames.AddItem("active/image-" + std::to_string(i));
         txtGuide.SetTextQuietly("Step 1: pick <b>elements</b>.\r\n\r\nStep 2: move the sliders.");
         cmdOff.SetEnabled(false);
+        root = &tvFolders.AddNode(nullptr, {"web", "ClosedFolder", "OpenFolder", true});
+        for (const char* const folder : {"images", "_private", "Docs"})
+            tvFolders.AddNode(root, {folder, "ClosedFolder", "OpenFolder"});
+        for (const auto& [name, type] : {std::pair("a.gif", "GIF"), std::pair("b.jpg", "JPG")})
+            lvFiles.AddRow({name, "Image", {type}});
+        hsPan.SetLimits({0, 400, 15, 150});
+        vsPan.SetLimits({0, 400, 15, 150});
     }
 
     static constexpr Size kMinimum{11820, 6000};
+    TreeNode* root;
 
     // What was raised, in order, and what is done in answer to each event.
     std::vector<std::string> events;
@@ -47,6 +58,29 @@ class Gallery : public Form {
         fraPick, {"chkApply", {120, 4950, 2535, 255}, "Appl&y to web"}, On("chkApply_Click")};
 
     Frame fraPreview{*this, {"fraPreview", {2910, 60, 8790, 3420}, "Preview:"}};
+    Label lblView{fraPreview, {"lblView", {120, 300, 500, 210}, "View:"}};
+    OptionButton optList{
+        fraPreview, {"optList", {700, 270, 1000, 255}, "As &list"}, On("optList_Click")};
+    OptionButton optReport{
+        fraPreview, {"optReport", {1800, 270, 1200, 255}, "As &report"}, On("optReport_Click")};
+    TreeView tvFolders{fraPreview,
+                       {"tvFolders", {120, 600, 2000, 2700}, {}, {}, "Folders"},
+                       [this](TreeNode& node) { On("tvFolders_NodeClick " + node.Text())(); }};
+    ListView lvFiles{fraPreview,
+                     {"lvFiles", {2200, 600, 2700, 2700}, {}, {}, "Files"},
+                     {{"Name", 1800}, {"Type", 600}},
+                     [this](int row) { On("lvFiles_ItemClick " + std::to_string(row))(); }};
+    Frame fraView{fraPreview, {"fraView", {5000, 300, 3300, 2700}}};
+    PictureBox picPanned{fraView, {"picPanned", {0, 0, 6000, 6000}}};
+    ScrollBar hsPan{fraPreview,
+                    {"hsPan", {5000, 3030, 3300, 255}, {}, {}, "Pan sideways"},
+                    ScrollBar::Shape::kHorizontal,
+                    On("hsPan_Change")};
+    ScrollBar vsPan{fraPreview,
+                    {"vsPan", {8330, 300, 255, 2700}, {}, {}, "Pan up and down"},
+                    ScrollBar::Shape::kVertical,
+                    On("vsPan_Change")};
+
     Frame fraProcess{*this, {"fraProcess", {2910, 3540, 8790, 1440}, "Colours"}};
     Label lblHue{fraProcess, {"lblHue", {120, 300, 960, 210}, "&Hue:"}};
     Slider sldHue{fraProcess,

@@ -1,3 +1,4 @@
+#include <QBuffer>
 #include <QClipboard>
 #include <QInputMethodEvent>
 #include <QLineEdit>
@@ -5,8 +6,10 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSlider>
+#include <QTreeWidget>
 
 #include "qt/on_screen.h"
+#include "qt/qt_text.h"
 
 namespace morpho::test {
 namespace {
@@ -155,6 +158,60 @@ TEST_F(ControlsOnScreen, OnlyAClickOnTheBoxOrADoubleClickTicks) {
         form_.events.pop_back();
         QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, text);
         expectTicked("double click on the text", false, 2);
+    });
+}
+
+TEST_F(ControlsOnScreen, RowsAreClickedAgainNodesOpenedAndClosed) {
+    Show([&](QWidget& window) {
+        auto& tree = Find<QTreeWidget>(window, form_.tvFolders);
+        auto& list = Find<QTreeWidget>(window, form_.lvFiles);
+        const auto click = [](QTreeWidget& rows, int x, int y) {
+            QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, QPoint(x, y));
+        };
+        const int below = 150;  // pixels
+        click(list, 30, 5);
+        click(list, 30, 5);
+        EXPECT_EQ(form_.events, (Events{"lvFiles_ItemClick 0", "lvFiles_ItemClick 0"}));
+        click(list, 30, below);
+        EXPECT_EQ(form_.lvFiles.SelectedRow(), kNoEntry);
+
+        tree.topLevelItem(0)->setExpanded(true);
+        EXPECT_TRUE(form_.root->IsExpanded());
+        form_.RunHandler("busy", [&] { tree.topLevelItem(0)->setExpanded(false); });
+        EXPECT_TRUE(tree.topLevelItem(0)->isExpanded()) << "refused";
+        form_.tvFolders.AddNode(form_.root, {"Archive"});
+        EXPECT_EQ(tree.topLevelItem(0)->child(1)->text(0), "Archive") << "among its siblings";
+        form_.tvFolders.SelectNode(form_.root->Children()[1]);
+        click(tree, 60, below);
+        EXPECT_EQ(form_.tvFolders.SelectedNode(), form_.root->Children()[1]);
+        tree.topLevelItem(0)->setExpanded(false);
+        EXPECT_EQ(tree.currentItem(), tree.topLevelItem(0)) << "the selected node is in sight";
+        form_.tvFolders.Clear();
+        TreeNode& other = form_.tvFolders.AddNode(nullptr, {"other"});
+        form_.tvFolders.SetExpanded(other, true);
+        form_.tvFolders.AddNode(&other, {"child"});
+        EXPECT_FALSE(tree.visualItemRect(tree.topLevelItem(0)->child(0)).isEmpty());
+        EXPECT_EQ(form_.events.size(), 4u) << "two rows, two nodes";
+    });
+}
+
+TEST_F(ControlsOnScreen, ADamagedPictureHasNoSizeAndAMovedOneIsCutOffByItsFrame) {
+    Show([&](QWidget&) {
+        QByteArray encoded;
+        QBuffer buffer(&encoded);
+        QImage red(300, 300, QImage::Format_RGB32);
+        red.fill(Qt::red);
+        red.save(&buffer, "PNG");
+        form_.picPanned.SetPlace({-1500, -1500, 4500, 4500});
+        form_.picPanned.SetPicture(encoded.toStdString());
+        EXPECT_EQ(form_.picPanned.NaturalSize(), (Size{4500, 4500}));
+        const QPoint corner = ToPixels(form_.fraPreview.Place()).topLeft() +
+                              ToPixels(form_.fraView.Place()).topLeft();
+        const QImage picture = toolkit_.PictureOf(form_);
+        EXPECT_EQ(picture.pixelColor(corner + QPoint(2, 2)), Qt::red);
+        EXPECT_NE(picture.pixelColor(corner - QPoint(2, -2)), Qt::red);
+        form_.picPanned.SetPicture(encoded.left(60).toStdString());
+        EXPECT_EQ(form_.picPanned.NaturalSize(), Size{});
     });
 }
 

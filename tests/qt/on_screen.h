@@ -39,7 +39,9 @@ class OnScreen : public testing::Test {
     static void Pause() { QTest::qWait(120); }
 
     FakeFileSystem files_;
-    QtToolkit toolkit_{files_, {}};
+    // Dialogs call the files by the paths of the disk.
+    static std::string SamePath(std::string_view path) { return std::string(path); }
+    QtToolkit toolkit_{files_, {}, {SamePath, SamePath}};
 
   private:
     void SetUp() override {

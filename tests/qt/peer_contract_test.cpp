@@ -1,5 +1,6 @@
 #include <QListWidget>
 #include <QMetaProperty>
+#include <QTreeWidget>
 
 #include "forms/headless_toolkit.h"
 #include "qt/on_screen.h"
@@ -29,9 +30,15 @@ void Assign(Gallery& gallery) {
     gallery.cmbTheme.SetListIndex(1);
     gallery.lstPlain.SetListIndex(0);
     gallery.lstNames.SetSelectedQuietly(0, true);
+    gallery.optList.SetValueQuietly(true);
+    gallery.tvFolders.SelectNodeQuietly(gallery.root);
+    gallery.lvFiles.SelectRowQuietly(0);
+    gallery.hsPan.SetValue(30);
+    gallery.vsPan.SetValue(30);
 }
 
-const std::string kText = "txtQuality_Change", kScroll = "sldHue_Scroll", kChange = "sldHue_Change";
+const std::string kText = "txtQuality_Change", kScroll = "sldHue_Scroll", kChange = "sldHue_Change",
+                  kNode = "tvFolders_NodeClick ";
 
 const Kind kKinds[] = {
     {"chkApply", "false", "true", {Qt::Key_Space}, "false", {"chkApply_Click"}},
@@ -43,6 +50,16 @@ const Kind kKinds[] = {
     {"cmbTheme", "", "Tom & Jerry", {Qt::Key_Down}, "Ärger", {"cmbTheme_Click"}},
     {"lstPlain", "", "one", {Qt::Key_Down}, "two", {"lstPlain_Click"}},
     {"lstNames", "", "active/image-0", {Qt::Key_Home, Qt::Key_Space}, "", {"lstNames_ItemCheck 0"}},
+    {"optList", "false", "true", {Qt::Key_Right}, "false", {"optReport_Click"}},
+    {"tvFolders", "", "web", {Qt::Key_Right, Qt::Key_Down}, "_private", {kNode + "_private"}},
+    {"lvFiles", "", "a.gif", {Qt::Key_Down}, "b.jpg", {"lvFiles_ItemClick 1"}},
+    {"hsPan",
+     "0",
+     "30",
+     {Qt::Key_Right, Qt::Key_PageDown},
+     "195",
+     {"hsPan_Change", "hsPan_Change"}},
+    {"vsPan", "0", "30", {Qt::Key_Down, Qt::Key_PageDown}, "195", {"vsPan_Change", "vsPan_Change"}},
 };
 
 class PeerContract : public GalleryOnScreen, public testing::WithParamInterface<Kind> {
@@ -51,6 +68,7 @@ class PeerContract : public GalleryOnScreen, public testing::WithParamInterface<
         return *window.findChild<QWidget*>(GetParam().widget);
     }
     void Type(QWidget& window) {
+        Widget(window).setFocus();
         for (const Qt::Key key : GetParam().keys)
             QTest::keyClick(&Widget(window), key);
         Pause();
@@ -63,9 +81,12 @@ class PeerContract : public GalleryOnScreen, public testing::WithParamInterface<
             form_.answer = PutBack();
         };
     }
-    // The widget's value; of a list the current entry or, where it has boxes, the ticked ones.
+    // The widget's value; of a list the current entry or, where it has boxes, the ticked ones; of a
+    // tree or list view the selected one.
     static QString Shown(QWidget& window) {
         QWidget& widget = Widget(window);
+        if (const auto* const tree = qobject_cast<const QTreeWidget*>(&widget))
+            return tree->selectedItems().isEmpty() ? "" : tree->selectedItems()[0]->text(0);
         const auto* const list = qobject_cast<const QListWidget*>(&widget);
         if (list == nullptr) return widget.metaObject()->userProperty().read(&widget).toString();
         QString entries;
@@ -120,6 +141,7 @@ TEST_P(PeerContract, ShowsTheModelWhereItRefuses) {
         form_.events.clear();
         form_.fraPick.SetEnabled(false);
         form_.fraProcess.SetEnabled(false);
+        form_.fraPreview.SetEnabled(false);
         Widget(window).parentWidget()->setEnabled(true);  // only the widget is still within reach
         Type(window);
         EXPECT_EQ(Shown(window), kind_.assigned);

@@ -1,7 +1,11 @@
 #include <QAbstractButton>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSlider>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include "qt/on_screen.h"
@@ -46,15 +50,16 @@ TEST_F(WindowTest, AccessKeysOfLabelsLeadToTheNextControl) {
 }
 
 TEST_F(WindowTest, TabGoesInOrderOfDeclarationAndSkipsWhatIsOutOfReach) {
+    form_.optReport.SetValueQuietly(true);
     Show([&](QWidget& window) {
         Events order{Focus(window)};
-        for (int i = 0; i < 10; ++i) {
+        for (int i = 0; i < 15; ++i) {
             QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
             order.push_back(Focus(window));
         }
-        EXPECT_EQ(order,
-                  (Events{"cmbTheme", "lstNames", "lstPlain", "chkApply", "sldHue", "txtQuality",
-                          "vsQuality", "txtGuide", "lblLink", "cmdApply", "cmdUndo"}));
+        EXPECT_EQ(order, (Events{"cmbTheme", "lstNames", "lstPlain", "chkApply", "optReport",
+                                 "tvFolders", "lvFiles", "hsPan", "vsPan", "sldHue", "txtQuality",
+                                 "vsQuality", "txtGuide", "lblLink", "cmdApply", "cmdUndo"}));
     });
 }
 
@@ -186,7 +191,48 @@ TEST_F(WindowTest, TheMessageBoxAnswersByKey) {
         expectAnswer(kYesNo, Qt::Key_Escape, Answer::kNo);
         expectAnswer(kYesNoCancel, Qt::Key_Return, Answer::kYes);
         expectAnswer(kYesNoCancel, Qt::Key_Escape, Answer::kCancel);
+        expectAnswer(kYesNo | kSecondButtonDefault, Qt::Key_Return, Answer::kNo);
     });
+}
+
+TEST_F(WindowTest, TheFileDialogAsksBeforeItReplacesAndFindsWhatMustExist) {
+    const QTemporaryDir folder;
+    const std::string path = folder.path().toStdString();
+    for (const char* const name : {"/there.GIF", "/other.txt"})
+        EXPECT_TRUE(QFile(folder.path() + name).open(QFile::WriteOnly));
+    const auto saving = FileDialog::Mode::kSave, opening = FileDialog::Mode::kOpen;
+    const struct {
+        FileDialog::Mode mode;
+        int flags;
+        const char *name, *chosen;  // what is typed and what that brings
+        bool asks;                  // whether a message box opens, which Escape answers
+    } cases[] = {{opening, kFileMustExist | kHideReadOnly, "there.GIF", "/there.GIF", false},
+                 {opening, kFileMustExist | kHideReadOnly, "gone.gif", nullptr, false},
+                 {saving, kOverwritePrompt | kHideReadOnly, "new.gif", "/new.gif", false},
+                 {saving, kOverwritePrompt | kHideReadOnly, "there.GIF", nullptr, true},
+                 {saving, kHideReadOnly, "there.GIF", "/there.GIF", false}};
+    for (const auto& [mode, flags, name, chosen, asks] : cases) {
+        SCOPED_TRACE(name);
+        bool asked = false;
+        QTimer::singleShot(0, [&, typed = name] {
+            auto* const box = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            QTimer::singleShot(0, box, [&asked, box] {
+                asked = QApplication::activeModalWidget() != box;
+                QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+            });
+            box->findChild<QLineEdit*>()->setText(typed);
+            box->findChild<QDialogButtonBox*>()->buttons().front()->click();
+            if (box->isVisible()) box->reject();
+        });
+        const FileDialog request{mode, "Pick", "Image files|*.gif|All Files|*.*||",
+                                 path, {},     flags};
+        const auto picked = toolkit_.ShowFileDialog(nullptr, request);
+        EXPECT_EQ(picked.value_or(""), chosen == nullptr ? "" : path + chosen);
+        EXPECT_EQ(asked, asks);
+    }
+    EXPECT_EQ(NameFiltersOf("Image files|*.gif;*.j2k|All Files|*.*||"),
+              QStringList({"Image files (*.[gG][iI][fF] *.[jJ]2[kK])", "All Files (*)"}));
 }
 
 TEST_F(WindowTest, TheMouseIsGivenBackToWhatHeldIt) {
