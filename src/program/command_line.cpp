@@ -7,7 +7,7 @@
 
 #include "text/ignoring_case.h"
 #include "text/parsed_number.h"
-#include "theme_editor/adjustment_sliders.h"
+#include "editing/adjustment_sliders.h"
 #include "theme_editor/catalogue.h"
 
 namespace morpho {

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "editing/element_adjustment.h"
 #include "theme_editor/catalogue.h"
-#include "theme_editor/element_adjustment.h"
 
 namespace morpho {
 

@@ -1,15 +1,11 @@
 #include "theme_editor/frm_theme_morpho.h"
 
-#include "about/frm_about.h"
 #include "frontpage/mod_fpole.h"
-#include "platform/environment.h"
 #include "platform/file_system.h"
 #include "platform/platform.h"
 #include "platform/resources.h"
-#include "platform/shell.h"
 #include "resources/resource_ids.h"
 #include "shared/mod_shared_code.h"
-#include "shared/settings.h"
 
 namespace morpho {
 
@@ -20,8 +16,10 @@ constexpr Size kDesignSize{14400, 9900};
 }  // namespace
 
 frmThemeMorpho::frmThemeMorpho(const Program& program)
-    : LoggedForm(program, {"frmThemeMorpho", kThemeProduct, kDesignSize, BorderStyle::kSizable,
-                           kMinimumSize, StartPosition::kCenterScreen}),
+    : EditorWindow(program,
+                   {"frmThemeMorpho", kThemeProduct, kDesignSize, BorderStyle::kSizable,
+                    kMinimumSize, StartPosition::kCenterScreen},
+                   {kThemeProduct, "TM", Editor::kTheme}),
       band_(program, imgBand, picBand),
       renderer_(program, elements_, history_),
       preview_(program, *this, elements_, wbbImagePreview),
@@ -122,7 +120,7 @@ bool frmThemeMorpho::MayLeaveTheme(bool closing) {
     if (!closing) WriteLog("Earlier theme modified: " + name);
     const std::string prompt =
         FormatText(ThePlatform().resources.String(kUnsavedThemePrompt), {label});
-    const Answer answer = MsgBox(prompt, kYesNoCancel | kQuestionIcon, kThemeProduct);
+    const Answer answer = Ask(prompt, kYesNoCancel);
     if (answer != Answer::kYes) return answer == Answer::kNo;
     if (!closing) WriteLog("Saving modified theme...");
     return SaveLoadedTheme(closing);
@@ -170,18 +168,8 @@ void frmThemeMorpho::btnAbout_Click() {
     ShowAboutBox();
 }
 
-void frmThemeMorpho::ShowAboutBox() {
-    frmAbout about(TheProgram());
-    about.ShowAbout(Editor::kTheme, TheComponent().logMode);
-    SaveSettingText("Logging", std::to_string(TheComponent().logMode));
-}
-
 void frmThemeMorpho::btnHelp_Click() {
-    constexpr int kHighestFailure = 31;
-    const std::string help = ThePlatform().environment.ModuleFolder() + "\\morpho.hlp";
-    if (ThePlatform().shell.WinExec("Winhlp32.exe " + help, 1) > kHighestFailure) return;
-    WriteLog("Cannot open " + help);
-    MsgBox("The help cannot be opened.", kOkOnly | kCriticalIcon, kThemeProduct);
+    OpenHelp();
 }
 
 void frmThemeMorpho::Form_QueryUnload(bool& cancel, bool /*byUser*/) {
@@ -201,18 +189,6 @@ void frmThemeMorpho::DeleteWorkFolder() {
         // Closing goes on; a later start deletes what is left in the temporary folder.
         return;
     }
-}
-
-std::string frmThemeMorpho::Setting(std::string_view key, std::string_view fallback) const {
-    return GetSetting(ThePlatform(), kThemeProduct, kWindowSection, key, fallback);
-}
-
-int frmThemeMorpho::SettingNumber(std::string_view key, int fallback) const {
-    return GetSettingNumber(ThePlatform(), kThemeProduct, kWindowSection, key, fallback);
-}
-
-void frmThemeMorpho::SaveSettingText(std::string_view key, std::string_view value) {
-    SaveSetting(ThePlatform(), kThemeProduct, kWindowSection, key, value);
 }
 
 }  // namespace morpho

@@ -2,13 +2,13 @@
 
 #include <string>
 
+#include "editing/adjustment_sliders.h"
+#include "editing/colour_band.h"
+#include "editing/editor_window.h"
 #include "forms/controls.h"
 #include "forms/lists.h"
-#include "shared/logged_form.h"
-#include "theme_editor/adjustment_sliders.h"
 #include "theme_editor/busy_switch.h"
 #include "theme_editor/colorization.h"
-#include "theme_editor/colour_band.h"
 #include "theme_editor/element_selection.h"
 #include "theme_editor/product.h"
 #include "theme_editor/theme_loader.h"
@@ -19,7 +19,7 @@ namespace morpho {
 
 // The Theme Morpho window: recolours the graphics of a theme of the open web. The controls stand
 // here in tab order; what they do is done by the classes below them.
-class frmThemeMorpho : public LoggedForm {
+class frmThemeMorpho : public EditorWindow {
   public:
     explicit frmThemeMorpho(const Program& program);
 
@@ -198,10 +198,6 @@ class frmThemeMorpho : public LoggedForm {
 
     // Start-up, in the order in which it runs.
     void StartUp();
-    void ConnectToHost();
-    void WriteBanner();
-    void ShowAboutBox();
-    void RestorePlacement();
     void FindFolders();
     void ListThemes();
     void OpenFirstTheme();
@@ -222,7 +218,6 @@ class frmThemeMorpho : public LoggedForm {
     LoadedTheme Loaded() const;
     // Updates the window after a save; returns whether the theme was saved.
     bool Saved(SaveOutcome outcome);
-    void SavePlacement();
     void DeleteWorkFolder();
     void LayOut();
     void ShowQuickReference();
@@ -247,11 +242,7 @@ class frmThemeMorpho : public LoggedForm {
     void EnableHistoryButtons();
 
     std::string WorkRoot() const { return tempPath_ + "Morpho"; }
-    std::string Setting(std::string_view key, std::string_view fallback) const;
-    int SettingNumber(std::string_view key, int fallback) const;
-    void SaveSettingText(std::string_view key, std::string_view value);
 
-    std::string version_;          // of the host
     std::string tempPath_;         // with a trailing "\"
     std::string fpThemeTempPath_;  // where the host unpacks themes, with a trailing "\"
     int currentThemeIndex_ = kNoEntry;

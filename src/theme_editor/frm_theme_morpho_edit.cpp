@@ -1,8 +1,8 @@
 // How the Theme Morpho window selects elements and recolours them.
 
+#include "editing/hourglass_pointer.h"
 #include "theme_editor/frm_prompt_duplicate.h"
 #include "theme_editor/frm_theme_morpho.h"
-#include "theme_editor/hourglass_pointer.h"
 
 namespace morpho {
 

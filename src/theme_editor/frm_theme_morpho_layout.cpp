@@ -2,14 +2,9 @@
 
 #include "theme_editor/frm_theme_morpho.h"
 
-#include <algorithm>
-
 namespace morpho {
 
 namespace {
-
-constexpr std::string_view kScreenTooSmall =
-    "Minimum window size is more than the screen size.\r\nWindow cannot be maximized.";
 
 // Sets one measure of a control unless it would vanish; says whether it did.
 bool Place(int value, Control& control, void (Control::*set)(int)) {
@@ -22,16 +17,7 @@ bool Place(int value, Control& control, void (Control::*set)(int)) {
 
 void frmThemeMorpho::Form_Resize() {
     if (State() == WindowState::kMinimized) return;
-    Rectangle bounds = Bounds();
-    const bool tooSmall = bounds.width < kMinimumSize.width || bounds.height < kMinimumSize.height;
-    if (tooSmall && State() == WindowState::kMaximized) {
-        MsgBox(kScreenTooSmall, kOkOnly | kCriticalIcon, kThemeProduct);
-        SetState(WindowState::kNormal);
-        bounds = Bounds();
-    }
-    bounds.width = std::max(bounds.width, kMinimumSize.width);
-    bounds.height = std::max(bounds.height, kMinimumSize.height);
-    SetBounds(bounds);
+    KeepMinimumSize(kMinimumSize, kMinimumSize);
     LayOut();
 }
 
@@ -63,16 +49,6 @@ void frmThemeMorpho::LayOut() {
         height(framePreview.Place().height - 420, picPreview) &&
         width(picPreview.Place().width, wbbImagePreview) &&
         height(picPreview.Place().height, wbbImagePreview);
-}
-
-void frmThemeMorpho::SavePlacement() {
-    SaveSettingText("State", std::to_string(static_cast<int>(State())));
-    const Rectangle place =
-        State() == WindowState::kNormal ? Bounds() : TheToolkit().NormalPlacement(*this);
-    SaveSettingText("Left", std::to_string(place.left));
-    SaveSettingText("Top", std::to_string(place.top));
-    SaveSettingText("Width", std::to_string(place.width));
-    SaveSettingText("Height", std::to_string(place.height));
 }
 
 }  // namespace morpho

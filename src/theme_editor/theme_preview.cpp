@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "editing/hourglass_pointer.h"
 #include "formats/web_text.h"
 #include "platform/code_page.h"
 #include "platform/file_system.h"
@@ -10,7 +11,6 @@
 #include "resources/resource_ids.h"
 #include "shared/log.h"
 #include "text/ignoring_case.h"
-#include "theme_editor/hourglass_pointer.h"
 
 namespace morpho {
 

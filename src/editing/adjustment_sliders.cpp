@@ -1,4 +1,4 @@
-#include "theme_editor/adjustment_sliders.h"
+#include "editing/adjustment_sliders.h"
 
 #include <string>
 

@@ -1,5 +1,6 @@
-#include "theme_editor/colour_band.h"
+#include "editing/colour_band.h"
 
+#include "editing/hourglass_pointer.h"
 #include "forms/form.h"
 #include "platform/file_system.h"
 #include "platform/platform.h"
@@ -7,7 +8,6 @@
 #include "platform/run_time_error.h"
 #include "resources/resource_ids.h"
 #include "shared/log.h"
-#include "theme_editor/hourglass_pointer.h"
 
 namespace morpho {
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "editing/element_adjustment.h"
 #include "forms/controls.h"
-#include "theme_editor/element_adjustment.h"
 
 namespace morpho {
 

@@ -3,10 +3,10 @@
 #include <memory>
 #include <string>
 
+#include "editing/element_adjustment.h"
 #include "forms/controls.h"
 #include "platform/colorizer.h"
 #include "shared/component.h"
-#include "theme_editor/element_adjustment.h"
 
 namespace morpho {
 
