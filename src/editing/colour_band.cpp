@@ -32,6 +32,17 @@ void ColourBand::Open(Form& form, const std::string& tempPath) {
     bandColorizer_->SetAuxParameter2(0.0);
 }
 
+void ColourBand::Close() {
+    FileSystem& files = program_.platform.files;
+    for (const std::string* file : {&colorBandFile_, &processedColorBandFile_}) {
+        try {
+            if (!file->empty() && files.Find(*file)) files.Delete(*file);
+        } catch (const RunTimeError&) {
+            // The next start writes them anew.
+        }
+    }
+}
+
 void ColourBand::UpdateColourBand(const ElementAdjustment& adjustment) {
     if (!bandColorizer_) return;
     try {

@@ -19,6 +19,8 @@ class ColourBand {
     // Writes the band picture into the temporary folder (with a trailing "\"), shows it and makes
     // the colorizer for it.
     void Open(Form& form, const std::string& tempPath);
+    // Deletes the files; one that cannot be deleted is left.
+    void Close();
     // Recolours the band and shows it. Before Open, or when recolouring fails, the strip stays as
     // it is.
     void UpdateColourBand(const ElementAdjustment& adjustment);

@@ -5,9 +5,9 @@
 #include <map>
 #include <sstream>
 
+#include "editing/adjustment_sliders.h"
 #include "text/ignoring_case.h"
 #include "text/parsed_number.h"
-#include "editing/adjustment_sliders.h"
 #include "theme_editor/catalogue.h"
 
 namespace morpho {

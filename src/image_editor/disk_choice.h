@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "forms/form.h"
+
+namespace morpho {
+
+// The name with "." and `extension` appended when it has no "."; unchanged without an extension.
+std::string WithExtension(std::string name, std::string_view extension);
+
+// Asks whether to replace the file of that name; true: yes.
+bool MayReplace(Form& owner, std::string_view name, std::string_view title);
+
+struct DiskChoice {
+    FileDialog::Mode mode = FileDialog::Mode::kOpen;
+    std::string filter = {};
+    std::string name = {};    // proposed
+    std::string folder = {};  // shown first; empty: the toolkit's choice
+};
+
+// Shows the common file dialog. Nothing when the person cancelled.
+std::optional<std::string> ChooseDiskFile(Form& owner, Toolkit& toolkit, const DiskChoice& choice);
+
+}  // namespace morpho
