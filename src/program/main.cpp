@@ -7,7 +7,9 @@
 #include "platform/run_time_error.h"
 #include "program/apply_command.h"
 #include "program/command_line.h"
+#include "program/image_command.h"
 #include "program/list_command.h"
+#include "program/pictures_command.h"
 #include "program/recolor_command.h"
 #include "program/web_command.h"
 #include "program/window_command.h"
@@ -24,6 +26,10 @@ struct Runner {
     void operator()(const TextRequest& request) const { std::cout << request.text; }
     void operator()(const WebRequest& request) const { ShowWebWindow(request); }
     void operator()(const ThemeRequest& request) const { ShowThemeWindow(request); }
+    void operator()(const ImageRequest& request) const { ShowImageWindow(request); }
+    void operator()(const PicturesRequest& request) const {
+        RecolorPictures(request, std::cout, warnings);
+    }
     void operator()(const ListRequest& request) const { std::cout << List(request, warnings); }
     void operator()(const ApplyRequest& request) const { Apply(request, warnings); }
     void operator()(const RecolorRequest& request) const {

@@ -67,6 +67,31 @@ struct RecolorRequest {
     bool dryRun = false;  // only tell what would be written
 };
 
+// What is done to a picture: values of the sliders, and the JPEG quality.
+struct PictureChange {
+    int brightness = 100;
+    int saturation = 100;
+    int hue = 0;
+    std::optional<int> quality = {};
+};
+
+// Recolours single pictures. One of output, outputFolder and inPlace says where they go.
+struct PicturesRequest {
+    std::vector<std::filesystem::path> pictures;
+    PictureChange change;
+    std::filesystem::path output;        // for one picture
+    std::filesystem::path outputFolder;  // where each keeps its name
+    bool inPlace = false;
+    bool force = false;  // an existing file is replaced
+    bool json = false;
+};
+
+struct ImageRequest {
+    std::filesystem::path path;  // a web or a picture; empty: the window opens without
+    std::string page;            // of the web; empty: none is active
+    int selected = 0;            // the picture of the page, counted from 1; 0: none
+};
+
 struct ApplyRequest {
     std::filesystem::path web;
     std::string theme;       // of the web, or the user's own
@@ -79,8 +104,8 @@ struct TextRequest {
     std::string text;
 };
 
-using Request =
-    std::variant<TextRequest, WebRequest, ThemeRequest, ListRequest, RecolorRequest, ApplyRequest>;
+using Request = std::variant<TextRequest, WebRequest, ThemeRequest, ListRequest, RecolorRequest,
+                             PicturesRequest, ImageRequest, ApplyRequest>;
 
 // A command line that cannot be understood (status 2), or a request that cannot be carried out
 // (status 1). The text is one sentence, UTF-8.

@@ -5,7 +5,7 @@
 
 #include "addin/add_in_im.h"
 #include "addin/add_in_tm.h"
-#include "forms/controls.h"
+#include "image_editor/frm_image_morpho.h"
 #include "linux/disk_path.h"
 #include "program/desktop_platform.h"
 #include "program/qt_program.h"
@@ -15,7 +15,6 @@
 #include "resources/embedded_resources.h"
 #include "resources/resource_ids.h"
 #include "shared/log.h"
-#include "shared/logged_form.h"
 #include "text/ignoring_case.h"
 #include "web_window/host_window.h"
 #include "web_window/recent_webs.h"
@@ -24,28 +23,12 @@ namespace morpho {
 
 namespace {
 
-// Stands in the image editor's place until there is one.
-class ImageEditorNotice : public LoggedForm {
-  public:
-    explicit ImageEditorNotice(const Program& program)
-        : LoggedForm(
-              program,
-              {.name = "ImageEditorNotice", .caption = "Image Morpho", .inner = {4800, 1400}}) {}
-
-    Label lblMessage{
-        *this, {"lblMessage", {240, 240, 4200, 480}, "Image Morpho is not part of this version."}};
-    CommandButton btnOK{*this,
-                        {"btnOK", {1800, 780, 1125, 375}, "OK"},
-                        [this] { Unload(); },
-                        ButtonRole::kDefaultAndCancel};
-};
-
 // The add-ins for as long as the host runs.
 class ConnectedAddIns {
   public:
     ConnectedAddIns(const Program& program, const std::shared_ptr<Application>& host)
         : theme_(program),
-          image_(program, [&program] { return std::make_unique<ImageEditorNotice>(program); }) {
+          image_(program, [&program] { return std::make_unique<frmImageMorpho>(program); }) {
         theme_.OnConnection(host);
         image_.OnConnection(host);
     }

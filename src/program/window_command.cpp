@@ -3,14 +3,7 @@
 #include <algorithm>
 
 #include "forms/form.h"
-#include "linux/disk_path.h"
-#include "program/desktop_platform.h"
-#include "program/qt_program.h"
-#include "qt/qt_clipboard.h"
-#include "qt/qt_toolkit.h"
-#include "resources/embedded_resources.h"
-#include "resources/resource_ids.h"
-#include "shared/log.h"
+#include "program/qt_desktop.h"
 #include "text/ignoring_case.h"
 #include "theme_editor/frm_theme_morpho.h"
 #include "theme_editor/product.h"
@@ -54,24 +47,15 @@ void TellReports(Toolkit& toolkit, const std::vector<std::string>& reports) {
 }  // namespace
 
 void ShowThemeWindow(const ThemeRequest& request) {
-    const QtProgram qt;
-    const DiskFileSystem pages;
-    const EmbeddedResources resources;
-    QtToolkit toolkit(pages, resources.Bytes(kIconResource, kApplicationIcon128),
-                      {FindOnDisk, ToWindowsPath});
-    QtClipboard clipboard;
-    DesktopPlatform desktop(DesktopUse::kWindows, FindUserFolders(EnvironmentVariable), toolkit,
-                            resources, clipboard);
+    QtDesktop here;
+    DesktopPlatform& desktop = here.desktop;
     desktop.OpenForSaving(std::filesystem::absolute(request.web).lexically_normal().string());
     if (!request.theme.empty()) RequireTheme(*desktop.FrontPage().Session(), request.theme);
-    Component component;
-    component.application = desktop.SharedFrontPage();
-    const Program program{desktop.Parts(), component};
-    TellReports(toolkit, desktop.FrontPage().Session()->Repairs());
+    here.component.application = desktop.SharedFrontPage();
+    TellReports(here.toolkit, desktop.FrontPage().Session()->Repairs());
     desktop.FrontPage().SetReporter(
-        [&](const std::vector<std::string>& reports) { TellReports(toolkit, reports); });
-    desktop.FrontPage().SetLog([&](std::string_view line) { WriteLog(program, line); });
-    frmThemeMorpho window(program);
+        [&](const std::vector<std::string>& reports) { TellReports(here.toolkit, reports); });
+    frmThemeMorpho window(here.program);
     if (!request.theme.empty()) SelectTheme(window, request.theme);
     window.ShowModal();
 }

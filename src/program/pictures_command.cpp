@@ -1,0 +1,157 @@
+#include "program/pictures_command.h"
+
+#include <unistd.h>
+
+#include <fstream>
+#include <iostream>
+#include <nlohmann/json.hpp>
+#include <set>
+
+#include "program/batch_image.h"
+#include "program/desktop_platform.h"
+#include "program/theme_report.h"
+#include "resources/embedded_resources.h"
+#include "shared/memory_clipboard.h"
+#include "shared/mod_shared_code.h"
+
+namespace morpho {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+CommandError Refusal(const std::string& sentence) {
+    return {CommandError::Status::kRefused, sentence};
+}
+
+// Counts the pictures on standard error, if a person looks at it.
+class Progress {
+  public:
+    explicit Progress(std::size_t total) : total_(total), shows_(total > 1 && ::isatty(2) == 1) {}
+    ~Progress() {
+        if (shows_) std::cerr << "\r\x1B[K" << std::flush;  // erases the line
+    }
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+
+    void Next() {
+        ++done_;
+        if (shows_) std::cerr << "\rPicture " << done_ << " of " << total_ << std::flush;
+    }
+
+  private:
+    std::size_t total_;
+    std::size_t done_ = 0;
+    bool shows_;
+};
+
+// The surroundings of all windows of one batch; no web is open.
+struct Surroundings {
+    Surroundings() { component.application = desktop.SharedFrontPage(); }
+
+    HeadlessToolkit toolkit;
+    EmbeddedResources resources;
+    MemoryClipboard clipboard;
+    DesktopPlatform desktop{DesktopUse::kBatch, FindUserFolders(EnvironmentVariable), toolkit,
+                            resources, clipboard};
+    Component component;
+    Program program{desktop.Parts(), component};
+};
+
+// The format that the file's first bytes say, as a value of GetImageFileType.
+int FormatOf(const fs::path& picture) {
+    char start[4] = {};
+    std::ifstream(picture, std::ios::binary).read(start, sizeof start);
+    const std::string_view bytes(start, sizeof start);
+    if (bytes.starts_with("GIF8")) return kGifFile;
+    return bytes.starts_with("\xFF\xD8\xFF") ? kJpegFile : kNoImageFile;
+}
+
+// A batch must not make files whose name tells another format than they have.
+void RequireFormatOfName(const fs::path& picture) {
+    const int format = FormatOf(picture);
+    if (format == kNoImageFile) throw Refusal("It is neither a GIF nor a JPEG picture.");
+    if (format != GetImageFileType(picture.filename().string()))
+        throw Refusal(std::string("It is a ") + (format == kGifFile ? "GIF" : "JPEG") +
+                      " picture, which its name does not say.");
+}
+
+class PicturesBatch {
+  public:
+    explicit PicturesBatch(const PicturesRequest& request) : request_(request) {}
+
+    // Where the picture is written to. Throws CommandError when there is nothing to recolour, or
+    // when it would replace a file that it must not.
+    fs::path Recolour(const fs::path& picture) {
+        std::error_code error;
+        const fs::path source = fs::canonical(picture, error);
+        if (error) throw Refusal("There is no such file.");
+        if (!fs::is_regular_file(source)) throw Refusal("It is no file with a picture.");
+        RequireFormatOfName(source);
+        const fs::path output = request_.inPlace ? source : OutputOf(picture);
+        if (!outputs_.insert(output).second)
+            throw Refusal(output.string() + " was written for another picture.");
+        BatchImage image(here_.program, here_.toolkit, source);
+        image.Recolour(request_.change);
+        if (request_.inPlace)
+            image.Save();
+        else
+            image.SaveAs(output);
+        return output;
+    }
+
+  private:
+    fs::path OutputOf(const fs::path& picture) const {
+        const fs::path output =
+            fs::absolute(request_.outputFolder.empty() ? request_.output
+                                                       : request_.outputFolder / picture.filename())
+                .lexically_normal();
+        std::error_code ignored;
+        if (fs::is_directory(output, ignored)) throw Refusal(output.string() + " is a folder.");
+        if (!request_.force && fs::exists(fs::symlink_status(output, ignored)))
+            throw Refusal(output.string() + " exists. --force replaces it.");
+        return output;
+    }
+
+    const PicturesRequest& request_;
+    Surroundings here_;
+    std::set<fs::path> outputs_;
+};
+
+void CreateOutputFolder(const fs::path& folder) {
+    std::error_code error;
+    if (folder.empty() || fs::is_directory(folder, error)) return;
+    if (!fs::create_directories(folder, error))
+        throw Refusal("The folder " + folder.string() + " cannot be created.");
+}
+
+}  // namespace
+
+void RecolorPictures(const PicturesRequest& request, std::ostream& output, std::string& warnings) {
+    CreateOutputFolder(request.outputFolder);
+    PicturesBatch batch(request);
+    auto report = nlohmann::ordered_json::array();
+    std::size_t failed = 0;
+    {
+        Progress progress(request.pictures.size());
+        for (const fs::path& picture : request.pictures) {
+            progress.Next();
+            try {
+                const fs::path written = batch.Recolour(picture);
+                report.push_back({{"picture", picture.string()}, {"output", written.string()}});
+            } catch (const std::exception& error) {
+                ++failed;
+                warnings += picture.string() + ": " + error.what() + "\n";
+                report.push_back({{"picture", picture.string()}, {"error", error.what()}});
+            }
+        }
+    }
+    if (request.json) output << JsonText({{"pictures", report}}) << "\n";
+    if (failed == 0) return;
+    throw Refusal(request.pictures.size() == 1
+                      ? "The picture was not recoloured."
+                      : std::to_string(failed) + " of " + std::to_string(request.pictures.size()) +
+                            " pictures were not recoloured.");
+}
+
+}  // namespace morpho
