@@ -132,10 +132,36 @@ TEST_F(DiskWebTest, FoldersAreCreatedFilledAndDeleted) {
     EXPECT_THROW(OpenedWeb()->RootFolder()->Delete(), RunTimeError);
 }
 
+TEST_F(DiskWebTest, ListsWhatTheHostShowsOfAFolder) {
+    for (const char* const name : {"b.tar.GIF", "A", "_vti_cnf/x", "_private/x", "Z/x", ".hidden"})
+        folder_.Write(std::string("web/sub/") + name, "");
+    fs::create_symlink("A", folder_ / "web/sub/link.gif");
+    const auto folder = OpenedWeb()->LocateFolder("sub");
+    const auto names = [&folder] {
+        std::string all;
+        for (int i = 0; i < folder->FolderCount(); ++i)
+            all += folder->FolderAt(i)->Name() + "/ ";
+        for (int i = 0; i < folder->FileCount(); ++i)
+            all += folder->FileAt(i).name + " ";
+        return all;
+    };
+    EXPECT_EQ(names(), "_private/ Z/ A b.tar.GIF page.html ");
+    EXPECT_EQ(folder->FileAt(0).extension, "");
+    EXPECT_EQ(folder->FileAt(1).extension, "GIF");
+    EXPECT_EQ(folder->FileAt(1).url, OpenedWeb()->Url() + "/sub/b.tar.GIF");
+    folder->AddFolder("New_Folder");
+    folder_.Write("web/_vti_pvt/service.cnf", "vti_showhiddenpages:IX|1\n");
+    EXPECT_EQ(names(), "_private/ _vti_cnf/ New_Folder/ Z/ .hidden A b.tar.GIF page.html ");
+    EXPECT_THROW(folder->FileAt(4), RunTimeError);
+    EXPECT_THROW(folder->FolderAt(-1), RunTimeError);
+}
+
 TEST_F(DiskWebTest, PropertiesAreWhatTheWebsNotesSay) {
     EXPECT_EQ(OpenedWeb()->Property("VTI_Title"), std::nullopt);
+    EXPECT_EQ(OpenedWeb()->Title(), "web");
     folder_.Write("web/_vti_pvt/service.cnf", "vti_encoding:SR|utf8-nl\r\nvti_title:SR|A|B\r\n");
     EXPECT_EQ(OpenedWeb()->Property("VTI_Title"), "A|B");
+    EXPECT_EQ(OpenedWeb()->Title(), "A|B");
 }
 
 TEST_F(DiskWebTest, TheExplorerAnswersForItsOwnReleaseOnly) {
