@@ -196,9 +196,27 @@ TEST_F(HostWindowTest, AClickSelectsAPictureUntilSomethingElseIsClicked) {
     click({120, 80});
     EXPECT_TRUE(isSelected(1));
     EXPECT_EQ(Evaluate("document.images[0].style.outline"), "");
+    EXPECT_EQ(application_.ActiveDocument()->SelectionHtml(),
+              "<img src='../secret.gif' width=50 height=50>");
     click({300, 300});
     EXPECT_TRUE(isSelected({}));
     EXPECT_EQ(told.count(), 3);
+    EXPECT_EQ(application_.ActiveDocument()->SelectionHtml(), "");
+}
+
+TEST_F(HostWindowTest, ShowsAPictureThatAnAddInHasSaved) {
+    Open();
+    const auto document = application_.ActiveDocument();
+    EXPECT_EQ(document->ImageAddress(0), application_.ActiveWeb()->Url() + "/pics/a.gif");
+    // Nothing but the contents tells that the file is another one.
+    const auto written = std::filesystem::last_write_time(web_ / "web/pics/A.gif");
+    std::string wider = kRed;
+    wider[6] = 7;
+    web_.Write("web/pics/A.gif", wider);
+    std::filesystem::last_write_time(web_ / "web/pics/A.gif", written);
+    application_.RefreshViews();
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return Evaluate("document.images[0].naturalWidth") == "7"; }));
 }
 
 TEST_F(HostWindowTest, MirrorsTheHostsBars) {
