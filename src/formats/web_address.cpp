@@ -14,12 +14,8 @@ namespace {
 
 constexpr std::string_view kSeparators = "/\\";
 
-bool IsLetter(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-
 bool IsInScheme(char c) {
-    return IsLetter(c) || (c >= '0' && c <= '9') || c == '+' || c == '-' || c == '.';
+    return IsLetter(c) || IsDigit(c) || c == '+' || c == '-' || c == '.';
 }
 
 std::string Escaped(std::string_view text, std::string_view special) {
@@ -28,9 +24,7 @@ std::string Escaped(std::string_view text, std::string_view special) {
         if (special.find(c) == special.npos && !IsControl(c)) {
             escaped += c;
         } else {
-            constexpr std::string_view kDigits = "0123456789ABCDEF";
-            const auto byte = static_cast<unsigned char>(c);
-            escaped += {'%', kDigits[byte >> 4U], kDigits[byte & 15U]};
+            escaped += PercentEscape(c);
         }
     }
     return escaped;
