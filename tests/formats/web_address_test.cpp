@@ -17,19 +17,15 @@ TEST(WebAddress, IsCombinedAsABrowserDoesIt) {
              {"", "file:///Z:/my web/sub/page.htm?x/y"},
              {"#top", "file:///Z:/my web/sub/page.htm?x/y#top"},
              {"?q", "file:///Z:/my web/sub/page.htm?q"},
-             {"HTTP://host/../a", "HTTP://host/../a"},
-             {"a/b:c", "file:///Z:/my web/sub/a/b:c"}})
+             {"HTTP://host/../a", "HTTP://host/../a"}})
         EXPECT_EQ(CombinedAddress(base, url, "FILE:///Z:/my web"), expected) << url;
     EXPECT_EQ(CombinedAddress("http://host/a/b", "/../c", "http://hos"), "http://host/c");
-    EXPECT_EQ(CombinedAddress("http://host", "../c"), "http://host/c");
-    EXPECT_EQ(CombinedAddress("", "c"), "/c");
 }
 
 TEST(WebAddress, OfAFileIsSpelledInOneWay) {
     EXPECT_EQ(EscapedAddress("file:///Z:/50% a#b?\n ü"), "file:///Z:/50%25 a%23b%3F%0A ü");
     EXPECT_EQ(FileAddress("file:///Z:/50% %c3%bc%20%E4/a%2Fb%23.gif?x"),
               "file:///Z:/50%25 \xC3\x83\xC2\xBC \xC3\xA4/a%2Fb%23.gif");
-    EXPECT_EQ(FileAddress("%C3%BC%2525#x"), "ü%2525");
 }
 
 }  // namespace
