@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "text/ascii.h"
 #include "text/ignoring_case.h"
 #include "text/utf8.h"
 
@@ -19,18 +20,13 @@ bool IsWhitespace(char c) {
     return IsNewline(c) || c == ' ' || c == '\t';
 }
 
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 bool IsHexDigit(char c) {
     return IsDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
 }
 
 // NUL counts as the replacement character, which may stand in a name.
 bool IsNameStart(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == '\0' ||
-           static_cast<unsigned char>(c) >= 0x80;
+    return IsLetter(c) || c == '_' || c == '\0' || static_cast<unsigned char>(c) >= 0x80;
 }
 
 bool IsName(char c) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "text/ascii.h"
 #include "text/ignoring_case.h"
 
 namespace morpho {
@@ -25,10 +26,6 @@ bool EndsText(std::string_view rest, const std::string& name) {
     if (!StartsWithIgnoringAsciiCase(rest, "</" + name)) return false;
     rest.remove_prefix(name.size() + 2);
     return rest.empty() || kEndOfName.find(rest.front()) != kEndOfName.npos;
-}
-
-bool IsLetter(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
 }  // namespace

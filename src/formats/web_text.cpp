@@ -3,6 +3,7 @@
 #include <array>
 #include <utility>
 
+#include "text/ascii.h"
 #include "text/ignoring_case.h"
 #include "text/parsed_number.h"
 #include "text/utf8.h"
@@ -16,10 +17,6 @@ constexpr std::size_t kMaxReference = 16;
 
 constexpr std::array<std::pair<std::string_view, char32_t>, 6> kNamed = {
     {{"amp", '&'}, {"lt", '<'}, {"gt", '>'}, {"quot", '"'}, {"apos", '\''}, {"nbsp", 0xA0}}};
-
-bool IsLetterOrDigit(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
-}
 
 // What the reference between "&" and ";" means.
 std::optional<char32_t> ReferencedCharacter(std::string_view reference) {
@@ -90,15 +87,20 @@ std::string DecodedPercents(std::string_view text) {
     return decoded;
 }
 
-std::string EncodedPercents(std::string_view name) {
+std::string PercentEscape(char c) {
     constexpr std::string_view kDigits = "0123456789ABCDEF";
+    const auto byte = static_cast<unsigned char>(c);
+    return {'%', kDigits[byte >> 4U], kDigits[byte & 15U]};
+}
+
+std::string EncodedPercents(std::string_view name) {
     std::string encoded;
     for (const char c : name) {
-        if (IsLetterOrDigit(c) || std::string_view("-._~!$@+").find(c) != std::string_view::npos) {
+        if (IsLetter(c) || IsDigit(c) ||
+            std::string_view("-._~!$@+").find(c) != std::string_view::npos) {
             encoded += c;
         } else {
-            const auto byte = static_cast<unsigned char>(c);
-            encoded += {'%', kDigits[byte >> 4U], kDigits[byte & 15U]};
+            encoded += PercentEscape(c);
         }
     }
     return encoded;

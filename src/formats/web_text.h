@@ -17,6 +17,9 @@ std::string EncodedReferences(std::string_view text);
 // The text of one name in an address, with "%41" resolved; what is no escape stays.
 std::string DecodedPercents(std::string_view text);
 
+// The escape of one byte in an address, "%41".
+std::string PercentEscape(char c);
+
 // A name for an address, all in ASCII; everything that could end the address is escaped.
 std::string EncodedPercents(std::string_view name);
 

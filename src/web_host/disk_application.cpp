@@ -1,7 +1,12 @@
 #include "web_host/disk_application.h"
 
+#include "formats/web_address.h"
+#include "formats/web_text.h"
 #include "text/ignoring_case.h"
+#include "web_host/disk_page_document.h"
 #include "web_host/disk_web.h"
+#include "web_host/limits.h"
+#include "web_host/page_walk.h"
 #include "web_host/refusal.h"
 #include "web_host/theme_of_web.h"
 #include "web_host/web_save_transaction.h"
@@ -16,6 +21,14 @@ class DiskLanguageSettings : public LanguageSettings {
   public:
     int LanguageId(LanguageUse) const override { return kEnglish; }
 };
+
+std::string TextOfPage(const WebFiles& web, const WebPath& page) {
+    // A picture that stands alone is shown as a page of it.
+    if (!IsPageName(page.back()))
+        return "<img src=\"" + EncodedReferences(EncodedPercents(page.back())) + "\">";
+    const auto folder = web.OpenFolder({page.begin(), page.end() - 1});
+    return PageText(ReadWholeFile(*folder, page.back(), kMaxFileBytes)).Text();
+}
 
 }  // namespace
 
@@ -49,6 +62,33 @@ void DiskApplication::SetLongWork(LongWork work) {
 void DiskApplication::SetReporter(WebReports::Reporter reporter) {
     reporter_ = std::move(reporter);
     if (web_) web_->Reports().SetReporter(reporter_);
+}
+
+std::unique_ptr<PageDocument> DiskApplication::ActiveDocument() {
+    const auto active = web_ && activePage_ ? activePage_() : std::nullopt;
+    if (!active || active->page.empty()) return nullptr;
+    const WebFiles& web = web_->Files();
+    try {
+        auto document = std::make_unique<DiskPageDocument>(
+            PageAddresses{EscapedAddress(web.UrlOf(active->page)), EscapedAddress(web.Url()),
+                          EscapesAddresses()},
+            TextOfPage(web, active->page));
+        if (active->picture) {
+            document->SelectPicture(*active->picture);
+        } else {
+            document->SelectHtml(active->html);
+        }
+        return document;
+    } catch (const RunTimeError& error) {
+        web_->Reports().WriteLog(error.what());
+        return nullptr;
+    }
+}
+
+std::string DiskApplication::MakeAbs(std::string_view baseUrl, std::string_view url) const {
+    std::string root = web_ ? web_->Files().Url() : std::string();
+    if (EscapesAddresses()) root = EscapedAddress(root);
+    return CombinedAddress(CombinedAddress(root + "/", baseUrl), url, root);
 }
 
 std::unique_ptr<Web> DiskApplication::ActiveWeb() {

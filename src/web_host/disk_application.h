@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -7,6 +8,7 @@
 
 #include "platform/file_system.h"
 #include "platform/front_page.h"
+#include "web_host/active_page.h"
 #include "web_host/host_command_bars.h"
 #include "web_host/web_session.h"
 
@@ -42,6 +44,10 @@ class DiskApplication : public Application {
     // Takes the host's own messages from now on: broken hyperlinks, pages that keep their theme;
     // also from the thread of the long work.
     void SetLog(WebReports::Log log);
+    // Asks `source` from now on which page is active; none is without it.
+    void SetActivePage(ActivePageSource source) { activePage_ = std::move(source); }
+    // Shows the web and its pages again in this way from now on; nothing to do without a window.
+    void SetRefresh(std::function<void()> refresh) { refresh_ = std::move(refresh); }
     // Does what may take seconds in this way from now on.
     void SetLongWork(LongWork work);
     // Takes what happened to single pages, whenever a save has ended; often nothing. It comes from
@@ -50,6 +56,15 @@ class DiskApplication : public Application {
 
     std::string Version() const override { return options_.version; }
     std::unique_ptr<CommandBars> Bars() override { return bars_.View(); }
+    // The page is read anew at each call: a change of one document is not in the next. Null also
+    // where the page cannot be read, which the log tells. Releases before 5 hand out addresses as
+    // the disk spells the names, later ones escape them: the editors resolve escapes accordingly.
+    std::unique_ptr<PageDocument> ActiveDocument() override;
+    // "/" means the web's own folder for its pages; a base may be relative to the web.
+    std::string MakeAbs(std::string_view baseUrl, std::string_view url) const override;
+    void RefreshViews() override {
+        if (refresh_) refresh_();
+    }
     std::unique_ptr<Web> ActiveWeb() override;
     std::unique_ptr<LanguageSettings> Languages() const override;
     std::unique_ptr<SaveTransaction> BeginSave(std::string_view themeName,
@@ -62,6 +77,8 @@ class DiskApplication : public Application {
     void ApplyInPlaceOf(const std::string& themeName, const std::string& earlier);
 
   private:
+    bool EscapesAddresses() const { return !options_.version.starts_with("4."); }
+
     Disk& disk_;
     FileSystem& files_;
     std::string unpackFolder_;
@@ -70,6 +87,8 @@ class DiskApplication : public Application {
     WebReports::Log log_;
     WebReports::Reporter reporter_;
     LongWork work_;
+    ActivePageSource activePage_;
+    std::function<void()> refresh_;
     std::shared_ptr<WebSession> web_;
     std::string sourceOfSave_;
 };

@@ -71,15 +71,12 @@ class Explorer : public AutomationObject {
     }
 
     AutomationValue GetDocToFile(Arguments arguments) {
-        auto path = Web()->Files().PathOfUrl(TextAt(arguments, 0));
-        if (!path || path->empty()) return kFalse;
-        const std::string name = path->back();
+        auto path = Web()->Files().Find(TextAt(arguments, 0), EntryKind::kFile);
+        if (!path) return kFalse;
+        const std::string name = std::move(path->back());
         path->pop_back();
-        const auto folder = Web()->Files().FindFolder(*path);
-        const auto entry = folder ? folder->Find(name) : std::nullopt;
-        if (!entry || entry->kind != EntryKind::kFile) return kFalse;
-        host_.Files().WriteFile(TextAt(arguments, 1),
-                                ReadWholeFile(*folder, entry->name, kMaxFileBytes));
+        const auto folder = Web()->Files().OpenFolder(*path);
+        host_.Files().WriteFile(TextAt(arguments, 1), ReadWholeFile(*folder, name, kMaxFileBytes));
         return kTrue;
     }
 

@@ -30,6 +30,17 @@ std::string DiskWeb::ThemeProperties(int which) const {
     return name;
 }
 
+std::string DiskWeb::Title() const {
+    try {
+        const auto title = WebSetting(web_->Files(), "vti_title");
+        if (title && !title->empty()) return *title;
+    } catch (const RunTimeError& error) {
+        web_->Reports().WriteLog(error.what());
+    }
+    const std::string url = web_->Files().Url();
+    return url.substr(url.rfind('/') + 1);
+}
+
 std::unique_ptr<WebWindow> DiskWeb::ActiveWebWindow() {
     return std::make_unique<DiskWebWindow>();
 }

@@ -20,6 +20,8 @@ class DiskWeb : public Web {
     // Told from the web's pages as they are now (see ThemeOfWeb). Other properties are refused.
     std::string ThemeProperties(int which) const override;
     std::unique_ptr<WebWindow> ActiveWebWindow() override;
+    // As the web's settings say, else the name of its folder.
+    std::string Title() const override;
     std::string Url() const override { return web_->Files().Url(); }
     std::unique_ptr<WebFolder> RootFolder() override;
     std::unique_ptr<WebFolder> LocateFolder(std::string_view url) override;

@@ -1,7 +1,11 @@
 #include "web_host/disk_web_folder.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "platform/run_time_error.h"
 #include "text/ignoring_case.h"
+#include "web_host/hidden_entries.h"
 #include "web_host/limits.h"
 #include "web_host/refusal.h"
 #include "web_host/web_save_transaction.h"
@@ -17,6 +21,23 @@ std::string ReadLocalFile(const FileSystem& files, std::string_view path) {
     return files.ReadFile(path);
 }
 
+void SortByName(std::vector<std::string>& names) {
+    std::vector<std::pair<std::string, std::string>> byFolded;
+    for (std::string& name : names) {
+        std::string folded = Folded(name);
+        byFolded.emplace_back(std::move(folded), std::move(name));
+    }
+    std::sort(byFolded.begin(), byFolded.end());
+    for (std::size_t i = 0; i < names.size(); ++i)
+        names[i] = std::move(byFolded[i].second);
+}
+
+const std::string& NameAt(const std::vector<std::string>& names, int index) {
+    if (index < 0 || static_cast<std::size_t>(index) >= names.size())
+        RefuseCall("The folder has no such entry.");
+    return names[static_cast<std::size_t>(index)];
+}
+
 }  // namespace
 
 std::string DiskWebFolder::Name() const {
@@ -24,10 +45,25 @@ std::string DiskWebFolder::Name() const {
 }
 
 std::string DiskWebFolder::Url() const {
-    std::string url = web_->Files().Url();
-    for (const std::string& name : path_)
-        url += '/' + name;
-    return url;
+    return web_->Files().UrlOf(path_);
+}
+
+int DiskWebFolder::FolderCount() const {
+    return static_cast<int>(Entries().folders.size());
+}
+
+std::unique_ptr<WebFolder> DiskWebFolder::FolderAt(int index) {
+    return Inner(NameAt(Entries().folders, index));
+}
+
+int DiskWebFolder::FileCount() const {
+    return static_cast<int>(Entries().files.size());
+}
+
+WebFile DiskWebFolder::FileAt(int index) const {
+    const std::string& name = NameAt(Entries().files, index);
+    const std::size_t dot = name.rfind('.');
+    return {name, Url() + '/' + name, dot == name.npos ? std::string() : name.substr(dot + 1)};
 }
 
 std::unique_ptr<WebFolder> DiskWebFolder::FindFolder(std::string_view name) {
@@ -41,6 +77,7 @@ std::unique_ptr<WebFolder> DiskWebFolder::FindFolder(std::string_view name) {
 
 std::unique_ptr<WebFolder> DiskWebFolder::AddFolder(std::string_view name) {
     const auto folder = Opened();
+    entries_.reset();
     if (folder->Find(name)) RefuseCall("\"" + folder->PathOf(name) + "\" exists already.");
     if (web_->Transaction() && IsThemesFolder()) {
         web_->Transaction()->CreateTheme(std::string(name));
@@ -52,6 +89,7 @@ std::unique_ptr<WebFolder> DiskWebFolder::AddFolder(std::string_view name) {
 
 void DiskWebFolder::AddFile(std::string_view localPath, bool overwrite) {
     const auto folder = Opened();
+    entries_.reset();
     const std::string bytes = ReadLocalFile(files_, localPath);
     const std::string name(localPath.substr(localPath.find_last_of("\\/") + 1));
     const auto existing = folder->Find(name);
@@ -72,6 +110,19 @@ void DiskWebFolder::Delete() {
     WebPath parent = path_;
     parent.pop_back();
     web_->Files().OpenFolder(parent)->RemoveFolder(Name());
+}
+
+const DiskWebFolder::ShownEntries& DiskWebFolder::Entries() const {
+    if (entries_) return *entries_;
+    ShownEntries shown;
+    const bool showsHidden = ShowsHiddenEntries(web_->Files());
+    for (const FolderEntry& entry : Opened()->Entries()) {
+        if (!IsShownEntry(entry, showsHidden)) continue;
+        (entry.kind == EntryKind::kFolder ? shown.folders : shown.files).push_back(entry.name);
+    }
+    SortByName(shown.folders);
+    SortByName(shown.files);
+    return entries_.emplace(std::move(shown));
 }
 
 std::unique_ptr<Folder> DiskWebFolder::Opened() const {
@@ -98,13 +149,9 @@ bool DiskWebFolder::IsCreatedBySave() const {
 
 std::unique_ptr<WebFolder> LocateWebFolder(const std::shared_ptr<WebSession>& web,
                                            const FileSystem& files, std::string_view url) {
-    const auto path = web->Files().PathOfUrl(url);
+    auto path = web->Files().Find(url, EntryKind::kFolder);
     if (!path) return nullptr;
-    std::unique_ptr<WebFolder> folder = std::make_unique<DiskWebFolder>(web, files, WebPath());
-    for (const std::string& name : *path) {
-        if (folder) folder = folder->FindFolder(name);
-    }
-    return folder;
+    return std::make_unique<DiskWebFolder>(web, files, std::move(*path));
 }
 
 }  // namespace morpho

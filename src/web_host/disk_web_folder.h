@@ -1,7 +1,9 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/file_system.h"
 #include "platform/front_page.h"
@@ -21,6 +23,11 @@ class DiskWebFolder : public WebFolder {
 
     std::string Name() const override;
     std::string Url() const override;
+    // The lists are read once: what other programs add shows in the next view of the folder.
+    int FolderCount() const override;
+    std::unique_ptr<WebFolder> FolderAt(int index) override;
+    int FileCount() const override;
+    WebFile FileAt(int index) const override;
     std::unique_ptr<WebFolder> FindFolder(std::string_view name) override;
     std::unique_ptr<WebFolder> AddFolder(std::string_view name) override;
     void AddFile(std::string_view localPath, bool overwrite) override;
@@ -28,6 +35,13 @@ class DiskWebFolder : public WebFolder {
     void Delete() override;
 
   private:
+    // Names in order, letter case apart.
+    struct ShownEntries {
+        std::vector<std::string> folders;
+        std::vector<std::string> files;
+    };
+
+    const ShownEntries& Entries() const;
     std::unique_ptr<Folder> Opened() const;
     std::unique_ptr<WebFolder> Inner(const std::string& name) const;
     bool IsThemesFolder() const;
@@ -37,9 +51,10 @@ class DiskWebFolder : public WebFolder {
     std::shared_ptr<WebSession> web_;
     const FileSystem& files_;
     WebPath path_;
+    mutable std::optional<ShownEntries> entries_;
 };
 
-// The folder at an address in the web; null when there is none.
+// The folder at an address in the web (see WebFiles::Find); null when there is none.
 std::unique_ptr<WebFolder> LocateWebFolder(const std::shared_ptr<WebSession>& web,
                                            const FileSystem& files, std::string_view url);
 

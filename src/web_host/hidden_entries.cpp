@@ -11,6 +11,11 @@ bool IsHiddenEntry(const FolderEntry& entry) {
            !EqualIgnoringCase(entry.name, "_private");
 }
 
+bool IsShownEntry(const FolderEntry& entry, bool showsHidden) {
+    const bool isKnown = entry.kind == EntryKind::kFolder || entry.kind == EntryKind::kFile;
+    return isKnown && !IsTemporaryName(entry.name) && (showsHidden || !IsHiddenEntry(entry));
+}
+
 bool ShowsHiddenEntries(const WebFiles& web) {
     try {
         const std::string value = WebSetting(web, "vti_showhiddenpages").value_or("");

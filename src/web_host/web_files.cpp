@@ -2,9 +2,36 @@
 
 #include <algorithm>
 
+#include "formats/web_text.h"
 #include "text/ignoring_case.h"
 
 namespace morpho {
+
+namespace {
+
+// The names between "/" or "\".
+WebPath NamesIn(std::string_view path) {
+    WebPath names;
+    while (!path.empty()) {
+        const std::string name(path.substr(0, path.find_first_of("/\\")));
+        path.remove_prefix(std::min(name.size() + 1, path.size()));
+        if (!name.empty() && name != ".") names.push_back(name);
+    }
+    return names;
+}
+
+// Whether a name can be that of an entry of a folder.
+bool IsPlainName(const std::string& name) {
+    return !name.empty() && name != "." && name != ".." &&
+           name.find_first_of(std::string_view("/\\\0", 3)) == name.npos;
+}
+
+// Whether the address calls the entry `own` by this name.
+bool IsNameInAddress(const std::string& own, const std::string& name) {
+    return EqualIgnoringCase(own, name) || EqualIgnoringCase(own, DecodedPercents(name));
+}
+
+}  // namespace
 
 WebFiles::WebFiles(Disk& disk, std::string path)
     : path_(std::move(path)), root_(disk.Open(path_)) {}
@@ -15,21 +42,52 @@ std::string WebFiles::Url() const {
     return url;
 }
 
+std::string WebFiles::UrlOf(const WebPath& names) const {
+    std::string url = Url();
+    for (const std::string& name : names)
+        url += '/' + name;
+    return url;
+}
+
 std::optional<WebPath> WebFiles::PathOfUrl(std::string_view url) const {
-    const std::string whole = Url();
-    if (EqualIgnoringCase(url.substr(0, whole.size()), whole)) {
-        url.remove_prefix(whole.size());
-        if (!url.empty() && url[0] != '/' && url[0] != '\\') return {};
+    WebPath names = NamesIn(url);
+    if (StartsWithIgnoringAsciiCase(url, "file:")) {
+        const WebPath own = NamesIn(Url());
+        if (names.size() < own.size() ||
+            !std::equal(own.begin(), own.end(), names.begin(), IsNameInAddress))
+            return {};
+        names.erase(names.begin(), names.begin() + static_cast<std::ptrdiff_t>(own.size()));
     }
-    WebPath names;
-    while (!url.empty()) {
-        const std::string name(url.substr(0, url.find_first_of("/\\")));
-        url.remove_prefix(std::min(name.size() + 1, url.size()));
-        if (name.empty() || name == ".") continue;
-        if (name == ".." || name.find('\0') != name.npos) return {};
-        names.push_back(name);
-    }
+    if (!std::all_of(names.begin(), names.end(), IsPlainName)) return {};
     return names;
+}
+
+std::optional<WebPath> WebFiles::Find(std::string_view url, EntryKind kind) const {
+    const auto names = PathOfUrl(url);
+    if (!names || (names->empty() && kind != EntryKind::kFolder)) return {};
+    WebPath found;
+    for (std::size_t i = 0; i < names->size(); ++i) {
+        const bool isLast = i + 1 == names->size();
+        auto name = SpelledName(found, (*names)[i], isLast ? kind : EntryKind::kFolder);
+        if (!name) return {};
+        found.push_back(std::move(*name));
+    }
+    return found;
+}
+
+std::optional<std::string> WebFiles::SpelledName(const WebPath& parent, const std::string& name,
+                                                 EntryKind kind) const {
+    const auto folder = FindFolder(parent);
+    for (const std::string& spelling : {name, DecodedPercents(name)}) {
+        if (!folder || !IsPlainName(spelling)) continue;
+        const auto entry = folder->Find(spelling);
+        if (entry && entry->kind == kind) return entry->name;
+        // The folder of a theme that is being saved has no entry of its name yet.
+        WebPath inner = parent;
+        inner.push_back(spelling);
+        if (kind == EntryKind::kFolder && FindFolder(inner)) return spelling;
+    }
+    return {};
 }
 
 std::unique_ptr<Folder> WebFiles::FindFolder(const WebPath& names) const {
@@ -48,11 +106,8 @@ std::unique_ptr<Folder> WebFiles::FindFolder(const WebPath& names) const {
 std::unique_ptr<Folder> WebFiles::OpenFolder(const WebPath& names) const {
     auto folder = FindFolder(names);
     if (folder) return folder;
-    std::string url = Url();
-    for (const std::string& name : names)
-        url += '/' + name;
     throw RunTimeError(ErrorNumber::kPathNotFound,
-                       "\"" + url + "\" could not be opened: the web has no such folder.");
+                       "\"" + UrlOf(names) + "\" could not be opened: the web has no such folder.");
 }
 
 void WebFiles::RedirectTheme(std::string name, std::string temporaryName) {

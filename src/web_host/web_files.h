@@ -28,9 +28,16 @@ class WebFiles {
     // The web's absolute address, "file:///Z:/home/ann/web".
     std::string Url() const;
 
+    // The address of what these names lead to, spelled like the web's own: nothing is escaped.
+    std::string UrlOf(const WebPath& names) const;
+
     // The names in an address, absolute or relative to the web ("_themes/blends"); nothing for what
     // leads out of the web.
     std::optional<WebPath> PathOfUrl(std::string_view url) const;
+    // The names, as spelled on the disk, that lead to the folder or file at an address. Each name
+    // of the address is looked for as it stands, and then with its escapes ("%20") resolved.
+    // Nothing when the web has no such entry of this kind.
+    std::optional<WebPath> Find(std::string_view url, EntryKind kind) const;
     // The folder at these names, without regard to case; null when there is none, or a link or a
     // file on the way.
     std::unique_ptr<Folder> FindFolder(const WebPath& names) const;
@@ -43,6 +50,9 @@ class WebFiles {
     void RedirectTheme(std::string name, std::string temporaryName);
 
   private:
+    std::optional<std::string> SpelledName(const WebPath& parent, const std::string& name,
+                                           EntryKind kind) const;
+
     std::string path_;
     std::unique_ptr<Folder> root_;
     std::string redirectedTheme_;  // folded for comparing; empty: none

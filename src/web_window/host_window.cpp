@@ -80,6 +80,8 @@ HostWindow::HostWindow(const HostParts& host)
     statusBar()->addWidget(status_, 1);
     statusBar()->addPermanentWidget(progress_);
     host_.frontPage.SetLongWork(runner_.ForHost());
+    host_.frontPage.SetActivePage([this] { return PageForAddIns(); });
+    host_.frontPage.SetRefresh([this] { RefreshViews(); });
     status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     setContextMenuPolicy(Qt::NoContextMenu);
     connect(tree_, &QTreeView::activated, this, &HostWindow::OpenEntry);
@@ -94,6 +96,8 @@ HostWindow::HostWindow(const HostParts& host)
 
 HostWindow::~HostWindow() {
     host_.frontPage.SetLongWork({});
+    host_.frontPage.SetActivePage({});
+    host_.frontPage.SetRefresh({});
     // The views go before the page server's sites and the session that they show.
     while (tabs_->count() > 0)
         delete tabs_->widget(0);
@@ -292,6 +296,15 @@ void HostWindow::ShowPageMenu(const QPoint& place) {
 
 WebPageView* HostWindow::CurrentPage() const {
     return static_cast<WebPageView*>(tabs_->currentWidget());
+}
+
+std::optional<ActivePage> HostWindow::PageForAddIns() const {
+    const WebPageView* const view = CurrentPage();
+    if (!view) return {};
+    const PageSelection& selected = view->Selection();
+    // A page that has not answered yet has nothing selected.
+    if (selected.page.empty()) return ActivePage{view->Page()};
+    return ActivePage{selected.page, selected.picture, selected.html};
 }
 
 void HostWindow::RefreshViews() {

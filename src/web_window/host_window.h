@@ -4,9 +4,11 @@
 #include <QMainWindow>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "web_host/active_page.h"
 #include "web_window/bar_mirror.h"
 #include "web_window/web_page_view.h"
 #include "web_window/web_watcher.h"
@@ -92,6 +94,7 @@ class HostWindow : public QMainWindow {
     void AskForThemeOfPage();
     void GiveTheme(const WebPath& page, const std::string& theme);
     void WatchShown();
+    std::optional<ActivePage> PageForAddIns() const;
     void DiskHasChanged();
     QString PathOf(const WebPath& names) const;
     void RestorePlace();

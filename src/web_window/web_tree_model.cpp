@@ -31,15 +31,6 @@ struct WebTreeModel::Node {
     Nodes children;
 };
 
-namespace {
-
-bool IsShown(const FolderEntry& entry, bool showsHidden) {
-    const bool isKnown = entry.kind == EntryKind::kFolder || entry.kind == EntryKind::kFile;
-    return isKnown && !IsTemporaryName(entry.name) && (showsHidden || !IsHiddenEntry(entry));
-}
-
-}  // namespace
-
 WebTreeModel::WebTreeModel(std::shared_ptr<const WebFiles> web, const QString& title)
     : web_(std::move(web)), title_(title), root_(std::make_unique<Node>("", true, nullptr)) {
     root_->isListed = true;
@@ -83,7 +74,7 @@ WebTreeModel::Nodes WebTreeModel::Read(Node& folder) const {
     try {
         for (const FolderEntry& entry : web_->OpenFolder(PathOf(folder))->Entries()) {
             const bool isFolder = entry.kind == EntryKind::kFolder;
-            if (IsShown(entry, showsHidden))
+            if (IsShownEntry(entry, showsHidden))
                 nodes.push_back(std::make_unique<Node>(entry.name, isFolder, &folder));
         }
     } catch (const RunTimeError&) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include "formats/web_text.h"
 #include "linux/disk_file_system.h"
 #include "linux/disk_path.h"
 #include "linux/linux_disk.h"
@@ -101,14 +102,26 @@ TEST_F(DiskWebTest, AWebThatCannotBeOpenedLeavesTheOneBefore) {
     EXPECT_EQ(OpenedWeb()->ThemeProperties(kThemeNameProperty), "old");
 }
 
-TEST_F(DiskWebTest, FoldersAreFoundWithoutRegardToCaseAndOnlyInsideTheWeb) {
-    folder_.Write("outside/x", "");
+TEST_F(DiskWebTest, AddressesLeadToFoldersAndFilesOfTheWebOnly) {
+    folder_.Write("outside/x", "secret");
+    folder_.Write("web/sub/a%20 b", "");
     fs::create_directory_symlink(folder_ / "outside", folder_ / "web/link");
+    fs::create_symlink(folder_ / "outside/x", folder_ / "web/x");
     const auto web = OpenedWeb();
-    EXPECT_EQ(web->LocateFolder("_THEMES/Old")->Url(), web->Url() + "/_themes/old");
-    EXPECT_EQ(web->LocateFolder(web->Url() + "/sub/")->Name(), "sub");
-    for (const char* url : {"none", "..", "sub/../../outside", "link", "index.htm", "/etc\\.."})
-        EXPECT_FALSE(web->LocateFolder(url)) << url;
+    const std::string url = web->Url();
+    EXPECT_EQ(web->LocateFolder("_THEMES/Old")->Url(), url + "/_themes/old");
+    EXPECT_EQ(web->LocateFolder(url + "/%73ub/")->Name(), "sub");
+    for (const std::string& bad :
+         {url + "/%2e%2e/outside", url + "/sub/../../outside", std::string("..\\outside"),
+          url + "/..%2Foutside", url + "2", std::string("link"), std::string("index.htm")}) {
+        EXPECT_FALSE(web->LocateFolder(bad)) << bad;
+        EXPECT_EQ(Call("vtiGetDocToFile", {bad + "/x", Path("copy")}), kNo) << bad;
+    }
+    for (const char* const bad : {"x", "sub", "", "sub/a b"})
+        EXPECT_EQ(Call("vtiGetDocToFile", {bad, Path("copy")}), kNo) << bad;
+    EXPECT_FALSE(folder_.Has("copy"));
+    for (const char* const good : {"SUB/a%20 b", "sub\\A%2520%20b"})
+        EXPECT_EQ(Call("vtiGetDocToFile", {good, Path("copy")}), kYes) << good;
 }
 
 TEST_F(DiskWebTest, FoldersAreCreatedFilledAndDeleted) {
@@ -132,10 +145,33 @@ TEST_F(DiskWebTest, FoldersAreCreatedFilledAndDeleted) {
     EXPECT_THROW(OpenedWeb()->RootFolder()->Delete(), RunTimeError);
 }
 
+TEST_F(DiskWebTest, ListsWhatTheHostShowsOfAFolder) {
+    for (const char* const name : {"b.tar.GIF", "A", "_vti_cnf/x", "_private/x", "Z/x", ".hidden"})
+        folder_.Write(std::string("web/sub/") + name, "");
+    fs::create_symlink("A", folder_ / "web/sub/link.gif");
+    const auto folder = OpenedWeb()->LocateFolder("sub");
+    const auto expectListed = [&folder](const std::string& expected) {
+        std::string names;
+        for (int i = 0; i < folder->FolderCount(); ++i)
+            names += folder->FolderAt(i)->Name() + "/ ";
+        for (int i = 0; i < folder->FileCount(); ++i)
+            names += folder->FileAt(i).name + "|" + folder->FileAt(i).extension + " ";
+        EXPECT_EQ(names, expected);
+    };
+    expectListed("_private/ Z/ A| b.tar.GIF|GIF page.html|html ");
+    EXPECT_EQ(folder->FileAt(1).url, OpenedWeb()->Url() + "/sub/b.tar.GIF");
+    EXPECT_THROW(folder->FileAt(3), RunTimeError);
+    folder_.Write("web/_vti_pvt/service.cnf", "vti_showhiddenpages:IX|1\n");
+    folder->AddFolder("New");
+    expectListed("_private/ _vti_cnf/ New/ Z/ .hidden|hidden A| b.tar.GIF|GIF page.html|html ");
+}
+
 TEST_F(DiskWebTest, PropertiesAreWhatTheWebsNotesSay) {
     EXPECT_EQ(OpenedWeb()->Property("VTI_Title"), std::nullopt);
+    EXPECT_EQ(OpenedWeb()->Title(), "web");
     folder_.Write("web/_vti_pvt/service.cnf", "vti_encoding:SR|utf8-nl\r\nvti_title:SR|A|B\r\n");
     EXPECT_EQ(OpenedWeb()->Property("VTI_Title"), "A|B");
+    EXPECT_EQ(OpenedWeb()->Title(), "A|B");
 }
 
 TEST_F(DiskWebTest, TheExplorerAnswersForItsOwnReleaseOnly) {
@@ -146,11 +182,61 @@ TEST_F(DiskWebTest, TheExplorerAnswersForItsOwnReleaseOnly) {
     EXPECT_EQ(Call("vtiCreateFolder", {"_themes/new"}), kYes);
     EXPECT_EQ(Call("vtiCreateFolder", {"_themes/NEW"}), kNo);
     EXPECT_TRUE(folder_.Has("web/_themes/new"));
-    const std::string target = ToWindowsPath(folder_ / "copy");
-    EXPECT_EQ(Call("vtiGetDocToFile", {"_themes/old/A.gif", target}), kYes);
-    EXPECT_EQ(folder_.Read("copy"), "old a");
-    EXPECT_EQ(Call("vtiGetDocToFile", {"../cache", target}), kNo);
     EXPECT_THROW(Call("vtiCreateFolder", {"../new"}), RunTimeError);
+}
+
+// As an editor does it: an insertion brings the selected picture to the front, later releases'
+// addresses are unescaped, and the folder of the address takes the file back.
+TEST_F(DiskWebTest, ASelectedPictureLeadsToItsFileAndBack) {
+    for (const std::string version : {"4.0", "5.0", "6.0"})
+        for (const std::string name : {"50% grey.gif", "a#b.gif", "ünï.gif", "a b.gif",
+                                       "100%25.gif", "%41.gif", "&amp;'?.gif"}) {
+            folder_.Write("a #web/p s/" + name, "picture");
+            folder_.Write("a #web/sub/a#b%20.htm",
+                          "<img src=x.gif><img src='../p s/" + EncodedPercents(name) + "?q=1#f'>");
+            DiskApplication host(disk_, files_, Path("cache"), {version});
+            host.Open(Path("a #web"));
+            host.SetActivePage([] { return ActivePage{{"sub", "a#b%20.htm"}, 1}; });
+            const auto document = host.ActiveDocument();
+            const auto undo = document->BeginUndoTransaction("search");
+            document->InsertAdjacentHtml("AfterBegin", document->SelectionHtml());
+            EXPECT_EQ(document->ImageCount(), 3);
+            std::string address = host.MakeAbs(document->Url(), document->ImageAddress(0));
+            undo->Abort();
+            EXPECT_EQ(document->ImageCount(), 2);
+            EXPECT_EQ(document->ImageAddress(1), address);
+            if (version != "4.0") address = DecodedPercents(address);
+            const std::string folder = host.ActiveWeb()->Url() + "/p s";
+            EXPECT_EQ(address, folder + "/" + name);
+            const std::vector<AutomationValue> arguments{address, Path(name)};
+            const auto explorer =
+                DiskAutomation(host).CreateObject("FrontPage.Explorer." + version);
+            EXPECT_EQ(explorer->Call("vtiGetDocToFile", arguments), kYes) << address;
+            EXPECT_EQ(folder_.Read(name), "picture");
+            folder_.Write(name, "edited");
+            host.ActiveWeb()->LocateFolder(folder)->AddFile(Path(name), true);
+            EXPECT_EQ(folder_.FilesIn("a #web/p s"), (Tree{{name, "edited"}}));
+            fs::remove(folder_ / ("a #web/p s/" + name));
+        }
+}
+
+TEST_F(DiskWebTest, ADocumentIsOfThePageAndTheSelectionThatTheHostTells) {
+    folder_.Write("web/sub/b.htm", "<base href='../'><img src=/a.gif><img><img src='c.gif'>");
+    const std::string web = OpenedWeb()->Url();
+    ActivePage active{{"sub", "b.htm"}, {}, "<i>text"};
+    application_.SetActivePage([&active] { return active; });
+    const auto document = application_.ActiveDocument();
+    EXPECT_EQ(document->SelectionHtml(), "<i>text");
+    EXPECT_EQ(document->ImageAddress(0), web + "/a.gif");
+    EXPECT_EQ(document->ImageAddress(1), "");
+    EXPECT_EQ(document->ImageAddress(2), web + "/c.gif");
+    EXPECT_THROW(document->ImageAddress(3), RunTimeError);
+    active.picture = 3;
+    EXPECT_EQ(application_.ActiveDocument()->SelectionHtml(), "");
+    active = {{"sub", "P.gif"}, 0};
+    EXPECT_EQ(application_.ActiveDocument()->ImageAddress(0), web + "/sub/P.gif");
+    active.page = {"none.htm"};
+    EXPECT_FALSE(application_.ActiveDocument());
 }
 
 TEST_F(DiskWebTest, AThemeIsMadeFresh) {

@@ -111,12 +111,6 @@ TEST_F(HostWindowTest, APageRunsNoScriptAndGetsNothingFromOutsideTheWeb) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return Evaluate(widths) == "0,1"; })) << "reloaded";
 }
 
-TEST_F(HostWindowTest, ShowsHiddenFoldersWhereTheWebSaysSo) {
-    web_.Write("web/_vti_pvt/service.cnf", "vti_showhiddenpages:IX|1\n");
-    Open();
-    EXPECT_EQ(Rows(Root()), "_themes _vti_cnf _vti_pvt pics index.htm");
-}
-
 TEST_F(HostWindowTest, LinksLeadToWhatTheWebHasAndAPageFollowsItsFiles) {
     web_.Write("web/sub/index.htm",
                "<link rel=stylesheet href=../_themes/t/t.css><img src=../pics/a.gif>");
@@ -196,9 +190,24 @@ TEST_F(HostWindowTest, AClickSelectsAPictureUntilSomethingElseIsClicked) {
     click({120, 80});
     EXPECT_TRUE(isSelected(1));
     EXPECT_EQ(Evaluate("document.images[0].style.outline"), "");
+    EXPECT_EQ(application_.ActiveDocument()->SelectionHtml(),
+              "<img src='../secret.gif' width=50 height=50>");
     click({300, 300});
     EXPECT_TRUE(isSelected({}));
     EXPECT_EQ(told.count(), 3);
+}
+
+TEST_F(HostWindowTest, ShowsAPictureThatAnAddInHasSaved) {
+    Open();
+    // Nothing but the contents tells that the file is another one.
+    const auto written = std::filesystem::last_write_time(web_ / "web/pics/A.gif");
+    std::string wider = kRed;
+    wider[6] = 7;
+    web_.Write("web/pics/A.gif", wider);
+    std::filesystem::last_write_time(web_ / "web/pics/A.gif", written);
+    application_.RefreshViews();
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return Evaluate("document.images[0].naturalWidth") == "7"; }));
 }
 
 TEST_F(HostWindowTest, MirrorsTheHostsBars) {
