@@ -6,7 +6,7 @@
 #include "frontpage/environment_discovery.h"
 #include "image_editor/disk_choice.h"
 #include "image_editor/frm_web_open.h"
-#include "image_editor/product.h"
+#include "image_editor/image_product.h"
 #include "image_editor/selected_image.h"
 #include "platform/file_system.h"
 #include "platform/front_page.h"

@@ -11,6 +11,22 @@ CommandError Refusal(const std::string& sentence) {
     return {CommandError::Status::kRefused, sentence};
 }
 
+// The page of the request becomes the host's active one, with its picture selected.
+void ActivatePage(DiskApplication& host, const ImageRequest& request) {
+    const auto page = host.Session()->Files().Find(request.page, EntryKind::kFile);
+    if (!page) throw Refusal("The web has no page \"" + request.page + "\".");
+    std::optional<int> picture;
+    if (request.selected > 0) picture = request.selected - 1;
+    host.SetActivePage([=] { return ActivePage{*page, picture, {}}; });
+    const std::unique_ptr<PageDocument> document = host.ActiveDocument();
+    if (!document) throw Refusal("The page \"" + request.page + "\" cannot be read.");
+    const int count = document->ImageCount();
+    if (request.selected > count) {
+        throw Refusal("The page \"" + request.page + "\" has " + std::to_string(count) +
+                      (count == 1 ? " picture." : " pictures."));
+    }
+}
+
 }  // namespace
 
 void ShowImageWindow(const ImageRequest& request) {
@@ -18,14 +34,17 @@ void ShowImageWindow(const ImageRequest& request) {
     const bool isWeb = std::filesystem::is_directory(request.path, error);
     if (!request.path.empty() && !isWeb && !std::filesystem::is_regular_file(request.path, error))
         throw Refusal("There is no picture or folder \"" + request.path.string() + "\".");
+    if (!isWeb && !request.page.empty()) throw Refusal("--page: no web is named.");
     QtDesktop here;
     here.component.application = here.desktop.SharedFrontPage();
     frmImageMorpho window(here.program);
-    if (isWeb)
+    if (isWeb) {
         here.desktop.OpenForSaving(std::filesystem::absolute(request.path).lexically_normal());
-    else if (!request.path.empty())
+        if (!request.page.empty()) ActivatePage(here.desktop.FrontPage(), request);
+    } else if (!request.path.empty()) {
         window.OpenAtStart(
             {ImageKind::kDisk, ToWindowsPath(std::filesystem::canonical(request.path).string())});
+    }
     window.ShowModal();
 }
 

@@ -6,7 +6,7 @@
 #include "program/qt_desktop.h"
 #include "text/ignoring_case.h"
 #include "theme_editor/frm_theme_morpho.h"
-#include "theme_editor/product.h"
+#include "theme_editor/theme_product.h"
 
 namespace morpho {
 

@@ -15,8 +15,8 @@
 #include "text/parsed_number.h"
 #include "text/trim.h"
 #include "theme_editor/installed_theme.h"
-#include "theme_editor/product.h"
 #include "theme_editor/theme_installation.h"
+#include "theme_editor/theme_product.h"
 
 namespace morpho {
 

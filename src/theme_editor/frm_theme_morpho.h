@@ -10,9 +10,9 @@
 #include "theme_editor/busy_switch.h"
 #include "theme_editor/colorization.h"
 #include "theme_editor/element_selection.h"
-#include "theme_editor/product.h"
 #include "theme_editor/theme_loader.h"
 #include "theme_editor/theme_preview.h"
+#include "theme_editor/theme_product.h"
 #include "theme_editor/theme_saver.h"
 
 namespace morpho {

@@ -10,7 +10,7 @@
 #include "shared/mod_shared_code.h"
 #include "text/ignoring_case.h"
 #include "theme_editor/description_files.h"
-#include "theme_editor/product.h"
+#include "theme_editor/theme_product.h"
 
 namespace morpho {
 

@@ -35,6 +35,41 @@ class ScratchPage : public BlankPageWindow {
     FakeApplication& host_;
 };
 
+// The active page. Inserted HTML is one picture or a text.
+class FakePage : public PageDocument {
+  public:
+    explicit FakePage(FakeApplication::ActivePage& page) : page_(page) {}
+    std::string Url() const override { return page_.url; }
+    std::string SelectionHtml() const override { return page_.selection; }
+    int ImageCount() const override { return static_cast<int>(page_.pictures.size()); }
+    std::string ImageAddress(int index) const override {
+        return page_.pictures.at(static_cast<std::size_t>(index));
+    }
+    std::unique_ptr<UndoTransaction> BeginUndoTransaction(std::string_view) override {
+        return std::make_unique<Undo>(page_);
+    }
+    void InsertAdjacentHtml(std::string_view, std::string_view html) override {
+        constexpr std::string_view kImage = "<img src=";
+        if (html.starts_with(kImage))
+            page_.pictures.emplace(page_.pictures.begin(),
+                                   html.substr(kImage.size(), html.size() - kImage.size() - 1));
+    }
+    std::unique_ptr<StyleSheet> StyleSheetAt(int) const override { throw NotOffered(); }
+
+  private:
+    class Undo : public UndoTransaction {
+      public:
+        explicit Undo(FakeApplication::ActivePage& page) : page_(page), before_(page.pictures) {}
+        void Abort() override { page_.pictures = before_; }
+
+      private:
+        FakeApplication::ActivePage& page_;
+        std::vector<std::string> before_;
+    };
+
+    FakeApplication::ActivePage& page_;
+};
+
 // A page of the web that is open for editing; only its theme matters.
 class ThemedPage : public PageWindow {
   public:
@@ -77,6 +112,15 @@ class FakeWebFolder : public WebFolder {
     FakeWebFolder(FakeApplication& host, std::string url) : host_(host), url_(std::move(url)) {}
     std::string Name() const override { return FileNameOf(url_); }
     std::string Url() const override { return "file:///C:/Web/" + url_; }
+    int FolderCount() const override { return static_cast<int>(Entries(true).size()); }
+    std::unique_ptr<WebFolder> FolderAt(int index) override {
+        return FindFolder(Entries(true).at(static_cast<std::size_t>(index)));
+    }
+    int FileCount() const override { return static_cast<int>(Entries(false).size()); }
+    WebFile FileAt(int index) const override {
+        const std::string name = Entries(false).at(static_cast<std::size_t>(index));
+        return {name, Url() + '/' + name, name.substr(name.rfind('.') + 1)};
+    }
     std::unique_ptr<WebFolder> FindFolder(std::string_view name) override {
         if (!host_.webFiles.HasFolder(PathOfUrl(Below(name)))) return nullptr;
         return std::make_unique<FakeWebFolder>(host_, Below(name));
@@ -93,6 +137,13 @@ class FakeWebFolder : public WebFolder {
     void Delete() override { host_.webFiles.DeleteFolder(PathOfUrl(url_)); }
 
   private:
+    std::vector<std::string> Entries(bool folders) const {
+        std::vector<std::string> names;
+        for (const FileEntry& entry : host_.webFiles.List(PathOfUrl(url_))) {
+            if (entry.IsFolder() == folders) names.push_back(entry.name);
+        }
+        return names;
+    }
     std::string Below(std::string_view name) const {
         return url_.empty() ? std::string(name) : url_ + '/' + std::string(name);
     }
@@ -114,11 +165,14 @@ class FakeWeb : public Web {
     std::unique_ptr<WebWindow> ActiveWebWindow() override {
         return std::make_unique<FakeWebWindow>(host_);
     }
-    std::string Url() const override { return "file:///C:/Web"; }
+    std::string Title() const override { return "Larkfell"; }
+    std::string Url() const override { return std::string(kUrl); }
     std::unique_ptr<WebFolder> RootFolder() override {
         return std::make_unique<FakeWebFolder>(host_, std::string());
     }
     std::unique_ptr<WebFolder> LocateFolder(std::string_view url) override {
+        if (url == kUrl) return RootFolder();
+        if (url.starts_with(kUrl)) url.remove_prefix(kUrl.size() + 1);
         return FakeWebFolder(host_, {}).FindFolder(url);
     }
     std::optional<std::string> Property(std::string_view key) const override {
@@ -139,6 +193,8 @@ class FakeWeb : public Web {
     void RecalcHyperlinks() override { Touch("RecalcHyperlinks"); }
 
   private:
+    static constexpr std::string_view kUrl = "file:///C:/Web";
+
     void Touch(const std::string& call) {
         host_.webFiles.List(FakeApplication::kWebFolder);
         host_.webCalls.push_back(call);
@@ -160,6 +216,15 @@ class FakeLanguages : public LanguageSettings {
 
 std::unique_ptr<Web> FakeApplication::ActiveWeb() {
     return web ? std::make_unique<FakeWeb>(*this) : nullptr;
+}
+
+std::unique_ptr<PageDocument> FakeApplication::ActiveDocument() {
+    return page ? std::make_unique<FakePage>(*page) : nullptr;
+}
+
+std::string FakeApplication::MakeAbs(std::string_view baseUrl, std::string_view url) const {
+    if (url.find(':') != std::string_view::npos) return std::string(url);
+    return std::string(baseUrl.substr(0, baseUrl.rfind('/') + 1)) + std::string(url);
 }
 
 std::unique_ptr<LanguageSettings> FakeApplication::Languages() const {
