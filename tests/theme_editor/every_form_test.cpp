@@ -2,7 +2,9 @@
 
 #include "about/frm_about.h"
 #include "about/frm_quick_reference.h"
+#include "image_editor/frm_image_morpho.h"
 #include "image_editor/frm_jpeg_qf.h"
+#include "image_editor/frm_web_open.h"
 #include "text/ignoring_case.h"
 #include "theme_editor/frm_prompt_duplicate.h"
 #include "theme_editor/theme_world.h"
@@ -56,22 +58,35 @@ class GoodForm {
     std::map<std::string, std::string> owners_;  // of access keys
 };
 
-TEST_F(OpenThemeWindow, IsGoodAtAnySize) {
+void ExpectGoodAtAnySize(Form& window) {
     constexpr Size kBorders{240, 600};  // thick ones
-    for (const Size outer : {frmThemeMorpho::kMinimumSize, Size{14400, 9900}, Size{38400, 21600}}) {
-        window->UserResize({0, 0, outer.width, outer.height},
-                           {outer.width - kBorders.width, outer.height - kBorders.height},
-                           WindowState::kNormal);
+    for (const Size outer : {window.MinimumSize(), Size{14400, 9900}, Size{38400, 21600}}) {
+        window.UserResize({0, 0, outer.width, outer.height},
+                          {outer.width - kBorders.width, outer.height - kBorders.height},
+                          WindowState::kNormal);
         SCOPED_TRACE(outer.width);
-        GoodForm::Expect(*window);
+        GoodForm::Expect(window);
     }
+}
+
+TEST_F(OpenThemeWindow, IsGoodAtAnySize) {
+    ExpectGoodAtAnySize(*window);
+}
+
+TEST(ImageWindow, IsGoodAtAnySize) {
+    FakePlatform world;
+    world.toolkit.WillPlay("frmAbout", [](Form& form) { form.Hide(); });
+    frmImageMorpho window(world.program);
+    window.Load();
+    window.frameQF.SetVisible(true);
+    ExpectGoodAtAnySize(window);
 }
 
 TEST(EveryDialog, IsGood) {
     FakePlatform world;
     int seen = 0;
-    for (const char* name :
-         {"frmPromptDuplicate", "frmJPEGQF", "frmSaveAs", "frmAbout", "frmQuickReference"}) {
+    for (const char* name : {"frmPromptDuplicate", "frmJPEGQF", "frmWebOpen", "frmSaveAs",
+                             "frmAbout", "frmQuickReference"}) {
         world.toolkit.WillPlay(name, [&](Form& form) {
             GoodForm::Expect(form);
             ++seen;
@@ -81,13 +96,14 @@ TEST(EveryDialog, IsGood) {
     for (const int icon : {kCriticalIcon, kQuestionIcon, kInformationIcon})
         frmPromptDuplicate(world.program).ShowDuplicateNoticeDialog("Notice", "Title", icon);
     frmJPEGQF(world.program).ShowModal();
+    frmWebOpen(world.program, "Open").ShowModal();
     frmSaveAs(world.program).ShowModal();
     frmQuickReference(world.program).ShowModal();
     int logMode = 0;
     frmAbout(world.program).ShowAbout(Editor::kTheme, logMode);
     world.component.webSite = "https://example.org";
     frmAbout(world.program).ShowAbout(Editor::kImage, logMode);
-    EXPECT_EQ(seen, 8);
+    EXPECT_EQ(seen, 9);
 }
 
 }  // namespace
