@@ -31,6 +31,7 @@ void AddWebWindow(CLI::App& app, WebRequest& web) {
 CLI::App* AddTheme(CLI::App& app, ThemeRequest& theme) {
     CLI::App* command =
         app.add_subcommand("theme", "Open a web's theme in the Theme Morpho window");
+    command->footer("Example:\n  morpho theme ~/web --theme blends");
     AddWeb(*command, theme.web);
     command->add_option("--theme", theme.theme, "Theme to open; the web's first if not given")
         ->type_name("NAME")
@@ -40,6 +41,7 @@ CLI::App* AddTheme(CLI::App& app, ThemeRequest& theme) {
 
 CLI::App* AddList(CLI::App& app, ListRequest& list) {
     CLI::App* command = app.add_subcommand("list", "List a web's themes and their elements");
+    command->footer("Example:\n  morpho list ~/web --theme blends --json");
     AddWeb(*command, list.web);
     command->add_option("--theme", list.theme, "List this theme's elements: key, file, image group")
         ->type_name("NAME")
@@ -71,6 +73,7 @@ CLI::App* AddImage(CLI::App& app, ImageRequest& image) {
 
 CLI::App* AddApply(CLI::App& app, ApplyRequest& apply) {
     CLI::App* command = app.add_subcommand("apply", "Give a web's pages another theme");
+    command->footer("Example:\n  morpho apply ~/web --theme blends2 --in-place-of blends");
     AddWeb(*command, apply.web);
     command->add_option("--theme", apply.theme, "A theme of the web, or one of the user's own")
         ->type_name("NAME")
@@ -115,9 +118,10 @@ void RequireFolder(const WebRequest& request) {
 }  // namespace
 
 Request ParseCommandLine(int argc, const char* const* argv, const std::string& version) {
-    CLI::App app("Recolours the graphics of FrontPage webs.", "morpho");
+    CLI::App app("Recolours the graphics of FrontPage webs, and single pictures.", "morpho");
     app.set_version_flag("--version", "morpho " + version);
     app.require_subcommand(0, 1);
+    app.footer("Example:\n  morpho ~/web");
     WebRequest web;
     AddWebWindow(app, web);
     ThemeRequest theme;
