@@ -9,6 +9,7 @@ struct ElementAdjustment {
     double Hue = 0.0;
     double Brightness = 1.0;
 
+    bool operator==(const ElementAdjustment&) const = default;
     bool IsNeutral() const { return Brightness == 1.0 && Saturation == 1.0 && Hue == 0.0; }
 };
 

@@ -83,6 +83,8 @@ void EditedImage::Close() {
 }
 
 void EditedImage::Recolour(const ElementAdjustment& adjustment, std::int16_t quality) {
+    const Recolouring wanted{adjustment, quality};
+    if (shown_ == wanted) return;
     const std::unique_ptr<Colorizer> colorizer = program_.platform.colorizers.Create();
     colorizer->SetHue(adjustment.Hue);
     colorizer->SetSaturation(adjustment.Saturation);
@@ -93,9 +95,11 @@ void EditedImage::Recolour(const ElementAdjustment& adjustment, std::int16_t qua
     colorizer->SetSourceFile(sourceCopyPath_);
     if (IsJpeg()) colorizer->SetQuality(quality);
     colorizer->Colorize();
+    shown_ = wanted;
 }
 
 void EditedImage::Restore() {
+    shown_.reset();
     program_.platform.files.Copy(sourceCopyPath_, workingCopyPath_);
 }
 
@@ -110,6 +114,7 @@ void EditedImage::Save() {
     }
     // Only now: had the save failed, the next recolouring would start from a recoloured picture.
     files.Copy(workingCopyPath_, sourceCopyPath_);
+    shown_.reset();
 }
 
 // The host imports a file under the name that it has on disk.

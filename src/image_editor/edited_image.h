@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "editing/element_adjustment.h"
@@ -38,8 +39,8 @@ class EditedImage {
     // Deletes the copies; a file that cannot be deleted is left.
     void Close();
 
-    // Recolours the source copy into the working copy; `quality`, 1 to 100, is for a JPEG. Throws;
-    // the working copy then stays as it was.
+    // Recolours the source copy into the working copy; `quality`, 1 to 100, is for a JPEG. What the
+    // working copy already shows is not done again. Throws; the working copy then stays as it was.
     void Recolour(const ElementAdjustment& adjustment, std::int16_t quality);
     // Copies the source copy over the working copy. Throws.
     void Restore();
@@ -51,6 +52,14 @@ class EditedImage {
     void SaveAs(const ImageLocation& place);
 
   private:
+    // What was done to the source copy.
+    struct Recolouring {
+        ElementAdjustment adjustment;
+        std::int16_t quality = 0;
+
+        bool operator==(const Recolouring&) const = default;
+    };
+
     void CreateFolder();
     bool Fetch();
     void PutIntoWeb();
@@ -62,6 +71,7 @@ class EditedImage {
     std::string fileName_;
     std::string sourceCopyPath_;
     std::string workingCopyPath_;
+    std::optional<Recolouring> shown_;  // by the working copy; nothing when it is the source copy
 };
 
 }  // namespace morpho

@@ -131,7 +131,7 @@ void RecolorPictures(const PicturesRequest& request, std::ostream& output, std::
     CreateOutputFolder(request.outputFolder);
     PicturesBatch batch(request);
     auto report = nlohmann::ordered_json::array();
-    std::size_t failed = 0;
+    std::vector<std::string> failures;
     {
         Progress progress(request.pictures.size());
         for (const fs::path& picture : request.pictures) {
@@ -140,18 +140,18 @@ void RecolorPictures(const PicturesRequest& request, std::ostream& output, std::
                 const fs::path written = batch.Recolour(picture);
                 report.push_back({{"picture", picture.string()}, {"output", written.string()}});
             } catch (const std::exception& error) {
-                ++failed;
-                warnings += picture.string() + ": " + error.what() + "\n";
+                failures.push_back(picture.string() + ": " + error.what());
                 report.push_back({{"picture", picture.string()}, {"error", error.what()}});
             }
         }
     }
     if (request.json) output << JsonText({{"pictures", report}}) << "\n";
-    if (failed == 0) return;
-    throw Refusal(request.pictures.size() == 1
-                      ? "The picture was not recoloured."
-                      : std::to_string(failed) + " of " + std::to_string(request.pictures.size()) +
-                            " pictures were not recoloured.");
+    if (failures.empty()) return;
+    if (request.pictures.size() == 1) throw Refusal(failures.front());
+    for (const std::string& failure : failures)
+        warnings += failure + "\n";
+    throw Refusal(std::to_string(failures.size()) + " of " +
+                  std::to_string(request.pictures.size()) + " pictures were not recoloured.");
 }
 
 }  // namespace morpho

@@ -86,7 +86,7 @@ TEST_F(RecolorCommand, RefusesWithOneSentenceAndWritesNothing) {
                   "No theme elements have been selected");
     expectRefusal("almanac --select active/navbutton-up-pushed --export OUT", 1,
                   "navbutton-up-pushed");
-    ExpectRefusal("recolor '' --theme orrery --export OUT", 2, "WEB");
+    ExpectRefusal("recolor '' --theme orrery --export OUT", 2, "nothing is named");
     ExpectRefusal("recolor WEB --export OUT", 2, "theme");
     ExpectRefusal("nonsense WEB", 2, "nonsense");
     ExpectRefusal("recolor WEB/nowhere --theme orrery --export OUT", 1, "nowhere");
