@@ -17,7 +17,6 @@
 
 #include "platform/platform.h"
 #include "platform/run_time_error.h"
-#include "platform/shell.h"
 #include "qt/qt_text.h"
 #include "shared/settings.h"
 #include "web_host/disk_application.h"
@@ -30,30 +29,10 @@ namespace morpho {
 
 namespace {
 
-// Identifiers of the host's own commands.
-constexpr int kOpenWebId = 23;
-constexpr int kCloseId = 106;
-constexpr int kExitId = 752;
-constexpr int kRefreshId = 459;
-constexpr int kRecentId = 30126;
-// Those from 40000 on are not FrontPage's.
-constexpr int kHelpId = 984;
-constexpr int kThemeOfPageId = 40000;
-constexpr int kRecalculateId = 40001;
-constexpr int kOtherPaneId = 40002;
-constexpr int kBackId = 40003;
-constexpr int kNextPictureId = 40004;
-constexpr int kPreviousPictureId = 40005;
-
 constexpr std::string_view kApplication = "Morpho";
 constexpr std::string_view kSection = "Web Window";
 constexpr int kTreeWidth = 240;  // pixels
 constexpr int kAskAgainMilliseconds = 200;
-
-// A name in a menu, where "&" would mark an access key.
-QString Unmarked(QString text) {
-    return text.replace("&", "&&");
-}
 
 }  // namespace
 
@@ -101,89 +80,6 @@ HostWindow::~HostWindow() {
     // The views go before the page server's sites and the session that they show.
     while (tabs_->count() > 0)
         delete tabs_->widget(0);
-}
-
-void HostWindow::AddCommands() {
-    AddCommand(HostMenu::kFile, {kOpenWebId, "&Open Web...", QKeySequence::Open},
-               [this] { AskForWeb(); });
-    recentWebs_ =
-        host_.frontPage.HostBars()
-            .Menu(HostMenu::kFile)
-            .Append({.type = kPopupControl, .id = kRecentId, .look = {.caption = "&Recent Webs"}});
-    AddCommand(HostMenu::kFile, {kCloseId, "&Close Page", QKeySequence("Ctrl+W")},
-               [this] { CloseTab(tabs_->currentIndex()); });
-    AddCommand(HostMenu::kFile, {kRecalculateId, "Recalculate &Hyperlinks", {}, true},
-               [this] { RecalculateHyperlinks(); });
-    AddCommand(HostMenu::kFile, {kExitId, "E&xit", QKeySequence("Ctrl+Q"), true},
-               [this] { close(); });
-    AddCommand(HostMenu::kView, {kRefreshId, "&Refresh", QKeySequence("F5")},
-               [this] { RefreshViews(); });
-    AddCommand(HostMenu::kView, {kOtherPaneId, "&Other Pane", QKeySequence("F6")},
-               [this] { FocusOtherPane(); });
-    AddCommand(HostMenu::kFormat, {kThemeOfPageId, "Theme of This &Page...", {}},
-               [this] { AskForThemeOfPage(); });
-    AddCommand(HostMenu::kHelp, {kHelpId, "Morpho &Help", QKeySequence("F1")},
-               [this] { host_.platform.shell.WinExec("Winhlp32.exe morpho.hlp", 1); });
-    AddPageCommands();
-    FillRecentWebs();
-}
-
-void HostWindow::AddPageCommands() {
-    const auto onPage = [this](auto work) {
-        return [this, work] {
-            if (WebPageView* const page = CurrentPage()) work(*page);
-        };
-    };
-    AddCommand(HostMenu::kView, {kBackId, "&Back", QKeySequence("Alt+Left"), true},
-               onPage([](WebPageView& page) { page.back(); }));
-    AddCommand(HostMenu::kView, {kNextPictureId, "Select &Next Picture", QKeySequence("F8")},
-               onPage([](WebPageView& page) { page.StepPicture(1); }));
-    AddCommand(HostMenu::kView,
-               {kPreviousPictureId, "Select &Previous Picture", QKeySequence("Shift+F8")},
-               onPage([](WebPageView& page) { page.StepPicture(-1); }));
-}
-
-void HostWindow::AddCommand(HostMenu menu, const Command& command, std::function<void()> clicked) {
-    const auto control = host_.frontPage.HostBars().Menu(menu).Append(
-        {.id = command.id,
-         .look = {.caption = command.caption, .beginsGroup = command.beginsGroup}});
-    clicks_.push_back(control->OnClick(std::move(clicked)));
-    bars_.ActionOf(*control)->setShortcut(command.keys);
-}
-
-void HostWindow::FocusOtherPane() {
-    QWidget* const page = tabs_->currentWidget();
-    (tree_->hasFocus() && page ? page : tree_)->setFocus(Qt::ShortcutFocusReason);
-}
-
-void HostWindow::RecalculateHyperlinks() {
-    const auto web = host_.frontPage.ActiveWeb();
-    if (!web) return;
-    try {
-        web->RecalcHyperlinks();
-        Tell({"The hyperlinks to themes are recalculated; the log has the broken ones."});
-    } catch (const RunTimeError& error) {
-        Tell({error.what()});
-    }
-}
-
-void HostWindow::FillRecentWebs() {
-    recentClicks_.clear();
-    while (recentWebs_->Controls()->Count() > 0)
-        recentWebs_->Controls()->All().back()->Remove();
-    const auto webs = RecentWebs(host_.platform);
-    for (std::size_t i = 0; i < webs.size(); ++i) {
-        const QString caption = QString("&%1 %2").arg(i + 1).arg(Unmarked(ToQt(webs[i])));
-        const auto control =
-            recentWebs_->Controls()->Append({.look = {.caption = FromQt(caption)}});
-        const std::string web = webs[i];
-        // The list is made anew by the click, so the click must be over by then.
-        recentClicks_.push_back(control->OnClick([this, web] {
-            QMetaObject::invokeMethod(
-                this, [this, web] { OpenWeb(web); }, Qt::QueuedConnection);
-        }));
-    }
-    recentWebs_->Set(&HostControlLook::isEnabled, !webs.empty());
 }
 
 bool HostWindow::OpenWeb(const std::string& folder) {
@@ -249,11 +145,11 @@ void HostWindow::OpenPage(const WebPath& page) {
             return tabs_->setCurrentIndex(i);
     }
     auto* const view = new WebPageView(host_.pages, files_, tabs_);
-    const int index = tabs_->addTab(view, ToQt(page.back()));
+    const int index = tabs_->addTab(view, WithoutAccessKey(ToQt(page.back())));
     connect(view, &WebPageView::PageChanged, this, [this, view] {
         const WebPath& shown = view->Page();
         const int tab = tabs_->indexOf(view);
-        tabs_->setTabText(tab, shown.empty() ? QString() : Unmarked(ToQt(shown.back())));
+        tabs_->setTabText(tab, shown.empty() ? QString() : WithoutAccessKey(ToQt(shown.back())));
         tabs_->setTabToolTip(tab, PlainToolTip(PathOf(shown)));
         WatchShown();
     });
@@ -278,11 +174,8 @@ void HostWindow::CloseTab(int index) {
 }
 
 void HostWindow::ShowCurrentPage() {
-    for (const auto& [menu, id] :
-         {std::pair(HostMenu::kFile, kCloseId), std::pair(HostMenu::kFormat, kThemeOfPageId)}) {
-        const auto command = host_.frontPage.HostBars().Menu(menu).Find(id, {}, false);
-        if (command) command->Set(&HostControlLook::isEnabled, tabs_->count() > 0);
-    }
+    for (const auto& command : pageCommands_)
+        command->Set(&HostControlLook::isEnabled, tabs_->count() > 0);
     emit SelectionChanged();
 }
 

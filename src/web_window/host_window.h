@@ -80,8 +80,11 @@ class HostWindow : public QMainWindow {
     };
 
     void AddCommands();
-    void AddPageCommands();
-    void AddCommand(HostMenu menu, const Command& command, std::function<void()> clicked);
+    void AddViewCommands();
+    std::shared_ptr<HostControl> AddCommand(HostMenu menu, const Command& command,
+                                            std::function<void()> clicked);
+    // Adds a command that is disabled while no page is open.
+    void AddPageCommand(HostMenu menu, const Command& command, std::function<void()> clicked);
     void FocusOtherPane();
     void RecalculateHyperlinks();
     void FillRecentWebs();
@@ -104,6 +107,7 @@ class HostWindow : public QMainWindow {
     std::vector<std::unique_ptr<ClickEvents>> clicks_;
     std::vector<std::unique_ptr<ClickEvents>> recentClicks_;
     std::shared_ptr<HostControl> recentWebs_;
+    std::vector<std::shared_ptr<HostControl>> pageCommands_;
     // The window's own view of the open web: the host may be at work on its own meanwhile.
     std::shared_ptr<const WebFiles> files_;
     std::unique_ptr<WebTreeModel> model_;
