@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
-#include <QInputDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
@@ -21,7 +21,6 @@
 #include "shared/settings.h"
 #include "web_host/disk_application.h"
 #include "web_host/page_walk.h"
-#include "web_host/theme_of_page.h"
 #include "web_window/recent_webs.h"
 #include "web_window/web_tree_model.h"
 
@@ -70,6 +69,8 @@ HostWindow::HostWindow(const HostParts& host)
     connect(&watcher_, &WebWatcher::Changed, this, &HostWindow::DiskHasChanged);
     AddCommands();
     RestorePlace();
+    setWindowTitle("Morpho");
+    Tell({"No web is open. To open one, choose File, Open Web."});
     ShowCurrentPage();
 }
 
@@ -82,30 +83,36 @@ HostWindow::~HostWindow() {
         delete tabs_->widget(0);
 }
 
-bool HostWindow::OpenWeb(const std::string& folder) {
-    if (runner_.IsRunning()) return false;
+void HostWindow::LoadWeb(const std::string& folder) {
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    std::string failure;
     try {
         runner_.Run([&] { host_.openWeb(folder); });
-    } catch (const RunTimeError& error) {
-        failure = error.what();
+    } catch (const RunTimeError&) {
+        QApplication::restoreOverrideCursor();
+        throw;
     }
     QApplication::restoreOverrideCursor();
-    if (!failure.empty()) {
-        QMessageBox::warning(this, "Morpho", ToQt(failure));
-        return false;
-    }
     AddRecentWeb(host_.platform, folder);
     FillRecentWebs();
     ShowWeb();
-    return true;
+}
+
+bool HostWindow::OpenWeb(const std::string& folder) {
+    if (runner_.IsRunning()) return false;
+    try {
+        LoadWeb(folder);
+        return true;
+    } catch (const RunTimeError& error) {
+        QMessageBox::warning(this, "Morpho", ToQt(error.what()));
+        return false;
+    }
 }
 
 bool HostWindow::AskForWeb() {
     const auto webs = RecentWebs(host_.platform);
-    const QString folder = QFileDialog::getExistingDirectory(
-        this, "Open Web", webs.empty() ? QDir::homePath() : ToQt(webs.front()));
+    // Another web is more likely to stand beside the last one than in it.
+    const QString start = webs.empty() ? QDir::homePath() : QFileInfo(ToQt(webs.front())).path();
+    const QString folder = QFileDialog::getExistingDirectory(this, "Open Web", start);
     return !folder.isEmpty() && OpenWeb(FromQt(folder));
 }
 
@@ -122,14 +129,16 @@ void HostWindow::ShowWeb() {
     tree_->setCurrentIndex(model_->index(0, 0));
     tree_->setFocus();
     setWindowTitle(title + " - Morpho");
+    EnableCommands();
     Tell(web->Repairs());
     ShowHomePage();
     WatchShown();
 }
 
 void HostWindow::ShowHomePage() {
-    const auto page = FindFile(*files_, {});
-    if (page) OpenPage(*page);
+    if (const auto page = FindFile(*files_, {})) return OpenPage(*page);
+    if (host_.frontPage.Session()->Repairs().empty())
+        Tell({"The web has no home page. A double click in the tree opens a page."});
 }
 
 void HostWindow::OpenEntry(const QModelIndex& index) {
@@ -174,8 +183,7 @@ void HostWindow::CloseTab(int index) {
 }
 
 void HostWindow::ShowCurrentPage() {
-    for (const auto& command : pageCommands_)
-        command->Set(&HostControlLook::isEnabled, tabs_->count() > 0);
+    EnableCommands();
     emit SelectionChanged();
 }
 
@@ -206,29 +214,6 @@ void HostWindow::RefreshViews() {
     for (int i = 0; i < tabs_->count(); ++i)
         static_cast<WebPageView*>(tabs_->widget(i))->ReadAgain();
     WatchShown();
-}
-
-void HostWindow::AskForThemeOfPage() {
-    const WebPageView* const page = CurrentPage();
-    const auto web = host_.frontPage.Session();
-    if (!page || !web || web->Themes().empty()) return Tell({"The web has no themes."});
-    QStringList labels;
-    for (const Theme& theme : web->Themes())
-        labels += QString("%1 (%2)").arg(ToQt(theme.label), ToQt(theme.name));
-    bool chosen = false;
-    const QString label =
-        QInputDialog::getItem(this, "Theme of This Page", "&Theme:", labels, 0, false, &chosen);
-    const auto index = static_cast<std::size_t>(labels.indexOf(label));
-    if (chosen) GiveTheme(page->Page(), web->Themes()[index].name);
-}
-
-void HostWindow::GiveTheme(const WebPath& page, const std::string& theme) {
-    try {
-        Tell({GiveThemeToPage(*host_.frontPage.Session(), page, theme)});
-    } catch (const RunTimeError& error) {
-        Tell({error.what()});
-    }
-    RefreshViews();
 }
 
 void HostWindow::AskLater(const QString& question, const std::function<void()>& yes) {

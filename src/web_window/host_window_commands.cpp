@@ -1,14 +1,18 @@
 // The commands of the host's own in its menus. The add-ins add theirs.
 
 #include <QAction>
+#include <QInputDialog>
+#include <QMessageBox>
 #include <QTabWidget>
 #include <QTreeView>
 
+#include "platform/environment.h"
 #include "platform/platform.h"
 #include "platform/run_time_error.h"
 #include "platform/shell.h"
 #include "qt/qt_text.h"
 #include "web_host/disk_application.h"
+#include "web_host/theme_of_page.h"
 #include "web_window/host_window.h"
 #include "web_window/recent_webs.h"
 
@@ -22,6 +26,7 @@ constexpr int kExitId = 752;
 constexpr int kRefreshId = 459;
 constexpr int kRecentId = 30126;
 constexpr int kHelpId = 984;
+constexpr int kAboutId = 927;
 // FrontPage has no commands of these numbers.
 constexpr int kThemeOfPageId = 40001;
 constexpr int kRecalculateId = 40002;
@@ -41,23 +46,24 @@ void HostWindow::AddCommands() {
             .Append({.type = kPopupControl, .id = kRecentId, .look = {.caption = "&Recent Webs"}});
     AddPageCommand(HostMenu::kFile, {kCloseId, "&Close Page", QKeySequence("Ctrl+W")},
                    [this] { CloseTab(tabs_->currentIndex()); });
-    AddCommand(HostMenu::kFile, {kRecalculateId, "Recalculate &Hyperlinks", {}, true},
-               [this] { RecalculateHyperlinks(); });
+    AddWebCommand(HostMenu::kFile, {kRecalculateId, "Recalculate &Hyperlinks", {}, true},
+                  [this] { RecalculateHyperlinks(); });
     AddCommand(HostMenu::kFile, {kExitId, "E&xit", QKeySequence("Ctrl+Q"), true},
                [this] { close(); });
     AddViewCommands();
     AddPageCommand(HostMenu::kFormat, {kThemeOfPageId, "Theme of This &Page...", {}},
                    [this] { AskForThemeOfPage(); });
     AddCommand(HostMenu::kHelp, {kHelpId, "Morpho &Help", QKeySequence("F1")},
-               [this] { host_.platform.shell.WinExec("Winhlp32.exe morpho.hlp", 1); });
+               [this] { ShowHelp(); });
+    AddCommand(HostMenu::kHelp, {kAboutId, "&About Morpho", {}, true}, [this] { ShowAbout(); });
     FillRecentWebs();
 }
 
 void HostWindow::AddViewCommands() {
-    AddCommand(HostMenu::kView, {kRefreshId, "&Refresh", QKeySequence("F5")},
-               [this] { RefreshViews(); });
-    AddCommand(HostMenu::kView, {kOtherPaneId, "&Other Pane", QKeySequence("F6")},
-               [this] { FocusOtherPane(); });
+    AddWebCommand(HostMenu::kView, {kRefreshId, "&Refresh", QKeySequence("F5")},
+                  [this] { RefreshViews(); });
+    AddWebCommand(HostMenu::kView, {kOtherPaneId, "&Other Pane", QKeySequence("F6")},
+                  [this] { FocusOtherPane(); });
     AddPageCommand(HostMenu::kView, {kBackId, "&Back", QKeySequence("Alt+Left"), true},
                    [this] { CurrentPage()->back(); });
     AddPageCommand(HostMenu::kView, {kNextPictureId, "Select &Next Picture", QKeySequence("F8")},
@@ -82,6 +88,34 @@ void HostWindow::AddPageCommand(HostMenu menu, const Command& command,
     pageCommands_.push_back(AddCommand(menu, command, std::move(clicked)));
 }
 
+void HostWindow::AddWebCommand(HostMenu menu, const Command& command,
+                               std::function<void()> clicked) {
+    webCommands_.push_back(AddCommand(menu, command, std::move(clicked)));
+}
+
+void HostWindow::EnableCommands() {
+    for (const auto& command : webCommands_)
+        command->Set(&HostControlLook::isEnabled, model_ != nullptr);
+    for (const auto& command : pageCommands_)
+        command->Set(&HostControlLook::isEnabled, tabs_->count() > 0);
+}
+
+void HostWindow::ShowHelp() {
+    constexpr int kHighestFailure = 31;
+    if (host_.platform.shell.WinExec("Winhlp32.exe morpho.hlp", 1) <= kHighestFailure)
+        Tell({"The help cannot be opened: its page, or a browser, is missing."});
+}
+
+void HostWindow::ShowAbout() {
+    const ComponentVersion version = host_.platform.environment.Version();
+    QMessageBox::about(this, "About Morpho",
+                       QString("<b>Morpho</b><p>Version %1.%2.%3<p>Recolours the themes and "
+                               "pictures of FrontPage webs.<br>This window shows a web folder.")
+                           .arg(version.major)
+                           .arg(version.minor)
+                           .arg(version.revision));
+}
+
 void HostWindow::FocusOtherPane() {
     QWidget* const page = tabs_->currentWidget();
     (tree_->hasFocus() && page ? page : tree_)->setFocus(Qt::ShortcutFocusReason);
@@ -96,6 +130,29 @@ void HostWindow::RecalculateHyperlinks() {
     } catch (const RunTimeError& error) {
         Tell({error.what()});
     }
+}
+
+void HostWindow::AskForThemeOfPage() {
+    const WebPageView* const page = CurrentPage();
+    const auto web = host_.frontPage.Session();
+    if (!page || !web || web->Themes().empty()) return Tell({"The web has no themes."});
+    QStringList labels;
+    for (const Theme& theme : web->Themes())
+        labels += QString("%1 (%2)").arg(ToQt(theme.label), ToQt(theme.name));
+    bool chosen = false;
+    const QString label =
+        QInputDialog::getItem(this, "Theme of This Page", "&Theme:", labels, 0, false, &chosen);
+    const auto index = static_cast<std::size_t>(labels.indexOf(label));
+    if (chosen) GiveTheme(page->Page(), web->Themes()[index].name);
+}
+
+void HostWindow::GiveTheme(const WebPath& page, const std::string& theme) {
+    try {
+        Tell({GiveThemeToPage(*host_.frontPage.Session(), page, theme)});
+    } catch (const RunTimeError& error) {
+        Tell({error.what()});
+    }
+    RefreshViews();
 }
 
 void HostWindow::FillRecentWebs() {
