@@ -24,13 +24,16 @@ std::string MarkupFor(const OwnTheme& theme) {
     return markup;
 }
 
-// Where the tag goes in a page without one: behind its head's start.
+// Where the tag goes in a page without one: at its head's end, where FrontPage puts it.
 std::size_t PlaceForTag(const std::string& page) {
     HtmlTagReader tags(page);
+    std::optional<std::size_t> insideHead;
     while (const auto tag = tags.Next()) {
-        if (tag->name == "head") return tag->end;
-        if (tag->name == "body" || tag->name == "frameset") return tag->begin;
+        if (tag->name == "/head" || tag->name == "body" || tag->name == "frameset")
+            return tag->begin;
+        if (tag->name == "head") insideHead = tag->end;
     }
+    if (insideHead) return *insideHead;
     throw RunTimeError(ErrorNumber::kInvalidFileFormat,
                        "The page has no head that could name a theme.");
 }
@@ -42,7 +45,7 @@ std::string WithoutDefault(std::string page, const ThemeMark& mark) {
 }  // namespace
 
 std::optional<std::string> PageWithOwnTheme(std::string_view page, const OwnTheme& theme,
-                                            const std::function<bool(const ThemeAddress&)>& moves) {
+                                            const FileInNewTheme& newFile) {
     const PageText coded(page);
     std::string text = coded.Text();
     auto mark = FindThemeMark(text);
@@ -53,7 +56,7 @@ std::optional<std::string> PageWithOwnTheme(std::string_view page, const OwnThem
         text.replace(mark->tagBegin, mark->tagEnd - mark->tagBegin, MarkupFor(theme));
     } else {
         const auto changed =
-            PageWithTheme(text, theme.name, {.ofWeb = true, .ownTheme = mark->theme.name}, moves);
+            PageWithTheme(text, theme.name, {.ofWeb = true, .ownTheme = mark->theme.name}, newFile);
         if (changed) text = *changed;
         mark = FindThemeMark(text);
         if (mark->theme.ofWeb) text = WithoutDefault(text, *mark);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,11 +18,11 @@ struct OwnTheme {
 };
 
 // The page with this theme as its own, independent of the web's. A page that had a theme gets the
-// name in its theme tag and in those addresses of the old theme for which `moves` returns true; a
-// page without one gets the tag and links to the style sheets. All other bytes stay. Nothing when
-// it has the theme as its own already. Throws RunTimeError for a page in broken UTF-16, and for one
-// without a place for the tag.
+// name in its theme tag, and theme and file in the addresses of the old theme for which `newFile`
+// has a file; a page without one gets the tag and links to the style sheets at its head's end. All
+// other bytes stay. Nothing when it has the theme as its own already. Throws RunTimeError for a
+// page in broken UTF-16, and for one without a place for the tag.
 std::optional<std::string> PageWithOwnTheme(std::string_view page, const OwnTheme& theme,
-                                            const std::function<bool(const ThemeAddress&)>& moves);
+                                            const FileInNewTheme& newFile);
 
 }  // namespace morpho

@@ -26,7 +26,7 @@ class Replacing {
 };
 
 std::string WithTheme(const std::string& page, const ThemeMark& mark, std::string_view theme,
-                      const std::function<bool(const ThemeAddress&)>& moves) {
+                      const FileInNewTheme& newFile) {
     Replacing result(page);
     const std::string inAddress = EncodedPercents(theme);
     bool marked = false;
@@ -35,9 +35,13 @@ std::string WithTheme(const std::string& page, const ThemeMark& mark, std::strin
         marked = true;
     };
     for (const ThemeAddress& address : ThemeAddresses(page)) {
-        if (!EqualIgnoringCase(address.theme, mark.theme.name) || !moves(address)) continue;
+        if (!EqualIgnoringCase(address.theme, mark.theme.name)) continue;
+        const auto file = newFile(address);
+        if (!file) continue;
         if (address.nameBegin > mark.nameBegin) replaceMark();
         result.Replace(address.nameBegin, address.nameLength, inAddress);
+        if (*file != address.file)
+            result.Replace(address.fileBegin, address.fileLength, EncodedPercents(*file));
     }
     replaceMark();
     return result.Result();
@@ -46,13 +50,12 @@ std::string WithTheme(const std::string& page, const ThemeMark& mark, std::strin
 }  // namespace
 
 std::optional<std::string> PageWithTheme(std::string_view page, std::string_view theme,
-                                         const PageChoice& choice,
-                                         const std::function<bool(const ThemeAddress&)>& moves) {
+                                         const PageChoice& choice, const FileInNewTheme& newFile) {
     const PageText text(page);
     const auto mark = FindThemeMark(text.Text());
     if (!mark || !choice.Has(mark->theme)) return {};
     if (EqualIgnoringCase(mark->theme.name, theme)) return {};
-    auto bytes = text.BytesOf(WithTheme(text.Text(), *mark, theme, moves));
+    auto bytes = text.BytesOf(WithTheme(text.Text(), *mark, theme, newFile));
     if (!bytes) throw RunTimeError(ErrorNumber::kInvalidFileFormat, "The page is broken UTF-16.");
     return bytes;
 }

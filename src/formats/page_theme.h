@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,12 +9,11 @@
 
 namespace morpho {
 
-// The page with this theme in place of its own: the name in its theme tag and in those addresses of
-// the old theme's folder for which `moves` returns true. All other bytes stay.
+// The page with this theme in place of its own: the name in its theme tag, and theme and file in
+// the addresses of the old theme's folder for which `newFile` has a file. All other bytes stay.
 // Nothing when there is nothing to change: the page has no theme, none that is chosen, or this one.
 // `theme` is a folder name, UTF-8. Throws RunTimeError for a page in broken UTF-16.
 std::optional<std::string> PageWithTheme(std::string_view page, std::string_view theme,
-                                         const PageChoice& choice,
-                                         const std::function<bool(const ThemeAddress&)>& moves);
+                                         const PageChoice& choice, const FileInNewTheme& newFile);
 
 }  // namespace morpho

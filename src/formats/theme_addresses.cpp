@@ -114,7 +114,10 @@ class AddressFinder {
         std::string ends = "?#<>)\r\n";
         ends += quoted ? std::string(1, quote_) : std::string(" \t\"'");
         const std::string_view rest = page_.substr(fileBegin_, end - std::min(end, fileBegin_));
-        found_.back().file = DecodedName(rest.substr(0, rest.find_first_of(ends)));
+        const std::string_view file = rest.substr(0, rest.find_first_of(ends));
+        found_.back().fileBegin = fileBegin_;
+        found_.back().fileLength = file.size();
+        found_.back().file = DecodedName(file);
         fileBegin_ = 0;
     }
 

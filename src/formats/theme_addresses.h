@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,9 +13,15 @@ namespace morpho {
 struct ThemeAddress {
     std::size_t nameBegin = 0;  // place of NAME in the page
     std::size_t nameLength = 0;
-    std::string theme;  // NAME with its escapes resolved, UTF-8
-    std::string file;   // FILE likewise
+    std::string theme;          // NAME with its escapes resolved, UTF-8
+    std::size_t fileBegin = 0;  // place of FILE in the page
+    std::size_t fileLength = 0;
+    std::string file;  // FILE likewise
 };
+
+// Which file of another theme such an address leads to when the page gets that theme: a name,
+// UTF-8. Nothing where the address stays as it is.
+using FileInNewTheme = std::function<std::optional<std::string>(const ThemeAddress&)>;
 
 // All such addresses in a page's tags, comments, scripts and styles, in order; what a reader sees
 // of the page as text has none. Before "_themes" stand only steps upwards, or "/": what leads to

@@ -89,11 +89,6 @@ void ShowWebWindow(const WebRequest& request) {
                             resources, clipboard, request.hostVersion);
     const std::string folder = FolderOf(request, desktop.Parts());
     const auto open = [&](const std::string& web) { desktop.OpenForSaving(web); };
-    // A folder that is not there is the command's error, not the window's.
-    if (!request.web.empty() && !std::filesystem::is_directory(folder)) {
-        throw CommandError(CommandError::Status::kRefused,
-                           "There is no folder \"" + folder + "\".");
-    }
     HostWindow window({desktop.FrontPage(), desktop.Parts(), toolkit.Pages(), open});
     Component component;
     const Program program{desktop.Parts(), component};
@@ -108,7 +103,15 @@ void ShowWebWindow(const WebRequest& request) {
     desktop.FrontPage().SetLog([&](std::string_view line) { WriteLog(program, line); });
     window.show();
     const ConnectedAddIns addIns(program, desktop.SharedFrontPage());
-    if (folder.empty() ? window.AskForWeb() : window.OpenWeb(folder)) QApplication::exec();
+    // A web that was named and cannot be opened is the command's error, not the window's.
+    if (!request.web.empty()) {
+        window.LoadWeb(folder);
+    } else if (!folder.empty()) {
+        window.OpenWeb(folder);
+    } else {
+        window.AskForWeb();
+    }
+    QApplication::exec();
 }
 
 }  // namespace morpho

@@ -15,11 +15,15 @@ std::string FromQt(const QString& text) {
 }
 
 QString MarkedCaptionOf(const Control& control) {
-    const auto escaped = [](std::string_view text) { return ToQt(text).replace("&", "&&"); };
+    const auto escaped = [](std::string_view text) { return WithoutAccessKey(ToQt(text)); };
     const std::string_view caption = control.Caption();
     const std::size_t at = control.AccessKeyAt();
     if (at == std::string::npos) return escaped(caption);
     return escaped(caption.substr(0, at)) + "&" + escaped(caption.substr(at));
+}
+
+QString WithoutAccessKey(QString text) {
+    return text.replace("&", "&&");
 }
 
 QString PlainToolTip(const QString& text) {

@@ -18,6 +18,9 @@ std::string FromQt(const QString& text);
 // letter, every other "&" doubled.
 QString MarkedCaptionOf(const Control& control);
 
+// A text as a caption that has no access key: every "&" doubled.
+QString WithoutAccessKey(QString text);
+
 // A text that Qt shows as it is, even when it looks like rich text.
 QString PlainToolTip(const QString& text);
 

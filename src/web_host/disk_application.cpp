@@ -111,15 +111,18 @@ std::unique_ptr<SaveTransaction> DiskApplication::BeginSave(std::string_view the
 
 void DiskApplication::ApplyInPlaceOf(const std::string& themeName, const std::string& earlier) {
     if (!web_) RefuseCall("No web is open.");
-    const bool isOfWeb = EqualIgnoringCase(ThemeOfWeb(web_->Files().Root()), earlier);
-    const PageChoice pages{.ofWeb = isOfWeb, .ownTheme = earlier};
-    if (!HasPage(web_->Files(), pages))
-        RefuseCall("No page of the web has the theme \"" + earlier + "\".");
-    WebSaveTransaction change(*web_, themeName, WebSaveTransaction::Purpose::kApply);
-    change.ChoosePages(pages);
-    change.ApplyTheme(themeName);
-    change.RefreshAtCommit();
-    change.Commit();
+    // The search for a page, too, may read them all.
+    web_->Work().run([&] {
+        const bool isOfWeb = EqualIgnoringCase(ThemeOfWeb(web_->Files().Root()), earlier);
+        const PageChoice pages{.ofWeb = isOfWeb, .ownTheme = earlier};
+        if (!HasPage(web_->Files(), pages))
+            RefuseCall("No page of the web has the theme \"" + earlier + "\".");
+        WebSaveTransaction change(*web_, themeName, WebSaveTransaction::Purpose::kApply);
+        change.ChoosePages(pages);
+        change.ApplyTheme(themeName);
+        change.RefreshAtCommit();
+        change.Commit();
+    });
 }
 
 }  // namespace morpho

@@ -59,10 +59,13 @@ std::optional<std::string> DiskWeb::Property(std::string_view key) const {
 
 void DiskWeb::ApplyTheme(std::string_view themeName) {
     const std::string name(themeName);
-    if (web_->Transaction()) return web_->Transaction()->ApplyTheme(name);
-    WebSaveTransaction change(*web_, name, WebSaveTransaction::Purpose::kApply);
-    change.ApplyTheme(name);
-    change.Commit();
+    // Comparing and writing the theme's files takes a while, too, not only the pages.
+    web_->Work().run([&] {
+        if (web_->Transaction()) return web_->Transaction()->ApplyTheme(name);
+        WebSaveTransaction change(*web_, name, WebSaveTransaction::Purpose::kApply);
+        change.ApplyTheme(name);
+        change.Commit();
+    });
 }
 
 void DiskWeb::Refresh() {

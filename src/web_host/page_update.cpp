@@ -53,7 +53,7 @@ void PageUpdate::Visit(const WebPage& page) {
         const std::string bytes = ReadWholeFile(*page.folder, page.name, kMaxPageBytes);
         auto changed =
             theme_ ? PageWithTheme(bytes, *theme_, choice_,
-                                   [this](const ThemeAddress& address) { return Moves(address); })
+                                   [this](const ThemeAddress& address) { return NewFile(address); })
                    : std::nullopt;
         const std::string text = PageText(changed ? *changed : bytes).Text();
         NoteBroken(page.url, text);
@@ -70,12 +70,10 @@ void PageUpdate::Visit(const WebPage& page) {
     if (changes_.size() >= kMaxGroup || changedBytes_ >= kMaxGroupBytes) Write();
 }
 
-// An address stays where it would lead nowhere in the new theme.
-bool PageUpdate::Moves(const ThemeAddress& address) {
-    const bool stays =
-        !files_.Has(*theme_, address.file) && files_.Has(address.theme, address.file);
-    if (stays) kept_.insert(address.file);
-    return !stays;
+std::optional<std::string> PageUpdate::NewFile(const ThemeAddress& address) {
+    auto file = files_.FileFor(address, *theme_);
+    if (!file) kept_.insert(address.file);
+    return file;
 }
 
 // The page may have the theme already, or one of its own.

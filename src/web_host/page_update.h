@@ -67,7 +67,7 @@ class PageUpdate {
                      const std::vector<FolderEntry>& entries);
     void Visit(const WebPage& page);
     void Advance(std::size_t pages);
-    bool Moves(const ThemeAddress& address);
+    std::optional<std::string> NewFile(const ThemeAddress& address);
     void LookAtUnchanged(const std::string& text);
     void CountKept(const std::string& theme);
     void NoteBroken(const std::string& url, const std::string& text);

@@ -77,14 +77,12 @@ std::string GiveThemeToPage(WebSession& web, const WebPath& page, const std::str
     const std::string bytes = ReadWholeFile(*folder, page.back(), kMaxPageBytes);
     ThemeFiles themes(files);
     std::set<std::string> stay;
-    // An address stays where it would lead nowhere in the new theme.
-    const auto moves = [&](const ThemeAddress& address) {
-        const bool stays =
-            !themes.Has(name, address.file) && themes.Has(address.theme, address.file);
-        if (stays) stay.insert(address.file);
-        return !stays;
+    const auto newFile = [&](const ThemeAddress& address) {
+        auto file = themes.FileFor(address, name);
+        if (!file) stay.insert(address.file);
+        return file;
     };
-    const auto changed = PageWithOwnTheme(bytes, OwnThemeFor(files, page, name), moves);
+    const auto changed = PageWithOwnTheme(bytes, OwnThemeFor(files, page, name), newFile);
     if (changed) WriteWholeFile(*folder, page.back(), *changed, Durability::kFlushed);
     return StillUsed(name, stay);
 }

@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
-#include <QInputDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
@@ -17,12 +17,10 @@
 
 #include "platform/platform.h"
 #include "platform/run_time_error.h"
-#include "platform/shell.h"
 #include "qt/qt_text.h"
 #include "shared/settings.h"
 #include "web_host/disk_application.h"
 #include "web_host/page_walk.h"
-#include "web_host/theme_of_page.h"
 #include "web_window/recent_webs.h"
 #include "web_window/web_tree_model.h"
 
@@ -30,30 +28,10 @@ namespace morpho {
 
 namespace {
 
-// Identifiers of the host's own commands.
-constexpr int kOpenWebId = 23;
-constexpr int kCloseId = 106;
-constexpr int kExitId = 752;
-constexpr int kRefreshId = 459;
-constexpr int kRecentId = 30126;
-// Those from 40000 on are not FrontPage's.
-constexpr int kHelpId = 984;
-constexpr int kThemeOfPageId = 40000;
-constexpr int kRecalculateId = 40001;
-constexpr int kOtherPaneId = 40002;
-constexpr int kBackId = 40003;
-constexpr int kNextPictureId = 40004;
-constexpr int kPreviousPictureId = 40005;
-
 constexpr std::string_view kApplication = "Morpho";
 constexpr std::string_view kSection = "Web Window";
 constexpr int kTreeWidth = 240;  // pixels
 constexpr int kAskAgainMilliseconds = 200;
-
-// A name in a menu, where "&" would mark an access key.
-QString Unmarked(QString text) {
-    return text.replace("&", "&&");
-}
 
 }  // namespace
 
@@ -91,6 +69,8 @@ HostWindow::HostWindow(const HostParts& host)
     connect(&watcher_, &WebWatcher::Changed, this, &HostWindow::DiskHasChanged);
     AddCommands();
     RestorePlace();
+    setWindowTitle("Morpho");
+    Tell({"No web is open. To open one, choose File, Open Web."});
     ShowCurrentPage();
 }
 
@@ -103,113 +83,36 @@ HostWindow::~HostWindow() {
         delete tabs_->widget(0);
 }
 
-void HostWindow::AddCommands() {
-    AddCommand(HostMenu::kFile, {kOpenWebId, "&Open Web...", QKeySequence::Open},
-               [this] { AskForWeb(); });
-    recentWebs_ =
-        host_.frontPage.HostBars()
-            .Menu(HostMenu::kFile)
-            .Append({.type = kPopupControl, .id = kRecentId, .look = {.caption = "&Recent Webs"}});
-    AddCommand(HostMenu::kFile, {kCloseId, "&Close Page", QKeySequence("Ctrl+W")},
-               [this] { CloseTab(tabs_->currentIndex()); });
-    AddCommand(HostMenu::kFile, {kRecalculateId, "Recalculate &Hyperlinks", {}, true},
-               [this] { RecalculateHyperlinks(); });
-    AddCommand(HostMenu::kFile, {kExitId, "E&xit", QKeySequence("Ctrl+Q"), true},
-               [this] { close(); });
-    AddCommand(HostMenu::kView, {kRefreshId, "&Refresh", QKeySequence("F5")},
-               [this] { RefreshViews(); });
-    AddCommand(HostMenu::kView, {kOtherPaneId, "&Other Pane", QKeySequence("F6")},
-               [this] { FocusOtherPane(); });
-    AddCommand(HostMenu::kFormat, {kThemeOfPageId, "Theme of This &Page...", {}},
-               [this] { AskForThemeOfPage(); });
-    AddCommand(HostMenu::kHelp, {kHelpId, "Morpho &Help", QKeySequence("F1")},
-               [this] { host_.platform.shell.WinExec("Winhlp32.exe morpho.hlp", 1); });
-    AddPageCommands();
-    FillRecentWebs();
-}
-
-void HostWindow::AddPageCommands() {
-    const auto onPage = [this](auto work) {
-        return [this, work] {
-            if (WebPageView* const page = CurrentPage()) work(*page);
-        };
-    };
-    AddCommand(HostMenu::kView, {kBackId, "&Back", QKeySequence("Alt+Left"), true},
-               onPage([](WebPageView& page) { page.back(); }));
-    AddCommand(HostMenu::kView, {kNextPictureId, "Select &Next Picture", QKeySequence("F8")},
-               onPage([](WebPageView& page) { page.StepPicture(1); }));
-    AddCommand(HostMenu::kView,
-               {kPreviousPictureId, "Select &Previous Picture", QKeySequence("Shift+F8")},
-               onPage([](WebPageView& page) { page.StepPicture(-1); }));
-}
-
-void HostWindow::AddCommand(HostMenu menu, const Command& command, std::function<void()> clicked) {
-    const auto control = host_.frontPage.HostBars().Menu(menu).Append(
-        {.id = command.id,
-         .look = {.caption = command.caption, .beginsGroup = command.beginsGroup}});
-    clicks_.push_back(control->OnClick(std::move(clicked)));
-    bars_.ActionOf(*control)->setShortcut(command.keys);
-}
-
-void HostWindow::FocusOtherPane() {
-    QWidget* const page = tabs_->currentWidget();
-    (tree_->hasFocus() && page ? page : tree_)->setFocus(Qt::ShortcutFocusReason);
-}
-
-void HostWindow::RecalculateHyperlinks() {
-    const auto web = host_.frontPage.ActiveWeb();
-    if (!web) return;
+void HostWindow::LoadWeb(const std::string& folder) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
     try {
-        web->RecalcHyperlinks();
-        Tell({"The hyperlinks to themes are recalculated; the log has the broken ones."});
-    } catch (const RunTimeError& error) {
-        Tell({error.what()});
+        runner_.Run([&] { host_.openWeb(folder); });
+    } catch (const RunTimeError&) {
+        QApplication::restoreOverrideCursor();
+        throw;
     }
-}
-
-void HostWindow::FillRecentWebs() {
-    recentClicks_.clear();
-    while (recentWebs_->Controls()->Count() > 0)
-        recentWebs_->Controls()->All().back()->Remove();
-    const auto webs = RecentWebs(host_.platform);
-    for (std::size_t i = 0; i < webs.size(); ++i) {
-        const QString caption = QString("&%1 %2").arg(i + 1).arg(Unmarked(ToQt(webs[i])));
-        const auto control =
-            recentWebs_->Controls()->Append({.look = {.caption = FromQt(caption)}});
-        const std::string web = webs[i];
-        // The list is made anew by the click, so the click must be over by then.
-        recentClicks_.push_back(control->OnClick([this, web] {
-            QMetaObject::invokeMethod(
-                this, [this, web] { OpenWeb(web); }, Qt::QueuedConnection);
-        }));
-    }
-    recentWebs_->Set(&HostControlLook::isEnabled, !webs.empty());
+    QApplication::restoreOverrideCursor();
+    AddRecentWeb(host_.platform, folder);
+    FillRecentWebs();
+    ShowWeb();
 }
 
 bool HostWindow::OpenWeb(const std::string& folder) {
     if (runner_.IsRunning()) return false;
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    std::string failure;
     try {
-        runner_.Run([&] { host_.openWeb(folder); });
+        LoadWeb(folder);
+        return true;
     } catch (const RunTimeError& error) {
-        failure = error.what();
-    }
-    QApplication::restoreOverrideCursor();
-    if (!failure.empty()) {
-        QMessageBox::warning(this, "Morpho", ToQt(failure));
+        QMessageBox::warning(this, "Morpho", ToQt(error.what()));
         return false;
     }
-    AddRecentWeb(host_.platform, folder);
-    FillRecentWebs();
-    ShowWeb();
-    return true;
 }
 
 bool HostWindow::AskForWeb() {
     const auto webs = RecentWebs(host_.platform);
-    const QString folder = QFileDialog::getExistingDirectory(
-        this, "Open Web", webs.empty() ? QDir::homePath() : ToQt(webs.front()));
+    // Another web is more likely to stand beside the last one than in it.
+    const QString start = webs.empty() ? QDir::homePath() : QFileInfo(ToQt(webs.front())).path();
+    const QString folder = QFileDialog::getExistingDirectory(this, "Open Web", start);
     return !folder.isEmpty() && OpenWeb(FromQt(folder));
 }
 
@@ -226,14 +129,16 @@ void HostWindow::ShowWeb() {
     tree_->setCurrentIndex(model_->index(0, 0));
     tree_->setFocus();
     setWindowTitle(title + " - Morpho");
+    EnableCommands();
     Tell(web->Repairs());
     ShowHomePage();
     WatchShown();
 }
 
 void HostWindow::ShowHomePage() {
-    const auto page = FindFile(*files_, {});
-    if (page) OpenPage(*page);
+    if (const auto page = FindFile(*files_, {})) return OpenPage(*page);
+    if (host_.frontPage.Session()->Repairs().empty())
+        Tell({"The web has no home page. A double click in the tree opens a page."});
 }
 
 void HostWindow::OpenEntry(const QModelIndex& index) {
@@ -249,11 +154,11 @@ void HostWindow::OpenPage(const WebPath& page) {
             return tabs_->setCurrentIndex(i);
     }
     auto* const view = new WebPageView(host_.pages, files_, tabs_);
-    const int index = tabs_->addTab(view, ToQt(page.back()));
+    const int index = tabs_->addTab(view, WithoutAccessKey(ToQt(page.back())));
     connect(view, &WebPageView::PageChanged, this, [this, view] {
         const WebPath& shown = view->Page();
         const int tab = tabs_->indexOf(view);
-        tabs_->setTabText(tab, shown.empty() ? QString() : Unmarked(ToQt(shown.back())));
+        tabs_->setTabText(tab, shown.empty() ? QString() : WithoutAccessKey(ToQt(shown.back())));
         tabs_->setTabToolTip(tab, PlainToolTip(PathOf(shown)));
         WatchShown();
     });
@@ -278,11 +183,7 @@ void HostWindow::CloseTab(int index) {
 }
 
 void HostWindow::ShowCurrentPage() {
-    for (const auto& [menu, id] :
-         {std::pair(HostMenu::kFile, kCloseId), std::pair(HostMenu::kFormat, kThemeOfPageId)}) {
-        const auto command = host_.frontPage.HostBars().Menu(menu).Find(id, {}, false);
-        if (command) command->Set(&HostControlLook::isEnabled, tabs_->count() > 0);
-    }
+    EnableCommands();
     emit SelectionChanged();
 }
 
@@ -313,29 +214,6 @@ void HostWindow::RefreshViews() {
     for (int i = 0; i < tabs_->count(); ++i)
         static_cast<WebPageView*>(tabs_->widget(i))->ReadAgain();
     WatchShown();
-}
-
-void HostWindow::AskForThemeOfPage() {
-    const WebPageView* const page = CurrentPage();
-    const auto web = host_.frontPage.Session();
-    if (!page || !web || web->Themes().empty()) return Tell({"The web has no themes."});
-    QStringList labels;
-    for (const Theme& theme : web->Themes())
-        labels += QString("%1 (%2)").arg(ToQt(theme.label), ToQt(theme.name));
-    bool chosen = false;
-    const QString label =
-        QInputDialog::getItem(this, "Theme of This Page", "&Theme:", labels, 0, false, &chosen);
-    const auto index = static_cast<std::size_t>(labels.indexOf(label));
-    if (chosen) GiveTheme(page->Page(), web->Themes()[index].name);
-}
-
-void HostWindow::GiveTheme(const WebPath& page, const std::string& theme) {
-    try {
-        Tell({GiveThemeToPage(*host_.frontPage.Session(), page, theme)});
-    } catch (const RunTimeError& error) {
-        Tell({error.what()});
-    }
-    RefreshViews();
 }
 
 void HostWindow::AskLater(const QString& question, const std::function<void()>& yes) {

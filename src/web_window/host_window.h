@@ -45,8 +45,10 @@ class HostWindow : public QMainWindow {
     explicit HostWindow(const HostParts& host);
     ~HostWindow() override;
 
-    // Opens a web and shows its home page. False when it cannot be opened, which the person is
-    // told; the earlier web then stays open.
+    // Opens a web and shows its home page. Throws RunTimeError when it cannot be opened; the
+    // earlier web then stays open.
+    void LoadWeb(const std::string& folder);
+    // The same; the person is told of a failure. False when the web was not opened.
     bool OpenWeb(const std::string& folder);
     // Asks for the folder of a web. False when none was opened.
     bool AskForWeb();
@@ -80,8 +82,16 @@ class HostWindow : public QMainWindow {
     };
 
     void AddCommands();
-    void AddPageCommands();
-    void AddCommand(HostMenu menu, const Command& command, std::function<void()> clicked);
+    void AddViewCommands();
+    std::shared_ptr<HostControl> AddCommand(HostMenu menu, const Command& command,
+                                            std::function<void()> clicked);
+    // Adds a command that is disabled while no web is open.
+    void AddWebCommand(HostMenu menu, const Command& command, std::function<void()> clicked);
+    // Adds a command that is disabled while no page is open.
+    void AddPageCommand(HostMenu menu, const Command& command, std::function<void()> clicked);
+    void EnableCommands();
+    void ShowHelp();
+    void ShowAbout();
     void FocusOtherPane();
     void RecalculateHyperlinks();
     void FillRecentWebs();
@@ -104,6 +114,8 @@ class HostWindow : public QMainWindow {
     std::vector<std::unique_ptr<ClickEvents>> clicks_;
     std::vector<std::unique_ptr<ClickEvents>> recentClicks_;
     std::shared_ptr<HostControl> recentWebs_;
+    std::vector<std::shared_ptr<HostControl>> webCommands_;
+    std::vector<std::shared_ptr<HostControl>> pageCommands_;
     // The window's own view of the open web: the host may be at work on its own meanwhile.
     std::shared_ptr<const WebFiles> files_;
     std::unique_ptr<WebTreeModel> model_;

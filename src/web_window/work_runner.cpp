@@ -76,17 +76,24 @@ void WorkRunner::Run(const std::function<void()>& work) {
 
 LongWork WorkRunner::ForHost() {
     return {.run = [this](const std::function<void()>& work) { Run(work); },
-            .advanced =
-                [this](std::size_t done, std::size_t found) {
-                    QMetaObject::invokeMethod(this,
-                                              [this, done, found] { ShowProgress(done, found); });
-                }};
+            .advanced = [this](std::size_t done, std::size_t found) { Advance(done, found); }};
 }
 
-void WorkRunner::ShowProgress(std::size_t done, std::size_t found) {
-    bar_.setRange(0, static_cast<int>(found));
-    bar_.setValue(static_cast<int>(done));
-    bar_.setFormat(QString("%1 of %2 pages").arg(done).arg(found));
+// The work may be done with thousands of pages before the bar is painted once: one event waits for
+// the window, and shows the latest numbers.
+void WorkRunner::Advance(std::size_t done, std::size_t found) {
+    pagesDone_ = done;
+    pagesFound_ = found;
+    if (!isProgressPosted_.exchange(true))
+        QMetaObject::invokeMethod(
+            this, [this] { ShowProgress(); }, Qt::QueuedConnection);
+}
+
+void WorkRunner::ShowProgress() {
+    isProgressPosted_ = false;
+    bar_.setRange(0, static_cast<int>(pagesFound_));
+    bar_.setValue(static_cast<int>(pagesDone_));
+    bar_.setFormat(QString("%1 of %2 pages").arg(pagesDone_.load()).arg(pagesFound_.load()));
 }
 
 // A spontaneous close is ignored, not lost: the person can ask again.

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QObject>
+#include <atomic>
+#include <cstddef>
 #include <functional>
 
 #include "web_host/long_work.h"
@@ -29,10 +31,15 @@ class WorkRunner : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void ShowProgress(std::size_t done, std::size_t found);
+    // Called on the thread of the work.
+    void Advance(std::size_t done, std::size_t found);
+    void ShowProgress();
 
     QProgressBar& bar_;
     bool isRunning_ = false;
+    std::atomic<std::size_t> pagesDone_ = 0;
+    std::atomic<std::size_t> pagesFound_ = 0;
+    std::atomic<bool> isProgressPosted_ = false;
 };
 
 }  // namespace morpho

@@ -20,10 +20,13 @@ std::string Meta(const std::string& content) {
 const std::string kMark = Meta("old 1011, default");
 const std::string kNewMark = Meta("new 1011, default");
 
-// The new theme has all files but "lacking.gif".
+// The new theme has all files but "lacking.gif", and another sheet in place of "old.css".
+std::optional<std::string> NewFile(const ThemeAddress& address) {
+    if (address.file == "lacking.gif") return {};
+    return address.file == "old.css" ? "a b.css" : address.file;
+}
 std::optional<std::string> Rethemed(const std::string& page, const std::string& theme = "new") {
-    return PageWithTheme(page, theme, PageChoice(),
-                         [](const ThemeAddress& address) { return address.file != "lacking.gif"; });
+    return PageWithTheme(page, theme, PageChoice(), NewFile);
 }
 void ExpectPage(const std::string& page, const std::string& expected,
                 const std::string& theme = "new") {
@@ -55,10 +58,9 @@ TEST(PageTheme, PagesThatDoNotTakeTheWebsThemeStay) {
 }
 
 TEST(PageTheme, PagesThatNameTheThemeThemselvesChangeWhereTheyAreChosen) {
-    const auto moves = [](const ThemeAddress&) { return true; };
     const auto rethemed = [&](const std::string& content, const PageChoice& choice) {
         const std::string page = Meta(content) + "<img src='_themes/old/a.gif'>";
-        return PageWithTheme(page, "new", choice, moves).value_or("unchanged");
+        return PageWithTheme(page, "new", choice, NewFile).value_or("unchanged");
     };
     const std::string rest = "<img src='_themes/new/a.gif'>";
     EXPECT_EQ(rethemed("Old 011", {true, "old"}), Meta("new 011") + rest);
@@ -71,8 +73,7 @@ TEST(PageTheme, PagesThatNameTheThemeThemselvesChangeWhereTheyAreChosen) {
 TEST(PageTheme, ASinglePageGetsAThemeOfItsOwn) {
     const OwnTheme theme{"new", "../", {"new11011.css"}};
     const auto expectOwn = [&](const std::string& page, const std::string& expected) {
-        const auto moves = [](const ThemeAddress&) { return true; };
-        EXPECT_EQ(PageWithOwnTheme(page, theme, moves).value_or("unchanged"), expected) << page;
+        EXPECT_EQ(PageWithOwnTheme(page, theme, NewFile).value_or("unchanged"), expected) << page;
     };
     const std::string link =
         "<!--mstheme--><link rel=\"stylesheet\" type=\"text/css\" "
@@ -84,6 +85,7 @@ TEST(PageTheme, ASinglePageGetsAThemeOfItsOwn) {
     expectOwn(Meta("new 011, default") + old, Meta("new 011") + old);
     expectOwn(Meta("new 011"), "unchanged");
     expectOwn(Meta("none, default") + "<p>", Meta("new 1011") + link + "<p>");
+    expectOwn("<head><p></head>", "<head><p>" + Meta("new 1011") + link + "</head>");
     expectOwn("<head><title>x</title>", "<head>" + Meta("new 1011") + link + "<title>x</title>");
     expectOwn("<body>", Meta("new 1011") + link + "<body>");
     // Tags that have no room for the name.
@@ -111,6 +113,7 @@ TEST(PageTheme, AddressesOfTheOldFolderChangeWhereverTheyStand) {
     expectRenamed("<!--webbot U-Src=\"_themes/", "/a.gif\" --><!-- x -->");
     ExpectBody("<img src=_themes/old/a.gif><img src=_themes/old/lacking.gif>",
                "<img src=_themes/new/a.gif><img src=_themes/old/lacking.gif>");
+    ExpectBody("<link href='_themes/old/o%6cd.css?x'>", "<link href='_themes/new/a%20b.css?x'>");
     ExpectBody("<img src='_themes/&#111;ld/a.gif'>", "<img src='_themes/new/a.gif'>");
     ExpectPage(
         "<link href='_themes/a%20b%E9/x.css'><meta name='Microsoft Theme' "

@@ -89,6 +89,16 @@ TEST_F(DiskWebTest, ASinglePageGetsAThemeOfTheWebAsItsOwn) {
     EXPECT_NE(give("page.html", "other").find("a.gif"), std::string::npos);
     EXPECT_EQ(folder_.Read("web/sub/page.html"),
               "<meta name='Microsoft Theme' content='Other 1011'><img src='../_themes/old/a.gif'>");
+    folder_.Write("web/_themes/old/xold1011-1252.css", "");
+    folder_.Write("web/_themes/old/xold0111.css", "");
+    folder_.Write("web/_themes/Other/Othe1011-1252.css", "");
+    folder_.Write("web/sub/sheet.htm", Page("old",
+                                            "<a b=../_themes/old/xold1011-1252.css>"
+                                            "<a b=../_themes/old/xold0111.css>"));
+    EXPECT_NE(give("sheet.htm", "other").find(": xold0111.css."), std::string::npos);
+    EXPECT_EQ(folder_.Read("web/sub/sheet.htm"),
+              "<meta name='Microsoft Theme' content='Other 1011'>"
+              "<a b=../_themes/Other/Othe1011-1252.css><a b=../_themes/old/xold0111.css>");
     EXPECT_THROW(give("page.html", "none"), RunTimeError);
     const auto save = application_.BeginSave("old", "old");
     EXPECT_THROW(give("page.html", "old"), RunTimeError);
