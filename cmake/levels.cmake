@@ -23,9 +23,6 @@ foreach(line ${morpho_level_lines})
     message(FATAL_ERROR "src/levels.txt: not understood: ${line}")
   endif()
 endforeach()
-if(WIN32)
-  list(REMOVE_ITEM morpho_built_folders colorizer) # There is no libjpeg for the target yet.
-endif()
 
 # morpho_include_paths(RESULT FOLDER...): the include paths of these folders alone.
 function(morpho_include_paths result)
