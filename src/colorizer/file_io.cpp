@@ -92,7 +92,7 @@ std::vector<std::uint8_t> ReadFile(const fs::path& path) {
     std::filebuf file;
     if (!Open(file, path, std::ios::in))
         throw Error("The file " + Name(path) + " cannot be opened.");
-    std::vector<std::uint8_t> bytes(size);
+    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(size));
     const auto count = static_cast<std::streamsize>(size);
     if (file.sgetn(reinterpret_cast<char*>(bytes.data()), count) != count) {
         throw Error("The file " + Name(path) + " cannot be read.");

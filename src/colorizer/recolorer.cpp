@@ -43,7 +43,7 @@ std::span<const std::uint8_t> RecolorAgain(Picture& picture, const ColourMap& ma
                                            std::optional<int> quality, std::uintmax_t size,
                                            Bytes& encoded) {
     if (auto* jpeg = std::get_if<JpegPicture>(&picture)) {
-        encoded = RecolorJpeg(*jpeg, map, quality, size);
+        encoded = RecolorJpeg(*jpeg, map, quality, static_cast<std::size_t>(size));
         return encoded;
     }
     Bytes& gif = std::get<Bytes>(picture);
