@@ -54,6 +54,12 @@ function(morpho_test name)
   target_compile_definitions(test_${name} PRIVATE MORPHO_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
   morpho_use(test_${name} ${test_UNPARSED_ARGUMENTS})
   target_link_libraries(test_${name} PRIVATE ${test_LIBRARIES} GTest::gmock_main)
-  gtest_discover_tests(test_${name} TEST_PREFIX "${name}." DISCOVERY_MODE PRE_TEST
-    PROPERTIES TIMEOUT 120 ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+  if(CMAKE_CROSSCOMPILING)
+    # A start of the emulator for each test would take longer than the tests.
+    add_test(NAME ${name} COMMAND test_${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600)
+  else()
+    gtest_discover_tests(test_${name} TEST_PREFIX "${name}." DISCOVERY_MODE PRE_TEST
+      PROPERTIES TIMEOUT 120 ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+  endif()
 endfunction()

@@ -1,12 +1,15 @@
 #!/usr/bin/env bash
-# Installs what is missing and compiles for 64-bit and 32-bit Windows what is bound to no system, with the same warnings
-# as errors. Checks besides that no header there uses a name that <windows.h> redefines. Nothing of it is run.
+# Installs what is missing and compiles the program and its tests for Windows, with the same warnings as errors. Checks
+# besides that no portable header uses a name that <windows.h> redefines. Nothing is run.
+# usage: scripts/check_windows.sh [PRESET...]      (default: windows-x64 windows-x86)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-scripts/install_packages.sh
-for preset in windows-x64 windows-x86; do
-    echo "== Compiling ($preset)"
-    cmake --preset "$preset" --no-warn-unused-cli >/dev/null
+scripts/install_packages.sh scripts/packages_windows.txt
+scripts/build_windows_libjpeg.sh
+if [ $# -eq 0 ]; then set -- windows-x64 windows-x86; fi
+for preset; do
+    echo "== Building ($preset)"
+    cmake --preset "$preset" >/dev/null
     cmake --build --preset "$preset"
 done

@@ -92,7 +92,7 @@ std::vector<std::uint8_t> ReadFile(const fs::path& path) {
     std::filebuf file;
     if (!Open(file, path, std::ios::in))
         throw Error("The file " + Name(path) + " cannot be opened.");
-    std::vector<std::uint8_t> bytes(size);
+    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(size));
     const auto count = static_cast<std::streamsize>(size);
     if (file.sgetn(reinterpret_cast<char*>(bytes.data()), count) != count) {
         throw Error("The file " + Name(path) + " cannot be read.");
@@ -100,13 +100,13 @@ std::vector<std::uint8_t> ReadFile(const fs::path& path) {
     return bytes;
 }
 
-void ReplaceFile(const fs::path& path, std::span<const std::uint8_t> bytes) {
+void WriteWholeFile(const fs::path& path, std::span<const std::uint8_t> bytes) {
     std::error_code error;
     fs::file_status status = fs::symlink_status(path, error);
     if (fs::is_symlink(status)) {
         const fs::path target = fs::canonical(path, error);
         if (error) throw Error("The link " + Name(path) + " leads to no file.");
-        return ReplaceFile(target, bytes);
+        return WriteWholeFile(target, bytes);
     }
     const bool exists = fs::exists(status);
     if (exists && !fs::is_regular_file(status)) throw Error(Name(path) + " is not a file.");

@@ -13,7 +13,7 @@ std::vector<std::uint8_t> ReadFile(const std::filesystem::path& path);
 
 /// Replaces or creates the file as a whole, by way of a new file beside it; that one is gone again
 /// after a failure. Throws Error.
-void ReplaceFile(const std::filesystem::path& path, std::span<const std::uint8_t> bytes);
+void WriteWholeFile(const std::filesystem::path& path, std::span<const std::uint8_t> bytes);
 
 /// True when both names mean one existing file.
 bool IsSameFile(const std::filesystem::path& left, const std::filesystem::path& right);

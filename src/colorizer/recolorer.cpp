@@ -43,7 +43,7 @@ std::span<const std::uint8_t> RecolorAgain(Picture& picture, const ColourMap& ma
                                            std::optional<int> quality, std::uintmax_t size,
                                            Bytes& encoded) {
     if (auto* jpeg = std::get_if<JpegPicture>(&picture)) {
-        encoded = RecolorJpeg(*jpeg, map, quality, size);
+        encoded = RecolorJpeg(*jpeg, map, quality, static_cast<std::size_t>(size));
         return encoded;
     }
     Bytes& gif = std::get<Bytes>(picture);
@@ -94,7 +94,7 @@ void Recolorer::Recolor(const std::filesystem::path& source,
         isRemembered ? std::holds_alternative<JpegPicture>(memory_->picture) : IsJpeg(file);
     if (IsCopy(adjustment, quality, isJpeg)) {
         if (!IsSameFile(source, destination))
-            ReplaceFile(destination, isRemembered ? ReadFile(source) : file);
+            WriteWholeFile(destination, isRemembered ? ReadFile(source) : file);
         return;
     }
     Picture picture;
@@ -103,10 +103,10 @@ void Recolorer::Recolor(const std::filesystem::path& source,
         picture = std::move(memory_->picture);
         const std::uintmax_t size = memory_->stamp.size;
         Forget();
-        ReplaceFile(destination, RecolorAgain(picture, map, quality, size, encoded));
+        WriteWholeFile(destination, RecolorAgain(picture, map, quality, size, encoded));
     } else {
         Forget();
-        ReplaceFile(destination, RecolorFile(std::move(file), map, quality, picture, encoded));
+        WriteWholeFile(destination, RecolorFile(std::move(file), map, quality, picture, encoded));
     }
     memory_ = std::make_unique<Memory>(
         Memory{destination, FileStamp::Of(destination), std::move(picture)});

@@ -5,7 +5,7 @@
 #include <cerrno>
 
 #include "linux/file_error.h"
-#include "linux/parallel.h"
+#include "web_host/parallel.h"
 
 namespace morpho {
 

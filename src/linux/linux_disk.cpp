@@ -7,7 +7,7 @@
 #include "linux/disk_path.h"
 #include "linux/file_error.h"
 #include "linux/linux_folder.h"
-#include "linux/parallel.h"
+#include "web_host/parallel.h"
 #include "linux/running_program.h"
 
 namespace morpho {

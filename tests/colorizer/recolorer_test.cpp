@@ -11,8 +11,10 @@ namespace {
 
 class RecolorerTest : public testing::Test {
   protected:
-    void Write(const fs::path& path, const Bytes& bytes) { folder_.Write(path, ToText(bytes)); }
-    Bytes Read(const fs::path& path) { return FromText(folder_.Read(path)); }
+    void Write(const fs::path& path, const Bytes& bytes) {
+        folder_.Write(path.string(), ToText(bytes));
+    }
+    Bytes Read(const fs::path& path) { return FromText(folder_.Read(path.string())); }
     // What stands in the folder, and nothing else: what a pass writes beside is gone.
     void ExpectFiles(const Bytes& original, const Bytes& work) {
         EXPECT_EQ(folder_.Below("."),
@@ -20,8 +22,8 @@ class RecolorerTest : public testing::Test {
     }
 
     const morpho::TemporaryFolder folder_;
-    const fs::path original_ = folder_ / "original";
-    const fs::path work_ = folder_ / "w\u00f6rk";
+    const fs::path original_ = folder_.At("original");
+    const fs::path work_ = folder_.At("w\u00f6rk");
     Recolorer recolorer_;
 };
 
@@ -95,8 +97,10 @@ TEST_F(RecolorerTest, FailureLeavesEverythingAsItWas) {
 TEST_F(RecolorerTest, LinkAndPermissionsOfTheDestinationStay) {
     Write(original_, MakeGif());
     Write(work_, {});
+    std::error_code error;
+    fs::create_symlink(work_, folder_.At("link"), error);
+    if (error) GTEST_SKIP() << "The C++ library has no links here.";
     fs::permissions(work_, fs::perms(0640));
-    fs::create_symlink(work_, folder_ / "link");
     recolorer_.Recolor(original_, folder_ / "link", {1, 0, 0});
     EXPECT_TRUE(fs::is_symlink(folder_ / "link"));
     EXPECT_EQ(fs::status(work_).permissions(), fs::perms(0640));

@@ -161,7 +161,8 @@ void FakeFileSystem::WriteFile(std::string_view path, std::string_view bytes) {
 std::string FakeFileSystem::ReadPart(std::string_view path, std::uint64_t offset,
                                      std::size_t count) const {
     const std::string bytes = ReadFile(path);
-    return bytes.substr(std::min<std::size_t>(offset, bytes.size()), count);
+    return bytes.substr(static_cast<std::size_t>(std::min<std::uint64_t>(offset, bytes.size())),
+                        count);
 }
 
 void FakeFileSystem::WriteFile(std::string_view path,

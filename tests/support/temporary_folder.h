@@ -1,10 +1,10 @@
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <map>
+#include <random>
 #include <string>
 
 namespace morpho {
@@ -17,8 +17,11 @@ using Tree = std::map<std::string, std::string>;
 class TemporaryFolder {
   public:
     TemporaryFolder() {
-        std::string path = (std::filesystem::temp_directory_path() / "morpho-test-XXXXXX").string();
-        path_ = ::mkdtemp(path.data());
+        std::random_device random;
+        do {
+            path_ = std::filesystem::temp_directory_path() /
+                    ("morpho-test-" + std::to_string(random()));
+        } while (!std::filesystem::create_directory(path_));
     }
     ~TemporaryFolder() {
         std::error_code ignored;
@@ -28,34 +31,37 @@ class TemporaryFolder {
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
     const std::filesystem::path& Path() const { return path_; }
-    std::string operator/(const std::string& name) const { return (path_ / name).string(); }
+    // The path of an entry; its name is UTF-8.
+    std::filesystem::path At(const std::string& name) const {
+        return path_ / std::u8string(name.begin(), name.end());
+    }
+    std::string operator/(const std::string& name) const { return At(name).string(); }
 
     // Writes a file with the folders above it; returns its path.
     std::string Write(const std::string& name, const std::string& bytes) const {
-        std::filesystem::create_directories((path_ / name).parent_path());
-        std::ofstream(path_ / name, std::ios::binary) << bytes;
+        std::filesystem::create_directories(At(name).parent_path());
+        std::ofstream(At(name), std::ios::binary) << bytes;
         return *this / name;
     }
     std::string Read(const std::string& name) const {
-        std::ifstream file(path_ / name, std::ios::binary);
+        std::ifstream file(At(name), std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
     }
     bool Has(const std::string& name) const {
-        return std::filesystem::exists(std::filesystem::symlink_status(path_ / name));
+        return std::filesystem::exists(std::filesystem::symlink_status(At(name)));
     }
     // Empty also where there is no such folder.
     Tree Below(const std::string& folder) const {
         Tree tree;
         std::error_code none;
-        for (const auto& entry :
-             std::filesystem::recursive_directory_iterator(path_ / folder, none)) {
-            const std::string name = entry.path().lexically_relative(path_ / folder).string();
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(At(folder), none)) {
+            const std::string name = entry.path().lexically_relative(At(folder)).generic_string();
             if (entry.is_symlink()) {
                 tree[name] = "-> " + std::filesystem::read_symlink(entry.path()).string();
             } else if (entry.is_directory()) {
                 tree[name + "/"];
             } else {
-                tree[name] = Read(entry.path());
+                tree[name] = Read(entry.path().string());
             }
         }
         return tree;

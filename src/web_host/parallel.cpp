@@ -1,4 +1,4 @@
-#include "linux/parallel.h"
+#include "web_host/parallel.h"
 
 #include <algorithm>
 #include <future>
