@@ -4,6 +4,8 @@
 #include <set>
 
 #include "formats/own_theme.h"
+#include "formats/theme_mark.h"
+#include "formats/web_text.h"
 #include "text/ignoring_case.h"
 #include "web_host/limits.h"
 #include "web_host/save_locks.h"
@@ -67,13 +69,18 @@ std::string StillUsed(const std::string& theme, const std::set<std::string>& fil
 
 }  // namespace
 
+std::string NameOfPageTheme(const WebSession& web, const WebPath& page) {
+    const auto folder = web.Files().OpenFolder({page.begin(), page.end() - 1});
+    const std::string bytes = ReadWholeFile(*folder, page.back(), kMaxPageBytes);
+    const auto theme = ThemeOfPage(PageText(bytes).Text());
+    return theme ? theme->name : std::string();
+}
+
 std::string GiveThemeToPage(WebSession& web, const WebPath& page, const std::string& theme) {
     const WebFiles& files = web.Files();
     const std::string name = SpelledName(web, theme);
     const SaveLocks locks = LockForSave(web);
-    WebPath parent = page;
-    parent.pop_back();
-    const auto folder = files.OpenFolder(parent);
+    const auto folder = files.OpenFolder({page.begin(), page.end() - 1});
     const std::string bytes = ReadWholeFile(*folder, page.back(), kMaxPageBytes);
     ThemeFiles themes(files);
     std::set<std::string> stay;

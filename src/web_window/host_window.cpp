@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QProgressBar>
+#include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
@@ -265,7 +266,8 @@ QString HostWindow::PathOf(const WebPath& names) const {
 }
 
 void HostWindow::RestorePlace() {
-    resize(1100, 750);
+    // The first time; a small screen holds the whole window.
+    resize(QSize(1100, 750).boundedTo(screen()->availableSize()));
     const auto bytesOf = [this](const char* key) {
         const std::string text = GetSetting(host_.platform, kApplication, kSection, key, "");
         return QByteArray::fromBase64(QByteArray::fromStdString(text));

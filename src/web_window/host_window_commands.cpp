@@ -11,7 +11,9 @@
 #include "platform/run_time_error.h"
 #include "platform/shell.h"
 #include "qt/qt_text.h"
+#include "text/ignoring_case.h"
 #include "web_host/disk_application.h"
+#include "web_host/page_walk.h"
 #include "web_host/theme_of_page.h"
 #include "web_window/host_window.h"
 #include "web_window/recent_webs.h"
@@ -133,17 +135,33 @@ void HostWindow::RecalculateHyperlinks() {
 }
 
 void HostWindow::AskForThemeOfPage() {
+    constexpr int kWidth = 320;  // pixels; the title needs them
     const WebPageView* const page = CurrentPage();
     const auto web = host_.frontPage.Session();
     if (!page || !web || web->Themes().empty()) return Tell({"The web has no themes."});
+    const WebPath path = page->Page();
+    if (path.empty() || !IsPageName(path.back())) return Tell({"Only a page can have a theme."});
+    std::string present;
+    try {
+        present = NameOfPageTheme(*web, path);
+    } catch (const RunTimeError& error) {
+        return Tell({error.what()});
+    }
     QStringList labels;
-    for (const Theme& theme : web->Themes())
+    QString chosen;
+    for (const Theme& theme : web->Themes()) {
         labels += QString("%1 (%2)").arg(ToQt(theme.label), ToQt(theme.name));
-    bool chosen = false;
-    const QString label =
-        QInputDialog::getItem(this, "Theme of This Page", "&Theme:", labels, 0, false, &chosen);
-    const auto index = static_cast<std::size_t>(labels.indexOf(label));
-    if (chosen) GiveTheme(page->Page(), web->Themes()[index].name);
+        if (EqualIgnoringCase(theme.name, present)) chosen = labels.back();
+    }
+    QInputDialog dialog(this);
+    dialog.setWindowTitle("Theme of This Page");
+    dialog.setLabelText("&Theme:");
+    dialog.setComboBoxItems(labels);
+    if (!chosen.isEmpty()) dialog.setTextValue(chosen);
+    dialog.setMinimumWidth(kWidth);
+    if (dialog.exec() != QDialog::Accepted) return;
+    const auto index = static_cast<std::size_t>(labels.indexOf(dialog.textValue()));
+    GiveTheme(path, web->Themes()[index].name);
 }
 
 void HostWindow::GiveTheme(const WebPath& page, const std::string& theme) {
