@@ -7,8 +7,8 @@
 #include "linux/disk_path.h"
 #include "linux/file_error.h"
 #include "linux/linux_folder.h"
-#include "web_host/parallel.h"
 #include "linux/running_program.h"
+#include "web_host/parallel.h"
 
 namespace morpho {
 

@@ -14,6 +14,7 @@ namespace morpho {
 
 namespace {
 
+constexpr const char* kOutcomeGroup = "Outcome";
 constexpr const char* kFooter =
     "Without --theme, GIF and JPEG pictures are recoloured; with it, a theme of the web.\n"
     "A theme's steps run in the order given, on the same window that a person uses. A theme opens "
@@ -124,7 +125,6 @@ void RecolorOptions::AddThemeOptions() {
 
 // How a theme's batch ends: one of three.
 void RecolorOptions::AddOutcomes() {
-    const char* const group = "Outcome";
     Outcome& outcome = theme_.outcome;
     const auto exportTo = [&](const std::string& folder) {
         outcome.kind = Outcome::Kind::kExport;
@@ -158,25 +158,34 @@ void RecolorOptions::AddOutcomes() {
                 "Save it as a new theme of this name; auto: a free name like the theme's own")
             ->type_name("NAME")
             ->check(NotEmpty());
+    for (CLI::Option* option : {exported, saved, newTheme}) {
+        option->group(kOutcomeGroup);
+        ofThemes_.push_back(option);
+    }
+    AddNewThemeOptions(*newTheme);
+}
+
+void RecolorOptions::AddNewThemeOptions(CLI::Option& newTheme) {
+    Outcome& outcome = theme_.outcome;
     CLI::Option* const title =
         command_
             .add_option("--title", outcome.title, "Title of the new theme; a free one if not given")
             ->type_name("TITLE")
             ->check(NotEmpty())
-            ->needs(newTheme);
+            ->needs(&newTheme);
     CLI::Option* const applied =
         command_
             .add_flag("--apply-to-web", outcome.applyToWeb, "Give the new theme to the web's pages")
             ->disable_flag_override()
-            ->needs(newTheme);
+            ->needs(&newTheme);
     CLI::Option* const toPages =
         command_
             .add_flag("--apply-to-pages", outcome.applyToPages,
                       "Also to the pages that name the recoloured theme themselves")
             ->disable_flag_override()
             ->needs(applied);
-    for (CLI::Option* option : {exported, saved, newTheme, title, applied, toPages}) {
-        option->group(group);
+    for (CLI::Option* option : {title, applied, toPages}) {
+        option->group(kOutcomeGroup);
         ofThemes_.push_back(option);
     }
 }

@@ -32,6 +32,7 @@ class RecolorOptions {
                    const std::string& help);
     void AddPlain(const std::string& name, Step::Kind kind, const std::string& help);
     void AddOutcomes();
+    void AddNewThemeOptions(CLI::Option& newTheme);
     void AddThemeOptions();
     void AddPictureOptions();
 
