@@ -6,8 +6,6 @@
 #include <string>
 #include <thread>
 
-#include "colorizer/recolorer.h"
-
 namespace fs = std::filesystem;
 
 namespace colorizer {
@@ -70,10 +68,14 @@ class NewFile {
         return !error;
     }
 
-    bool RenameTo(const fs::path& path) {
+    bool RenameTo(const fs::path& path, const FileHooks& hooks) {
         std::error_code error;
-        fs::rename(path_, path, error);
-        renamed_ = !error;
+        if (hooks.replace) {
+            renamed_ = hooks.replace(path_, path);
+        } else {
+            fs::rename(path_, path, error);
+            renamed_ = !error;
+        }
         return renamed_;
     }
 
@@ -100,13 +102,14 @@ std::vector<std::uint8_t> ReadFile(const fs::path& path) {
     return bytes;
 }
 
-void WriteWholeFile(const fs::path& path, std::span<const std::uint8_t> bytes) {
+void WriteWholeFile(const fs::path& path, std::span<const std::uint8_t> bytes,
+                    const FileHooks& hooks) {
     std::error_code error;
     fs::file_status status = fs::symlink_status(path, error);
     if (fs::is_symlink(status)) {
         const fs::path target = fs::canonical(path, error);
         if (error) throw Error("The link " + Name(path) + " leads to no file.");
-        return WriteWholeFile(target, bytes);
+        return WriteWholeFile(target, bytes, hooks);
     }
     const bool exists = fs::exists(status);
     if (exists && !fs::is_regular_file(status)) throw Error(Name(path) + " is not a file.");
@@ -115,7 +118,7 @@ void WriteWholeFile(const fs::path& path, std::span<const std::uint8_t> bytes) {
     }
     NewFile file(NewNameBeside(path));
     if (!file.Write(bytes) || (exists && !file.SetPermissions(status.permissions())) ||
-        !file.RenameTo(path)) {
+        !file.RenameTo(path, hooks)) {
         throw Error("The file " + Name(path) + " cannot be written.");
     }
 }
@@ -126,11 +129,12 @@ bool IsSameFile(const fs::path& left, const fs::path& right) {
     return fs::equivalent(left, right, error) && !error;
 }
 
-FileStamp FileStamp::Of(const fs::path& path) {
+FileStamp FileStamp::Of(const fs::path& path, const FileHooks& hooks) {
     std::error_code error;
     FileStamp stamp;
     stamp.time = fs::last_write_time(path, error);
     if (!error) stamp.size = fs::file_size(path, error);
+    if (!error && hooks.version) stamp.version = hooks.version(path);
     return error ? FileStamp{} : stamp;
 }
 

@@ -64,13 +64,13 @@ struct Recolorer::Memory {
     FileStamp stamp;
     Picture picture;
 
-    bool Holds(const std::filesystem::path& file) const {
+    bool Holds(const std::filesystem::path& file, const FileHooks& hooks) const {
         return picture.index() != 0 && stamp.IsValid() && file == path &&
-               FileStamp::Of(file) == stamp;
+               FileStamp::Of(file, hooks) == stamp;
     }
 };
 
-Recolorer::Recolorer() = default;
+Recolorer::Recolorer(FileHooks hooks) : hooks_(std::move(hooks)) {}
 Recolorer::~Recolorer() = default;
 Recolorer::Recolorer(Recolorer&&) noexcept = default;
 Recolorer& Recolorer::operator=(Recolorer&&) noexcept = default;
@@ -84,7 +84,7 @@ void Recolorer::Recolor(const std::filesystem::path& source,
                         std::optional<int> quality) try {
     const ColourMap map(adjustment);
     CheckQuality(quality);
-    const bool isRemembered = memory_ && memory_->Holds(source);
+    const bool isRemembered = memory_ && memory_->Holds(source, hooks_);
     Bytes file;
     if (!isRemembered) {
         file = ReadFile(source);
@@ -94,7 +94,7 @@ void Recolorer::Recolor(const std::filesystem::path& source,
         isRemembered ? std::holds_alternative<JpegPicture>(memory_->picture) : IsJpeg(file);
     if (IsCopy(adjustment, quality, isJpeg)) {
         if (!IsSameFile(source, destination))
-            WriteWholeFile(destination, isRemembered ? ReadFile(source) : file);
+            WriteWholeFile(destination, isRemembered ? ReadFile(source) : file, hooks_);
         return;
     }
     Picture picture;
@@ -103,13 +103,14 @@ void Recolorer::Recolor(const std::filesystem::path& source,
         picture = std::move(memory_->picture);
         const std::uintmax_t size = memory_->stamp.size;
         Forget();
-        WriteWholeFile(destination, RecolorAgain(picture, map, quality, size, encoded));
+        WriteWholeFile(destination, RecolorAgain(picture, map, quality, size, encoded), hooks_);
     } else {
         Forget();
-        WriteWholeFile(destination, RecolorFile(std::move(file), map, quality, picture, encoded));
+        WriteWholeFile(destination, RecolorFile(std::move(file), map, quality, picture, encoded),
+                       hooks_);
     }
     memory_ = std::make_unique<Memory>(
-        Memory{destination, FileStamp::Of(destination), std::move(picture)});
+        Memory{destination, FileStamp::Of(destination, hooks_), std::move(picture)});
 } catch (const std::bad_alloc&) {
     throw Error("There is not enough memory for the picture.");
 }

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -52,6 +53,16 @@ inline constexpr std::size_t kMaxSegments = 10'000;
 /// scans of a progressive file.
 inline constexpr std::uint64_t kMaxScanBlocks = std::uint64_t{1} << 25;
 
+/// What a system does better than the standard library. Empty functions mean the library's way.
+struct FileHooks {
+    /// Renames a file, replacing the one of that name; false when that fails.
+    std::function<bool(const std::filesystem::path& from, const std::filesystem::path& to)> replace;
+    /// A number that becomes another one whenever the file is written or replaced: where the
+    /// library's file times are coarse, a file that was exchanged for one of the same size would
+    /// pass for unchanged.
+    std::function<std::uint64_t(const std::filesystem::path& file)> version;
+};
+
 /// Recolours files. Cheap to create. Objects share nothing, so each thread may use one of its own.
 /// For a large JPEG a pass uses a second thread while it lasts.
 ///
@@ -72,7 +83,7 @@ inline constexpr std::uint64_t kMaxScanBlocks = std::uint64_t{1} << 25;
 /// every platform.
 class Recolorer {
   public:
-    Recolorer();
+    explicit Recolorer(FileHooks hooks = {});
     ~Recolorer();
     Recolorer(Recolorer&&) noexcept;
     Recolorer& operator=(Recolorer&&) noexcept;
@@ -92,6 +103,7 @@ class Recolorer {
 
   private:
     struct Memory;
+    FileHooks hooks_;
     std::unique_ptr<Memory> memory_;
 };
 

@@ -17,8 +17,7 @@ constexpr std::uint64_t kChunk = 256UL * 1024;
 constexpr DWORD kKeptAttributes =
     FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
 
-// Gives the file another name, also where its folder has that one already.
-bool MoveOver(const std::wstring& from, const std::wstring& to, DWORD flags) {
+bool TryMoveOver(const std::wstring& from, const std::wstring& to, DWORD flags) {
     if (::MoveFileExW(from.c_str(), to.c_str(), flags)) return true;
     if (::GetLastError() != ERROR_ACCESS_DENIED) return false;
     // A file that is open can be renamed, if whoever has it open allows that, but not replaced.
@@ -34,6 +33,12 @@ bool MoveOver(const std::wstring& from, const std::wstring& to, DWORD flags) {
 }
 
 }  // namespace
+
+bool MoveOver(const std::wstring& from, const std::wstring& to, Durability durability) {
+    const DWORD flags = MOVEFILE_REPLACE_EXISTING |
+                        (durability == Durability::kFlushed ? MOVEFILE_WRITE_THROUGH : DWORD{0});
+    return TryWithPatience([&] { return TryMoveOver(from, to, flags); });
+}
 
 ReplacingFile::ReplacingFile(std::wstring path, Durability durability, const std::wstring& model)
     : path_(std::move(path)), durability_(durability) {
@@ -86,11 +91,9 @@ void ReplacingFile::Commit() {
     if (target && target->IsFolder())
         throw SystemError(ErrorNumber::kPathFileAccess, ShownPath(path_), kFailure,
                           "it is a folder");
-    const DWORD flags = MOVEFILE_REPLACE_EXISTING |
-                        (durability_ == Durability::kFlushed ? MOVEFILE_WRITE_THROUGH : DWORD{0});
     // The existing spelling stays.
     const std::wstring spelled = target ? JoinPath(FolderOf(path_), Wide(target->name)) : path_;
-    if (!TryWithPatience([&] { return MoveOver(temporary_, spelled, flags); }))
+    if (!MoveOver(temporary_, spelled, durability_))
         throw SystemError(::GetLastError(), ShownPath(path_), kFailure);
     temporary_.clear();
 }

@@ -7,6 +7,10 @@
 
 namespace morpho {
 
+// Renames a file, replacing the one of that name. Waits for a moment while another program has that
+// one open; false, with the reason in GetLastError, when that fails.
+bool MoveOver(const std::wstring& from, const std::wstring& to, Durability durability);
+
 // New contents of a file (see NewFile). An existing file keeps its attributes; one that is
 // read-only is refused, and so is a folder. The rights are those that the folder gives.
 class ReplacingFile : public NewFile {
