@@ -94,6 +94,35 @@ TEST_F(RecolorerTest, FailureLeavesEverythingAsItWas) {
     expectFailure(original_, work_, {1, 1, 9}, {});
 }
 
+TEST_F(RecolorerTest, TheHooksReplaceTheFileAndTellThatItWasExchanged) {
+    Write(original_, MakeJpeg({}));
+    bool works = true;
+    std::uint64_t version = 1;
+    Recolorer recolorer({.replace =
+                             [&](const fs::path& from, const fs::path& to) {
+                                 if (works) fs::rename(from, to);
+                                 return works;
+                             },
+                         .version = [&](const fs::path&) { return version; }});
+    recolorer.Recolor(original_, work_, {1, 1, 40});
+    const Bytes once = Read(work_);
+    works = false;
+    EXPECT_THROW(recolorer.Recolor(original_, work_, {1, 1, 90}), Error);
+    EXPECT_EQ(Read(work_), once);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder_.Path()), {}), 2);
+    works = true;
+    // Size and time are as they were; only the version tells of another picture.
+    recolorer.Recolor(original_, work_, {1, 1, 40});
+    const auto time = fs::last_write_time(work_);
+    Bytes other = Read(work_);
+    other[other.size() - 3] ^= 1;
+    Write(work_, other);
+    fs::last_write_time(work_, time);
+    ++version;
+    recolorer.Recolor(work_, work_, {1, 1, 40});
+    EXPECT_EQ(Read(work_), Recolored(other, {1, 1, 40}));
+}
+
 TEST_F(RecolorerTest, LinkAndPermissionsOfTheDestinationStay) {
     Write(original_, MakeGif());
     Write(work_, {});
