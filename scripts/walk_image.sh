@@ -12,9 +12,9 @@ sleep 6
 
 click() { xdotool mousemove "$1" "$2" click 1; sleep 1; }
 picture 1-web
-click ${PICTURE_AT:-600 300}
+click 1010 380 # the dome
 picture 2-selected
-click ${BUTTON_AT:-300 100}
+click 145 119  # the toolbar's button
 sleep 2
 press 2 Return # the About box
 picture 3-editor
