@@ -79,8 +79,8 @@ class CheckBox : public Control {
     Handler click_;
 };
 
-// A still picture (of an animation the first), shown at its own size from the top left corner; with
-// `stretch` it fills the control. In a frame it can be moved beyond the edges, which clip it.
+// A picture, shown at its own size from the top left corner; with `stretch` it fills the control.
+// An animation plays. In a frame it can be moved beyond the edges, which clip it.
 class PictureBox : public Control {
   public:
     PictureBox(Container& parent, const ControlSpec& spec, bool stretch = false)

@@ -1,7 +1,10 @@
 #include "qt/picture_peer.h"
 
+#include <QBuffer>
 #include <QImage>
+#include <QMovie>
 #include <QPainter>
+#include <memory>
 
 namespace morpho {
 
@@ -13,10 +16,11 @@ class PictureWidget : public QWidget {
 
     // An empty text shows nothing. Whether the picture can be shown.
     bool SetPicture(std::string_view encoded) {
-        picture_ = QImage::fromData(
-            QByteArray::fromRawData(encoded.data(), static_cast<qsizetype>(encoded.size())));
-        fitted_ = {};
-        update();
+        movie_.reset();
+        const auto bytes =
+            QByteArray::fromRawData(encoded.data(), static_cast<qsizetype>(encoded.size()));
+        Show(QImage::fromData(bytes));
+        if (encoded.starts_with("GIF8")) PlayIfAnimated(bytes);
         return !picture_.isNull();
     }
 
@@ -37,9 +41,38 @@ class PictureWidget : public QWidget {
     }
 
   private:
+    // An animation with the bytes that it reads, frame by frame.
+    struct Movie {
+        explicit Movie(const QByteArray& encoded) {
+            buffer.setData(encoded.constData(), static_cast<int>(encoded.size()));
+            buffer.open(QIODevice::ReadOnly);
+            player.setDevice(&buffer);
+        }
+        QBuffer buffer;
+        QMovie player;
+    };
+
+    void Show(const QImage& picture) {
+        picture_ = picture;
+        fitted_ = {};
+        update();
+    }
+
+    void PlayIfAnimated(const QByteArray& encoded) {
+        auto movie = std::make_unique<Movie>(encoded);
+        if (movie->player.frameCount() < 2) return;
+        movie_ = std::move(movie);
+        connect(&movie_->player, &QMovie::frameChanged, this, [this] {
+            const QImage frame = movie_->player.currentImage();
+            if (!frame.isNull()) Show(frame);
+        });
+        movie_->player.start();
+    }
+
     bool stretch_;
     QImage picture_;
     QImage fitted_;
+    std::unique_ptr<Movie> movie_;  // null for a still picture
 };
 
 }  // namespace

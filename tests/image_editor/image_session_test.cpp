@@ -155,6 +155,33 @@ TEST_F(ImageWindow, EveryWayToEndIt) {
     }
 }
 
+TEST_F(ImageWindow, SavesBeforeItOpensAnother) {
+    OpenDisk();
+    window->slHue.UserSettle(40);
+    world.toolkit.WillPlay(
+        "frmWebOpen", [](Form& form) { dynamic_cast<frmWebOpen&>(form).btnCancel.UserClick(); });
+    WillAnswer({Answer::kYes});
+    window->btnOpen.UserClick();
+    const std::string saved = Recoloured(gif, 40);
+    EXPECT_EQ(world.files.Bytes("C:\\Pictures\\a.gif"), saved);
+    // No other was chosen: what was saved is the source now, and the sliders are neutral.
+    EXPECT_EQ(window->ChangeCount(), 0);
+    EXPECT_EQ(window->slHue.Value(), 0);
+    window->slHue.UserSettle(50);
+    EXPECT_EQ(window->picImage.Picture(), Recoloured(saved, 50));
+
+    world.toolkit.WillPlay("frmWebOpen", [](Form& form) {
+        auto& dialog = dynamic_cast<frmWebOpen&>(form);
+        dialog.txtFileName.UserEdit("sky.gif");
+        dialog.btnOK.UserClick();
+    });
+    WillAnswer({Answer::kNo});
+    window->btnOpen.UserClick();
+    EXPECT_EQ(window->Caption(), "Image Morpho - sky.gif");
+    EXPECT_EQ(window->ChangeCount(), 0);
+    EXPECT_EQ(world.files.Bytes("C:\\Pictures\\a.gif"), saved);
+}
+
 TEST_F(ImageWindow, SaveAsKeepsTheFormatAndTheOriginal) {
     world.application.web.reset();
     OpenDisk();

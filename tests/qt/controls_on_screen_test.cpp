@@ -195,6 +195,27 @@ TEST_F(ControlsOnScreen, RowsAreClickedAgainNodesOpenedAndClosed) {
     });
 }
 
+TEST_F(ControlsOnScreen, AnAnimationPlays) {
+    // Two frames of 2 x 1 pixels, red and blue, for 50 ms each, again and again.
+    const QByteArray animation = QByteArray::fromHex(
+        "47494638396102000100f00000"
+        "ff0000000000"
+        "21f9040005000000"
+        "21ff0b4e45545343415045322e300301000000"
+        "2c0000000002000100000202040a00"
+        "21f9040005000000"
+        "2c0000000002000100800000ff0000000202040a003b");
+    Show([&](QWidget& window) {
+        form_.picOwnSize.SetPicture(animation.toStdString());
+        QWidget& widget = Find(window, form_.picOwnSize);
+        const auto shows = [&](Qt::GlobalColor color) {
+            return QTest::qWaitFor(
+                [&] { return widget.grab().toImage().pixelColor(0, 0) == QColor(color); }, 3000);
+        };
+        EXPECT_TRUE(shows(Qt::red) && shows(Qt::blue) && shows(Qt::red));
+    });
+}
+
 TEST_F(ControlsOnScreen, ADamagedPictureHasNoSizeAndAMovedOneIsCutOffByItsFrame) {
     Show([&](QWidget&) {
         QByteArray encoded;
