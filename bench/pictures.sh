@@ -8,12 +8,7 @@ count=${1:-100} rounds=${2:-3}
 for program in convert gifsicle; do
     command -v "$program" >/dev/null || { echo "bench/pictures.sh: $program is not installed." >&2; exit 1; }
 done
-cmake --preset release >/dev/null
-cmake --build build/release --target morpho >/dev/null
-morpho=$PWD/build/release/bin/morpho
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-export XDG_DATA_HOME=$work/data XDG_CACHE_HOME=$work/cache
+source bench/whole_programs.sh
 cd "$work"
 
 # Soft areas with some grain, each picture another.
@@ -23,16 +18,7 @@ for ((i = 0; i < count; i++)); do
     convert "in/$i.jpg" +dither -colors 64 "in/$i.gif"
 done
 
-timed() { # NAME COMMAND...
-    local name=$1 start
-    shift
-    rm -rf out
-    mkdir out
-    start=$EPOCHREALTIME
-    "$@"
-    echo $((${EPOCHREALTIME/./} - ${start/./})) >>"$name.times"
-}
-median() { sort -n "$1.times" | awk '{ value[NR] = $1 } END { printf "%.0f", value[int((NR + 1) / 2)] / 1000 }'; }
+empty_out() { rm -rf out && mkdir out; }
 ours() { "$morpho" recolor in/*."$1" --hue 60 --output-dir out; }
 loop_jpg() { for file in in/*.jpg; do convert "$file" -modulate 100,100,133.3 "out/${file#in/}"; done; }
 loop_gif() {
@@ -44,13 +30,16 @@ loop_gif() {
 
 for ((round = 0; round < rounds; round++)); do
     for format in jpg gif; do
+        empty_out
         timed "ours_$format" ours "$format"
+        empty_out
         timed "loop_$format" "loop_$format"
     done
 done
 for format in jpg gif; do
     echo "$count $format: $(median "ours_$format") ms; loop: $(median "loop_$format") ms;" \
-        "ratio $(awk -v a="$(median "loop_$format")" -v b="$(median "ours_$format")" 'BEGIN { printf "%.1f", a / b }')"
+        "ratio $(ratio "$(median "loop_$format")" "$(median "ours_$format")")"
 done
-awk -v a="$(median loop_jpg)" -v b="$(median loop_gif)" -v c="$(median ours_jpg)" -v d="$(median ours_gif)" \
-    'BEGIN { printf "all: ratio %.1f\n", (a + b) / (c + d) }'
+sum() { awk -v a="$1" -v b="$2" 'BEGIN { print a + b }'; }
+all=$(sum "$(median loop_jpg)" "$(median loop_gif)")
+echo "all: ratio $(ratio "$all" "$(sum "$(median ours_jpg)" "$(median ours_gif)")")"

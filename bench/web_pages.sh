@@ -6,12 +6,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 pages=${1:-2000} rounds=${2:-5}
-cmake --preset release >/dev/null
-cmake --build build/release --target morpho >/dev/null
-morpho=$PWD/build/release/bin/morpho
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-export XDG_DATA_HOME=$work/data XDG_CACHE_HOME=$work/cache
+source bench/whole_programs.sh
 
 cp -r samples/larkfell "$work/web"
 for ((i = 0; i < pages; i++)); do
@@ -20,14 +15,6 @@ for ((i = 0; i < pages; i++)); do
     sed 's|_themes/|../_themes/|g' samples/larkfell/index.htm >"$folder/page$i.htm"
 done
 
-timed() { # NAME COMMAND...
-    local name=$1 start
-    shift
-    start=$EPOCHREALTIME
-    "$@" >/dev/null 2>&1
-    echo $((${EPOCHREALTIME/./} - ${start/./})) >>"$work/$name"
-}
-median() { sort -n "$work/$1" | awk '{ value[NR] = $1 } END { printf "%.0f", value[int((NR + 1) / 2)] / 1000 }'; }
 copied() { cp -r "$work/web" "$work/copy$1" && sync -f "$work/copy$1"; }
 
 for ((round = 0; round < rounds; round++)); do
@@ -38,5 +25,5 @@ for ((round = 0; round < rounds; round++)); do
 done
 for name in list apply save; do
     echo "$pages pages, $name: $(median "$name") ms; copy: $(median copy) ms;" \
-        "ratio $(awk -v a="$(median "$name")" -v b="$(median copy)" 'BEGIN { printf "%.2f", a / b }')"
+        "ratio $(ratio "$(median "$name")" "$(median copy)")"
 done

@@ -16,13 +16,8 @@ bool MayReplace(Form& owner, std::string_view name, std::string_view title) {
            Answer::kYes;
 }
 
-std::optional<std::string> ChooseDiskFile(Form& owner, Toolkit& toolkit, const DiskChoice& choice) {
-    const bool opens = choice.mode == FileDialog::Mode::kOpen;
-    FileDialog request;
-    request.mode = choice.mode;
-    request.filter = choice.filter;
-    request.name = choice.name;
-    request.folder = choice.folder;
+std::optional<std::string> ChooseDiskFile(Form& owner, Toolkit& toolkit, FileDialog request) {
+    const bool opens = request.mode == FileDialog::Mode::kOpen;
     request.flags = kHideReadOnly | (opens ? kFileMustExist : kOverwritePrompt);
     return toolkit.ShowFileDialog(&owner, request);
 }

@@ -14,14 +14,8 @@ std::string WithExtension(std::string name, std::string_view extension);
 // Asks whether to replace the file of that name; true: yes.
 bool MayReplace(Form& owner, std::string_view name, std::string_view title);
 
-struct DiskChoice {
-    FileDialog::Mode mode = FileDialog::Mode::kOpen;
-    std::string filter = {};
-    std::string name = {};    // proposed
-    std::string folder = {};  // shown first; empty: the toolkit's choice
-};
-
-// Shows the common file dialog. Nothing when the person cancelled.
-std::optional<std::string> ChooseDiskFile(Form& owner, Toolkit& toolkit, const DiskChoice& choice);
+// Shows the common file dialog with the flags of its mode: a file that is opened must exist, and
+// replacing one is asked for. Nothing when the person cancelled.
+std::optional<std::string> ChooseDiskFile(Form& owner, Toolkit& toolkit, FileDialog request);
 
 }  // namespace morpho

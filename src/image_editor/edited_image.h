@@ -12,7 +12,7 @@ namespace morpho {
 
 // The picture that is being edited. It works on two copies in a temporary folder of its own: the
 // source copy, the input of every recolouring, is never changed while the picture is edited; the
-// working copy is its output and what is shown. Functions throw RunTimeError where they say so.
+// working copy is its output and what is shown. "Throws" below means RunTimeError.
 class EditedImage {
   public:
     explicit EditedImage(const Program& program) : program_(program) {}
@@ -32,9 +32,8 @@ class EditedImage {
     // The bytes of the working copy. Throws.
     std::string WorkingCopy() const;
 
-    // Copies the picture, which must not be of kind kNone. False when the host cannot fetch it.
-    // Throws when it cannot be copied. No picture is open afterwards in both cases. Closes none: a
-    // picture that was open before must have been closed.
+    // Copies the picture, which must not be of kind kNone; none may be open. False when the host
+    // cannot fetch it; throws when it cannot be copied. In both cases none is open then.
     bool Open(const ImageLocation& image);
     // Deletes the copies; a file that cannot be deleted is left.
     void Close();

@@ -178,16 +178,16 @@ void frmImageMorpho::btnReset_Click() {
     ShowWorkingCopy();
 }
 
-std::optional<bool> frmImageMorpho::OfferToSave() {
-    if (changeCount_ == 0) return true;
+frmImageMorpho::Offer frmImageMorpho::OfferToSave() {
+    if (changeCount_ == 0) return Offer::kDone;
     const Answer answer = Ask(kUnsavedQuestion, kYesNoCancel);
-    if (answer == Answer::kCancel) return {};
-    return answer == Answer::kNo || SaveImage();
+    if (answer == Answer::kCancel) return Offer::kCancelled;
+    return answer == Answer::kNo || SaveImage() ? Offer::kDone : Offer::kSaveFailed;
 }
 
 void frmImageMorpho::btnOpen_Click() {
     ShowStatus({});
-    if (!OfferToSave().value_or(false)) return;
+    if (OfferToSave() != Offer::kDone) return;
     const std::optional<ImageLocation> chosen = ChooseImageToOpen();
     if (!chosen) return;
     CloseImage();
@@ -195,18 +195,24 @@ void frmImageMorpho::btnOpen_Click() {
 }
 
 std::optional<ImageLocation> frmImageMorpho::ChooseImageToOpen() {
-    if (!IsWebOpen()) {
-        const auto path = ChooseDiskFile(*this, TheToolkit(),
-                                         {FileDialog::Mode::kOpen, std::string(kDiskImageFilter)});
-        if (!path) return {};
-        return ImageLocation{ImageKind::kDisk, *path};
-    }
+    if (!IsWebOpen()) return ChooseOnDisk({.mode = FileDialog::Mode::kOpen});
     frmWebOpen dialog(TheProgram(), "Open");
+    return ChooseInWeb(dialog);
+}
+
+std::optional<ImageLocation> frmImageMorpho::ChooseInWeb(frmWebOpen& dialog) {
     dialog.WebFilter = kWebImageFilter;
     dialog.DiskFilter = kDiskImageFilter;
     dialog.ShowModal();
     if (dialog.ResultKind == ImageKind::kNone) return {};
     return ImageLocation{dialog.ResultKind, dialog.ResultAddress};
+}
+
+std::optional<ImageLocation> frmImageMorpho::ChooseOnDisk(FileDialog request) {
+    request.filter = kDiskImageFilter;
+    const auto path = ChooseDiskFile(*this, TheToolkit(), std::move(request));
+    if (!path) return {};
+    return ImageLocation{ImageKind::kDisk, *path};
 }
 
 bool frmImageMorpho::SaveImage(const std::optional<ImageLocation>& place) {
@@ -247,38 +253,31 @@ void frmImageMorpho::btnSaveAs_Click() {
 std::optional<ImageLocation> frmImageMorpho::SaveImageAsWeb() {
     frmWebOpen dialog(TheProgram(), "Save as");
     dialog.OpenMode = false;
-    dialog.WebFilter = kWebImageFilter;
-    dialog.DiskFilter = kDiskImageFilter;
     dialog.ProposedName = image_.FileName();
     dialog.DefaultExtension = ExtensionOf(image_.FileName());
-    dialog.ShowModal();
-    if (dialog.ResultKind == ImageKind::kNone) return {};
-    return ImageLocation{dialog.ResultKind, dialog.ResultAddress};
+    return ChooseInWeb(dialog);
 }
 
 std::optional<ImageLocation> frmImageMorpho::SaveImageAsDisk() {
-    const auto path = ChooseDiskFile(*this, TheToolkit(),
-                                     {FileDialog::Mode::kSave, std::string(kDiskImageFilter),
-                                      image_.FileName(), FolderOfImage(image_.Location())});
-    if (!path) return {};
-    return ImageLocation{ImageKind::kDisk, *path};
+    return ChooseOnDisk({.mode = FileDialog::Mode::kSave,
+                         .folder = FolderOfImage(image_.Location()),
+                         .name = image_.FileName()});
 }
 
 void frmImageMorpho::LeaveSaved() {
     Application& host = *TheComponent().application;
-    const bool web = image_.Location().kind == ImageKind::kWeb;
-    if (web) {
-        if (const auto open = host.ActiveWeb()) open->Refresh();
-    }
+    const auto web =
+        image_.Location().kind == ImageKind::kWeb ? host.ActiveWeb() : std::unique_ptr<Web>();
+    if (web) web->Refresh();
     Unload();
     host.RefreshViews();
 }
 
 void frmImageMorpho::Form_QueryUnload(bool& cancel, bool /*byUser*/) {
-    const std::optional<bool> saved = OfferToSave();
-    cancel = !saved;
+    const Offer offer = OfferToSave();
+    cancel = offer == Offer::kCancelled;
     // After a failed save the copies stay, so that the work is not lost.
-    if (!saved || !*saved) return;
+    if (offer != Offer::kDone) return;
     CloseImage();
     band_.Close();
     SavePlacement();

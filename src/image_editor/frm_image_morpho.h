@@ -15,6 +15,8 @@
 
 namespace morpho {
 
+class frmWebOpen;
+
 // The Image Morpho window: recolours one picture, that which is selected in the page or one that
 // the person opens. The controls stand here in tab order.
 class frmImageMorpho : public EditorWindow {
@@ -124,7 +126,9 @@ class frmImageMorpho : public EditorWindow {
     // Opens this picture when the window has been loaded, in place of the selected one. To be set
     // before the window is loaded.
     void OpenAtStart(ImageLocation image) { atStart_ = std::move(image); }
-    // Opens a picture in place of the one that is open, without asking. Also shows what went wrong.
+    // Opens a picture in place of the one that is open, without asking. Tells the person when the
+    // host cannot fetch it; throws RunTimeError when it cannot be opened otherwise. No picture is
+    // open then.
     void OpenImage(const ImageLocation& image);
     // Recolourings since the picture was opened or last saved; 1 and more mean modified.
     std::int32_t ChangeCount() const { return changeCount_; }
@@ -160,9 +164,13 @@ class frmImageMorpho : public EditorWindow {
     void EnableImageButtons();
     void UpdateCaption();
 
-    // Asks what to do with an unsaved picture, and saves it if so wished. Nothing when the person
-    // wants to go back; otherwise whether all is well.
-    std::optional<bool> OfferToSave();
+    // What came of the question whether to save an unsaved picture.
+    enum class Offer { kDone, kCancelled, kSaveFailed };
+    // Asks it, and saves the picture if so wished.
+    Offer OfferToSave();
+    // Each shows a dialog with the filters for pictures; nothing when the person cancelled.
+    std::optional<ImageLocation> ChooseInWeb(frmWebOpen& dialog);
+    std::optional<ImageLocation> ChooseOnDisk(FileDialog request);
     // The picture has been saved: closes the window and lets the host show the picture.
     void LeaveSaved();
     bool IsWebOpen() const;

@@ -191,8 +191,9 @@ bool frmWebOpen::Refuse(std::string_view reason) {
 
 void frmWebOpen::btnExplorer_Click() {
     const auto mode = OpenMode ? FileDialog::Mode::kOpen : FileDialog::Mode::kSave;
-    const auto chosen = ChooseDiskFile(*this, TheToolkit(),
-                                       {mode, DiskFilter, OpenMode ? std::string() : ProposedName});
+    const auto chosen = ChooseDiskFile(
+        *this, TheToolkit(),
+        {.mode = mode, .filter = DiskFilter, .name = OpenMode ? std::string() : ProposedName});
     if (!chosen) return;
     const std::string name = FileNameOf(*chosen);
     if (name.starts_with(".")) {

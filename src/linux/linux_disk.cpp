@@ -8,7 +8,6 @@
 #include "linux/file_error.h"
 #include "linux/linux_folder.h"
 #include "linux/running_program.h"
-#include "web_host/parallel.h"
 
 namespace morpho {
 
@@ -32,10 +31,6 @@ std::unique_ptr<Folder> LinuxDisk::OpenOrCreate(std::string_view path) {
     std::filesystem::create_directories(diskPath, error);
     if (error) throw FileError(error.value(), diskPath, "could not be created");
     return Open(path);
-}
-
-void LinuxDisk::InParallel(std::size_t count, const std::function<void(std::size_t)>& work) {
-    morpho::InParallel(count, work);
 }
 
 std::string LinuxDisk::Machine() const {

@@ -8,9 +8,8 @@ void Apply(const ApplyRequest& request, std::string& warnings) {
     Batch batch(request.web, request.theme, FindUserFolders(EnvironmentVariable));
     warnings = batch.Warnings();
     if (!request.overwrite && batch.ApplyingReplacesTheme(request.theme))
-        throw CommandError(CommandError::Status::kRefused,
-                           "The web has another theme \"" + request.theme +
-                               "\" than you have; --overwrite replaces it by yours.");
+        throw Refusal("The web has another theme \"" + request.theme +
+                      "\" than you have; --overwrite replaces it by yours.");
     if (request.inPlaceOf.empty()) {
         batch.ApplyTheme(request.theme);
     } else {
@@ -18,8 +17,7 @@ void Apply(const ApplyRequest& request, std::string& warnings) {
     }
     for (const std::string& sentence : batch.Reports())
         warnings += sentence + "\n";
-    if (!batch.IsThemeShown())
-        throw CommandError(CommandError::Status::kRefused, "The theme could not be applied.");
+    if (!batch.IsThemeShown()) throw Refusal("The theme could not be applied.");
 }
 
 }  // namespace morpho

@@ -49,15 +49,12 @@ BatchWindow& Batch::OpenTheme(const std::string& name) {
     const bool known = std::any_of(Themes().begin(), Themes().end(), [&](const Theme& theme) {
         return EqualIgnoringCase(theme.name, name);
     });
-    if (!known)
-        throw CommandError(CommandError::Status::kRefused,
-                           "This web has no theme named \"" + name + "\".");
+    if (!known) throw Refusal("This web has no theme named \"" + name + "\".");
     const std::string unpacked =
         ToWindowsPath(desktop_.WorkFolder().Cache()) + "\\FrontPageTempDir\\mstheme\\" + name;
     // The warnings tell why.
     if (!FolderExists(desktop_.Parts().files, unpacked))
-        throw CommandError(CommandError::Status::kRefused,
-                           "The theme \"" + name + "\" cannot be read.");
+        throw Refusal("The theme \"" + name + "\" cannot be read.");
     if (!window_) window_ = std::make_unique<BatchWindow>(program_, toolkit_);
     window_->OpenTheme(name);
     return *window_;

@@ -49,9 +49,7 @@ void BatchImage::Refuse(const std::string& otherwise) const {
     const bool isTold = toolkit_.Messages().size() > messagesBefore_;
     const std::string& failure = window_.Failure();
     const std::string told = isTold ? toolkit_.Messages().back().text : std::string();
-    throw CommandError(CommandError::Status::kRefused, !failure.empty() ? failure
-                                                       : !told.empty()  ? told
-                                                                        : otherwise);
+    throw Refusal(!failure.empty() ? failure : !told.empty() ? told : otherwise);
 }
 
 }  // namespace morpho

@@ -140,7 +140,7 @@ void BatchWindow::Press(CommandButton& button) {
 }
 
 void BatchWindow::Require(bool done, const std::string& refusal) {
-    if (!done) throw CommandError(CommandError::Status::kRefused, refusal);
+    if (!done) throw Refusal(refusal);
 }
 
 void BatchWindow::RefuseMessages() {
@@ -152,8 +152,7 @@ void BatchWindow::RefuseMessages() {
         // A notice of a save that went well is for the report.
         if (IsQuestion(message.flags) || message.text == window_.LastSave().notice) continue;
         const std::string& reason = window_.LastSave().failure;
-        throw CommandError(CommandError::Status::kRefused,
-                           reason.empty() ? message.text : message.text + " " + reason);
+        throw Refusal(reason.empty() ? message.text : message.text + " " + reason);
     }
 }
 

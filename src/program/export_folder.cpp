@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 namespace {
 
 [[noreturn]] void Refuse(const std::string& sentence) {
-    throw CommandError(CommandError::Status::kRefused, sentence);
+    throw Refusal(sentence);
 }
 
 [[noreturn]] void Fail(std::errc reason) {

@@ -7,10 +7,6 @@ namespace morpho {
 
 namespace {
 
-CommandError Refusal(const std::string& sentence) {
-    return {CommandError::Status::kRefused, sentence};
-}
-
 // The page of the request becomes the host's active one, with its picture selected.
 void ActivatePage(DiskApplication& host, const ImageRequest& request) {
     const auto page = host.Session()->Files().Find(request.page, EntryKind::kFile);

@@ -20,10 +20,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-CommandError Refusal(const std::string& sentence) {
-    return {CommandError::Status::kRefused, sentence};
-}
-
 // Counts the pictures on standard error, if a person looks at it.
 class Progress {
   public:

@@ -62,8 +62,7 @@ std::string Save(const RecolorRequest& request, const UserFolders& folders, std:
     warnings = batch.Warnings();
     // The theme may hold these steps already; running them again would apply them twice.
     if (EqualIgnoringCase(batch.CompletedTheme(), request.theme))
-        throw CommandError(CommandError::Status::kRefused,
-                           "An interrupted save was completed; nothing else was done.");
+        throw Refusal("An interrupted save was completed; nothing else was done.");
     BatchWindow& window = TakeSteps(batch, request);
     warnings += Warnings(window.Window());
     DrawIfAsked(window, request);
@@ -98,7 +97,7 @@ std::string Rehearse(const RecolorRequest& request, const UserFolders& folders,
         refusal = dryRun.WithRealPlaces(error.what());
     }
     warnings = dryRun.WithRealPlaces(warnings);
-    if (!refusal.empty()) throw CommandError(CommandError::Status::kRefused, refusal);
+    if (!refusal.empty()) throw Refusal(refusal);
     return dryRun.WouldWrite();
 }
 

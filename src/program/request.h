@@ -120,4 +120,8 @@ class CommandError : public std::runtime_error {
     Status status_;
 };
 
+inline CommandError Refusal(const std::string& sentence) {
+    return {CommandError::Status::kRefused, sentence};
+}
+
 }  // namespace morpho

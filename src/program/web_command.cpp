@@ -6,15 +6,8 @@
 #include "addin/add_in_im.h"
 #include "addin/add_in_tm.h"
 #include "image_editor/frm_image_morpho.h"
-#include "linux/disk_path.h"
-#include "program/desktop_platform.h"
-#include "program/qt_program.h"
-#include "qt/qt_clipboard.h"
+#include "program/qt_desktop.h"
 #include "qt/qt_text.h"
-#include "qt/qt_toolkit.h"
-#include "resources/embedded_resources.h"
-#include "resources/resource_ids.h"
-#include "shared/log.h"
 #include "text/ignoring_case.h"
 #include "web_window/host_window.h"
 #include "web_window/recent_webs.h"
@@ -79,19 +72,11 @@ void OfferTheme(HostWindow& window, DiskApplication& host) {
 }  // namespace
 
 void ShowWebWindow(const WebRequest& request) {
-    const QtProgram qt;
-    const DiskFileSystem pages;
-    const EmbeddedResources resources;
-    QtToolkit toolkit(pages, resources.Bytes(kIconResource, kApplicationIcon128),
-                      {FindOnDisk, ToWindowsPath});
-    QtClipboard clipboard;
-    DesktopPlatform desktop(DesktopUse::kWindows, FindUserFolders(EnvironmentVariable), toolkit,
-                            resources, clipboard, request.hostVersion);
+    QtDesktop here(request.hostVersion);
+    DesktopPlatform& desktop = here.desktop;
     const std::string folder = FolderOf(request, desktop.Parts());
     const auto open = [&](const std::string& web) { desktop.OpenForSaving(web); };
-    HostWindow window({desktop.FrontPage(), desktop.Parts(), toolkit.Pages(), open});
-    Component component;
-    const Program program{desktop.Parts(), component};
+    HostWindow window({desktop.FrontPage(), desktop.Parts(), here.toolkit.Pages(), open});
     desktop.FrontPage().SetReporter([&](const std::vector<std::string>& sentences) {
         // A save may have ended on another thread than the window's.
         QMetaObject::invokeMethod(&window, [&, sentences] {
@@ -100,9 +85,8 @@ void ShowWebWindow(const WebRequest& request) {
             OfferTheme(window, desktop.FrontPage());
         });
     });
-    desktop.FrontPage().SetLog([&](std::string_view line) { WriteLog(program, line); });
     window.show();
-    const ConnectedAddIns addIns(program, desktop.SharedFrontPage());
+    const ConnectedAddIns addIns(here.program, desktop.SharedFrontPage());
     // A web that was named and cannot be opened is the command's error, not the window's.
     if (!request.web.empty()) {
         window.LoadWeb(folder);

@@ -16,9 +16,7 @@ void RequireTheme(const WebSession& web, const std::string& name) {
     const bool known =
         std::any_of(web.Themes().begin(), web.Themes().end(),
                     [&](const Theme& theme) { return EqualIgnoringCase(theme.name, name); });
-    if (!known)
-        throw CommandError(CommandError::Status::kRefused,
-                           "This web has no theme named \"" + name + "\".");
+    if (!known) throw Refusal("This web has no theme named \"" + name + "\".");
 }
 
 // Before the window is shown, as if the person had picked it first of all.
@@ -26,8 +24,7 @@ void SelectTheme(frmThemeMorpho& window, const std::string& name) {
     window.Load();
     const int index = window.cmbThemeName.FindExact(name);
     if (index == kNoEntry) {
-        throw CommandError(CommandError::Status::kRefused,
-                           "This web has no theme named \"" + name + "\" that can be opened.");
+        throw Refusal("This web has no theme named \"" + name + "\" that can be opened.");
     }
     window.cmbThemeLabel.UserSelect(index);
 }
@@ -72,8 +69,7 @@ void DrawWindow(Form& form, const std::filesystem::path& picture) {
     });
     form.ShowModalOn(toolkit);
     if (!drawn) {
-        throw CommandError(CommandError::Status::kRefused,
-                           "The picture " + picture.string() + " cannot be written.");
+        throw Refusal("The picture " + picture.string() + " cannot be written.");
     }
 }
 

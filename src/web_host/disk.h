@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -116,11 +115,6 @@ class Disk {
     virtual std::unique_ptr<Folder> Open(std::string_view path) = 0;
     // The same, creating the folder and those above it where they are missing.
     virtual std::unique_ptr<Folder> OpenOrCreate(std::string_view path) = 0;
-
-    // Calls `work` with 0 to count - 1, several in parallel and in no order: for work that mostly
-    // waits for the disk. The first exception of a call is thrown on when all that had begun are
-    // done.
-    virtual void InParallel(std::size_t count, const std::function<void(std::size_t)>& work) = 0;
 
     // What tells this machine from others that share a disk with it.
     virtual std::string Machine() const = 0;

@@ -76,7 +76,7 @@ void DiskWeb::Refresh() {
 void DiskWeb::RecalcHyperlinks() {
     if (web_->Transaction()) return web_->Transaction()->RecalcAtCommit();
     const auto log = [this](const std::string& line) { web_->Reports().WriteLog(line); };
-    PageUpdate pages(web_->TheDisk(), web_->Files(), {}, {}, log);
+    PageUpdate pages(web_->Files(), {}, {}, log);
     pages.SetProgress(web_->Work().advanced);
     web_->Work().run([&] { pages.Run(); });
     for (const std::string& line : pages.BrokenAddresses())

@@ -7,6 +7,7 @@
 #include "formats/web_text.h"
 #include "text/ignoring_case.h"
 #include "web_host/limits.h"
+#include "web_host/parallel.h"
 
 namespace morpho {
 
@@ -102,7 +103,7 @@ void PageUpdate::NoteBroken(const std::string& url, const std::string& text) {
 }
 
 void PageUpdate::Write() {
-    disk_.InParallel(changes_.size(), [this](std::size_t i) {
+    InParallel(changes_.size(), [this](std::size_t i) {
         Change& change = changes_[i];
         try {
             WriteWholeFile(*change.folder, change.name, change.bytes, Durability::kFlushed);

@@ -24,10 +24,9 @@ class PageUpdate {
     using Report = std::function<void(const std::string& sentence)>;
 
     // Without a theme no page is changed.
-    PageUpdate(Disk& disk, const WebFiles& web, std::optional<std::string> theme, PageChoice choice,
+    PageUpdate(const WebFiles& web, std::optional<std::string> theme, PageChoice choice,
                Report report)
-        : disk_(disk),
-          web_(web),
+        : web_(web),
           theme_(std::move(theme)),
           choice_(std::move(choice)),
           report_(std::move(report)),
@@ -77,7 +76,6 @@ class PageUpdate {
     static void Sweep(Folder& folder, const std::vector<FolderEntry>& entries,
                       std::uint64_t program);
 
-    Disk& disk_;
     const WebFiles& web_;
     std::optional<std::string> theme_;
     PageChoice choice_;

@@ -93,7 +93,7 @@ class SaveRepair {
         if (!EqualIgnoringCase(now, record_.webTheme) &&
             !EqualIgnoringCase(now, record_.appliedTheme))
             return;
-        PageUpdate pages(web_.TheDisk(), web_.Files(), record_.appliedTheme, record_.pages,
+        PageUpdate pages(web_.Files(), record_.appliedTheme, record_.pages,
                          [this](const std::string& sentence) { web_.Reports().Add(sentence); });
         pages.Run(record_.program);
         pages.ReportKeptThemes();

@@ -222,7 +222,7 @@ void WebSaveTransaction::UpdatePages() {
     const auto report = [this](const std::string& sentence) { web_.Reports().Add(sentence); };
     try {
         if (applies || recalculates_) {
-            PageUpdate pages(web_.TheDisk(), web_.Files(),
+            PageUpdate pages(web_.Files(),
                              applies ? std::optional(record_.appliedTheme) : std::nullopt,
                              record_.pages, report);
             pages.SetProgress(web_.Work().advanced);

@@ -2,7 +2,6 @@
 
 #include <limits>
 
-#include "web_host/parallel.h"
 #include "windows_system/full_path.h"
 #include "windows_system/wide.h"
 #include "windows_system/windows_error.h"
@@ -29,10 +28,6 @@ std::unique_ptr<Folder> WindowsDisk::Open(std::string_view path) {
 std::unique_ptr<Folder> WindowsDisk::OpenOrCreate(std::string_view path) {
     CreateFolders(FullPath(path));
     return Open(path);
-}
-
-void WindowsDisk::InParallel(std::size_t count, const std::function<void(std::size_t)>& work) {
-    morpho::InParallel(count, work);
 }
 
 std::string WindowsDisk::Machine() const {

@@ -9,7 +9,6 @@ class WindowsDisk : public Disk {
   public:
     std::unique_ptr<Folder> Open(std::string_view path) override;
     std::unique_ptr<Folder> OpenOrCreate(std::string_view path) override;
-    void InParallel(std::size_t count, const std::function<void(std::size_t)>& work) override;
     std::string Machine() const override;
     std::uint64_t Program() const override;
     bool IsRunning(std::uint64_t program) const override;

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <atomic>
 #include <memory>
 #include <string>
 #include <vector>
@@ -125,14 +124,7 @@ TYPED_TEST_P(DiskContract, ALockExcludesOthersAndGoesWithItsFile) {
     EXPECT_THROW(this->folder_->TryLock("folder", holder), RunTimeError);
 }
 
-TYPED_TEST_P(DiskContract, WorksInParallelAndThrowsTheFirstError) {
-    std::vector<std::atomic<int>> calls(100);
-    this->disk_.InParallel(calls.size(), [&](std::size_t i) { ++calls[i]; });
-    EXPECT_TRUE(std::all_of(calls.begin(), calls.end(), [](int count) { return count == 1; }));
-    const auto fail = [](std::size_t i) {
-        if (i == 3) throw RunTimeError(ErrorNumber::kDeviceIo, "third");
-    };
-    EXPECT_THROW(this->disk_.InParallel(9, fail), RunTimeError);
+TYPED_TEST_P(DiskContract, KnowsThisProgramAndTheMachine) {
     EXPECT_TRUE(this->disk_.IsRunning(this->disk_.Program()));
     EXPECT_FALSE(this->disk_.IsRunning(0));
     EXPECT_NE(this->disk_.Machine(), "");
@@ -141,7 +133,6 @@ TYPED_TEST_P(DiskContract, WorksInParallelAndThrowsTheFirstError) {
 REGISTER_TYPED_TEST_SUITE_P(DiskContract, FindsEntriesAndLeadsNowhereElse,
                             AFileIsReplacedByCommitOnly, RenamesOverFilesButOverNoFolder,
                             AnOpenFolderStaysTheSameWhateverItsNameBecomes,
-                            ALockExcludesOthersAndGoesWithItsFile,
-                            WorksInParallelAndThrowsTheFirstError);
+                            ALockExcludesOthersAndGoesWithItsFile, KnowsThisProgramAndTheMachine);
 
 }  // namespace morpho::test
