@@ -168,7 +168,8 @@ void HostWindow::OpenPage(const WebPath& page) {
     connect(view, &WebPageView::LinkRefused, this,
             [this](const QString& reason) { Tell({FromQt(reason)}); });
     connect(view, &WebPageView::loadFinished, this, [this, view](bool loaded) {
-        if (!loaded) Tell({"The page \"" + FromQt(PathOf(view->Page())) + "\" cannot be shown."});
+        if (!loaded && !view->TakeRefusal())
+            Tell({"The page \"" + FromQt(PathOf(view->Page())) + "\" cannot be shown."});
         WatchShown();
     });
     view->ShowPage(page);

@@ -78,6 +78,8 @@ void WebPageView::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 bool WebPageView::Follows(const QUrl& link) {
+    // The browser tells of a failed load, too, when the link is not followed.
+    hasRefused_ = true;
     const auto names = PageServer::NamesIn(link);
     if (!names || !PageServer::IsOfScheme(link) || FromQt(link.host()) != site_) {
         emit LinkRefused("This address is outside of the web: " + link.toString());
@@ -93,7 +95,10 @@ bool WebPageView::Follows(const QUrl& link) {
         return false;
     }
     files_->Clear();
-    if (file->size() == names->size()) return true;
+    if (file->size() == names->size()) {
+        hasRefused_ = false;
+        return true;
+    }
     // The home page of a folder gets its own address, for what is relative to it. The browser is
     // sent there after its question has been answered.
     QMetaObject::invokeMethod(

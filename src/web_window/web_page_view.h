@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "qt/page_server.h"
 #include "qt/page_view.h"
@@ -39,6 +40,8 @@ class WebPageView : public PageView {
     const PageFiles& Files() const { return *files_; }
     // Selects the next picture (1), or the previous one (-1).
     void StepPicture(int step);
+    // Whether the load that failed was a link that this view has not followed. Answers once.
+    bool TakeRefusal() { return std::exchange(hasRefused_, false); }
     // Reads the page and its files again, if the web still has it.
     void ReadAgain();
 
@@ -66,6 +69,7 @@ class WebPageView : public PageView {
     std::string site_;
     WebPath page_;
     PageSelection selection_;
+    bool hasRefused_ = false;
     std::shared_ptr<PageFiles> files_;
     std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);  // for answers that come late
 };
