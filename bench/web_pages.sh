@@ -7,13 +7,9 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 pages=${1:-2000} rounds=${2:-5}
 source bench/whole_programs.sh
+source bench/large_web.sh
 
-cp -r samples/larkfell "$work/web"
-for ((i = 0; i < pages; i++)); do
-    folder=$work/web/part$((i / 100))
-    mkdir -p "$folder"
-    sed 's|_themes/|../_themes/|g' samples/larkfell/index.htm >"$folder/page$i.htm"
-done
+make_large_web "$work/web" "$pages"
 
 copied() { cp -r "$work/web" "$work/copy$1" && sync -f "$work/copy$1"; }
 
