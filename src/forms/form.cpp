@@ -84,7 +84,12 @@ void Form::Load() {
 
 void Form::ShowModalOn(Toolkit& toolkit) {
     visible_ = true;
-    toolkit.RunModal(*this);
+    try {
+        toolkit.RunModal(*this);
+    } catch (...) {
+        visible_ = false;
+        throw;
+    }
     visible_ = false;
 }
 
