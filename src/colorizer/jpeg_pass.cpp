@@ -14,9 +14,6 @@ namespace colorizer {
 
 namespace {
 
-/// Below this many blocks a thread costs more than it saves.
-constexpr std::size_t kBlocksWorthAThread = 4096;
-
 /// Hands rows over from the thread that reads them to the one that writes them, in rows of MCUs.
 class RowRelay {
   public:
@@ -118,8 +115,7 @@ std::vector<std::uint8_t> RecolorJpeg(JpegPicture& picture, const ColourMap& map
 std::vector<std::uint8_t> RecolorJpeg(std::span<const std::uint8_t> file, const ColourMap& map,
                                       std::optional<int> quality, JpegPicture& picture) {
     JpegReader reader(file, picture);
-    const JpegComponent& first = picture.components[0];
-    if (!reader.HasOneScan() || first.blocksWide * first.blocksHigh < kBlocksWorthAThread) {
+    if (!reader.HasOneScan() || !IsWorthThreads(picture.components[0])) {
         reader.ReadCoefficients(nullptr);
         return RecolorJpeg(picture, map, quality, file.size());
     }

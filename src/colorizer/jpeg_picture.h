@@ -51,6 +51,12 @@ struct JpegPicture {
 /// True when the bytes begin as a JPEG file does.
 bool IsJpeg(std::span<const std::uint8_t> file);
 
+/// Whether the picture is so large that another thread saves more time than it costs.
+inline bool IsWorthThreads(const JpegComponent& first) {
+    constexpr std::size_t kBlocks = 4096;
+    return first.blocksWide * first.blocksHigh >= kBlocks;
+}
+
 /// Does what is to be done before rows of blocks are used.
 class RowPreparation {
   public:

@@ -1,12 +1,11 @@
 #include <algorithm>
 #include <cstring>
-#include <new>
 
 #include "colorizer/jpeg_errors.h"
+#include "colorizer/jpeg_output.h"
 #include "colorizer/jpeg_planes.h"
+#include "colorizer/jpeg_scans.h"
 #include "colorizer/recolorer.h"
-
-#include <jerror.h>
 
 namespace colorizer {
 
@@ -23,74 +22,22 @@ J_COLOR_SPACE ColourSpace(JpegColour colour) {
     }
 }
 
-/// The library's destination: bytes in memory.
-class Output : public jpeg_destination_mgr {
-  public:
-    explicit Output(std::size_t sizeHint) : bytes_(sizeHint + kSlack) {
-        init_destination = [](j_compress_ptr info) { Of(info).SetUsed(0); };
-        empty_output_buffer = [](j_compress_ptr info) -> boolean { return Of(info).Grow(info); };
-        term_destination = [](j_compress_ptr) {};
-    }
-
-    void Append(std::span<const std::uint8_t> bytes) {
-        const std::size_t used = Used();
-        if (free_in_buffer < bytes.size()) bytes_.resize(used + bytes.size() + kSlack);
-        std::copy(bytes.begin(), bytes.end(), bytes_.data() + used);
-        SetUsed(used + bytes.size());
-    }
-
-    std::vector<std::uint8_t> TakeBytes() {
-        bytes_.resize(Used());
-        return std::move(bytes_);
-    }
-
-  private:
-    static Output& Of(j_compress_ptr info) { return *static_cast<Output*>(info->dest); }
-
-    std::size_t Used() const { return bytes_.size() - free_in_buffer; }
-
-    void SetUsed(std::size_t used) {
-        next_output_byte = bytes_.data() + used;
-        free_in_buffer = bytes_.size() - used;
-    }
-
-    /// The library asks when the whole buffer is used; its pointers here are older than that.
-    boolean Grow(j_compress_ptr info) {
-        const std::size_t used = bytes_.size();
-        bool isGrown = false;
-        try {
-            bytes_.resize(used + used / 2);
-            isGrown = true;
-        } catch (const std::bad_alloc&) {  // must not pass through the library's frames
-        }
-        if (!isGrown) ERREXIT1(info, JERR_OUT_OF_MEMORY, 0);
-        SetUsed(used);
-        return TRUE;
-    }
-
-    static constexpr std::size_t kSlack = 4096;
-    std::vector<std::uint8_t> bytes_;
-};
-
 class Encoder {
   public:
-    Encoder(JpegPicture& picture, RowPreparation& preparation, std::size_t sizeHint)
-        : picture_(picture), planes_(picture, &preparation), output_(sizeHint) {
+    Encoder(JpegPicture& picture, RowPreparation* preparation, std::size_t sizeHint)
+        : picture_(picture), planes_(picture, preparation), output_(sizeHint) {
         info_.err = &errors_;
+        SetScript();
         errors_.Run([&] { jpeg_create_compress(&info_); });
         info_.dest = &output_;
         planes_.AttachTo(reinterpret_cast<j_common_ptr>(&info_));
     }
 
+    /// The whole file.
     std::vector<std::uint8_t> Run() {
-        SetScript();
-        jvirt_barray_ptr arrays[MAX_COMPONENTS];
-        for (std::size_t index = 0; index < picture_.components.size(); ++index) {
-            arrays[index] = planes_.Array(index);
-        }
         errors_.Run([&] {
             SetParameters();
-            jpeg_write_coefficients(&info_, arrays);
+            Begin();
             output_.Append(picture_.markers);
             jpeg_finish_compress(&info_);
             output_.Append(picture_.trailing);
@@ -98,7 +45,35 @@ class Encoder {
         return output_.TakeBytes();
     }
 
+    std::size_t ScanCount() {
+        errors_.Run([&] { SetParameters(); });
+        return static_cast<std::size_t>(info_.num_scans);
+    }
+
+    /// A file whose only scan is this one of a progressive picture.
+    std::vector<std::uint8_t> RunScan(std::size_t scan) {
+        errors_.Run([&] {
+            SetParameters();
+            const jpeg_scan_info wanted = info_.scan_info[scan];
+            // The library refuses a script without a scan of the DC values. It checks the script at
+            // the beginning, and reads it at the end.
+            jpeg_scan_info script{info_.num_components, {0, 1, 2, 3}, 0, 0, 0, 0};
+            info_.scan_info = &script;
+            info_.num_scans = 1;
+            Begin();
+            script = wanted;
+            jpeg_finish_compress(&info_);
+        });
+        return output_.TakeBytes();
+    }
+
   private:
+    void Begin() {
+        for (std::size_t index = 0; index < picture_.components.size(); ++index)
+            arrays_[index] = planes_.Array(index);
+        jpeg_write_coefficients(&info_, arrays_);
+    }
+
     void SetParameters() {
         info_.image_width = picture_.width;
         info_.image_height = picture_.height;
@@ -148,7 +123,8 @@ class Encoder {
 
     JpegPicture& picture_;
     JpegPlanes planes_;
-    Output output_;
+    jvirt_barray_ptr arrays_[MAX_COMPONENTS];  ///< the library reads it at the end
+    JpegOutput output_;
     JpegErrors errors_;
     std::vector<jpeg_scan_info> script_;
     JpegCompress info_;
@@ -158,7 +134,15 @@ class Encoder {
 
 std::vector<std::uint8_t> WriteJpeg(JpegPicture& picture, RowPreparation& preparation,
                                     std::size_t sizeHint) {
-    return Encoder(picture, preparation, sizeHint).Run();
+    if (!picture.isProgressive || !IsWorthThreads(picture.components[0]))
+        return Encoder(picture, &preparation, sizeHint).Run();
+    for (const JpegComponent& component : picture.components) {
+        if (!preparation.Prepare(component, component.blocksHigh)) throw Error("Stopped.");
+    }
+    const std::size_t scans = Encoder(picture, nullptr, 0).ScanCount();
+    return EncodeScans(picture, scans, [&](std::size_t scan) {
+        return Encoder(picture, nullptr, sizeHint / scans).RunScan(scan);
+    });
 }
 
 std::array<QuantTable, 2> StandardTables(int quality) {

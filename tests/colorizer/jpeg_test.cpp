@@ -211,6 +211,15 @@ TEST(Jpeg, ComesBackAfterWholeTurns) {
         EXPECT_EQ(Samples(AfterPasses(jpeg, 2, {1, 1, -540})), Samples(jpeg));
         EXPECT_LT(MeanError(jpeg, AfterPasses(jpeg, 10, {1, 1, 36}), {}, 'y'), 2.5);
     }
+    // So large that several threads encode its scans; the library has encoded the source's in one.
+    const Bytes large = MakeJpeg({.width = 600,
+                                  .height = 500,
+                                  .quality = 60,
+                                  .isProgressive = true,
+                                  .restartInterval = 7,
+                                  .segments = MakeSegment(0xFE, FromText("large"))}) +
+                        FromText("trailing");
+    EXPECT_EQ(AfterPasses(large, 4, {1, 1, 90}), large);
 }
 
 TEST(Jpeg, DamagedAnywhereIsRefusedOrStaysReadable) {
