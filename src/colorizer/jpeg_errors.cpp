@@ -8,7 +8,7 @@
 
 namespace colorizer {
 
-JpegErrors::JpegErrors() {
+JpegErrors::JpegErrors(bool mayMissScans) : mayMissScans_(mayMissScans) {
     jpeg_std_error(this);
     error_exit = Exit;
     emit_message = Warn;
@@ -22,7 +22,11 @@ void JpegErrors::Exit(j_common_ptr info) {
 
 void JpegErrors::Warn(j_common_ptr info, int level) {
     if (level >= 0) return;
-    switch (info->err->msg_code) {
+    const auto* self = static_cast<JpegErrors*>(info->err);
+    switch (self->msg_code) {
+        case JWRN_BOGUS_PROGRESSION:
+            if (self->mayMissScans_) return;
+            Exit(info);
         case JWRN_ADOBE_XFORM:  // these four say nothing about the picture's data
         case JWRN_BOGUS_ICC:
         case JWRN_JFIF_MAJOR:

@@ -10,7 +10,8 @@ namespace colorizer {
 /// libjpeg's error manager. Warnings about damage count as errors.
 class JpegErrors : public jpeg_error_mgr {
   public:
-    JpegErrors();
+    /// With `mayMissScans` the scans that a progressive scan refines may be missing.
+    explicit JpegErrors(bool mayMissScans = false);
 
     /// Runs `step` and turns an error exit of the library into a thrown Error. An error exit skips
     /// destructors, so `step` may keep nothing that has one.
@@ -25,6 +26,7 @@ class JpegErrors : public jpeg_error_mgr {
     [[noreturn]] static void Exit(j_common_ptr info);
     static void Warn(j_common_ptr info, int level);
 
+    bool mayMissScans_;
     std::jmp_buf exit_;
     char text_[JMSG_LENGTH_MAX];
 };

@@ -40,7 +40,10 @@ class LayoutWalk {
             if (marker == kEoi) break;
             const Bytes content = TakeSegment();
             if (IsFrame(marker)) ReadFrame(marker, content);
-            if (marker == kSos) ReadScan(content);
+            if (marker == kSos) {
+                ReadScan(content);
+                layout_.scanBytes.push_back(file_.subspan(start, at_ - start));
+            }
             if ((marker >= kApp0 && marker <= kApp15) || marker == kCom) {
                 layout_.markers.insert(layout_.markers.end(), file_.data() + start,
                                        file_.data() + at_);
@@ -177,6 +180,19 @@ class LayoutWalk {
 
 bool IsJpeg(Bytes file) {
     return file.size() >= 3 && file[0] == 0xFF && file[1] == kSoi && file[2] == 0xFF;
+}
+
+BitsSent SentBits(std::span<const JpegScan> scans) {
+    BitsSent sent;
+    for (auto& component : sent)
+        component.fill(kNotSent);
+    for (const JpegScan& scan : scans) {
+        for (int index = 0; index < scan.componentCount; ++index) {
+            auto* const bits = sent[scan.components[index]].data();
+            std::fill(bits + scan.spectralStart, bits + scan.spectralEnd + 1, scan.bitLow);
+        }
+    }
+    return sent;
 }
 
 JpegLayout ScanLayout(Bytes file) {

@@ -20,6 +20,7 @@ class JpegOutput : public jpeg_destination_mgr {
         init_destination = [](j_compress_ptr info) { Of(info).SetUsed(0); };
         empty_output_buffer = [](j_compress_ptr info) -> boolean { return Of(info).Grow(info); };
         term_destination = [](j_compress_ptr) {};
+        SetUsed(0);
     }
 
     void Append(std::span<const std::uint8_t> bytes) {

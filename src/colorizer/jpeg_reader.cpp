@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "colorizer/recolorer.h"
+#include "colorizer/row_relay.h"
 
 namespace colorizer {
 
@@ -57,14 +58,41 @@ void RequireBoundedWork(const JpegLayout& layout, const JpegPicture& picture) {
     if (blocks > kMaxScanBlocks) throw Error("The JPEG picture has too many scans for its size.");
 }
 
+/// Reads one scan of a picture whose other scans are read elsewhere.
+class ScanReader {
+  public:
+    ScanReader(JpegSource::Pieces pieces, JpegPicture& picture, RowPreparation& rows)
+        : source_(std::move(pieces)), planes_(picture, &rows) {}
+
+    void Read() {
+        info_.err = &errors_;
+        errors_.Run([&] {
+            jpeg_create_decompress(&info_);
+            info_.src = &source_;
+            jpeg_read_header(&info_, TRUE);
+            planes_.AttachTo(reinterpret_cast<j_common_ptr>(&info_));
+            jpeg_read_coefficients(&info_);
+        });
+    }
+
+  private:
+    JpegErrors errors_{true};
+    JpegSource source_;
+    JpegPlanes planes_;
+    JpegDecompress info_;
+};
+
 }  // namespace
 
 JpegReader::JpegReader(std::span<const std::uint8_t> file, JpegPicture& picture)
-    : layout_(ScanLayout(file)), picture_(picture) {
+    : file_(file),
+      layout_(ScanLayout(file)),
+      picture_(picture),
+      source_({file.first(layout_.end)}) {
     info_.err = &errors_;
     errors_.Run([&] {
         jpeg_create_decompress(&info_);
-        jpeg_mem_src(&info_, file.data(), static_cast<unsigned long>(layout_.end));
+        info_.src = &source_;
         jpeg_read_header(&info_, TRUE);
     });
     picture_.width = info_.image_width;
@@ -86,12 +114,70 @@ JpegReader::JpegReader(std::span<const std::uint8_t> file, JpegPicture& picture)
 }
 
 void JpegReader::ReadCoefficients(RowPreparation* rows) {
-    JpegPlanes planes(picture_, rows);
-    planes.AttachTo(reinterpret_cast<j_common_ptr>(&info_));
-    errors_.Run([&] { jpeg_read_coefficients(&info_); });
+    if (CanLastScanFollow()) {
+        DecodeLastScanBeside();
+    } else {
+        Decode(rows);
+    }
     if (hasOneScan_) return;
     FinishTables();
     if (IsComplete()) picture_.scans = std::move(layout_.scans);
+}
+
+void JpegReader::Decode(RowPreparation* rows) {
+    JpegPlanes planes(picture_, rows);
+    planes.AttachTo(reinterpret_cast<j_common_ptr>(&info_));
+    errors_.Run([&] { jpeg_read_coefficients(&info_); });
+}
+
+// The last scan of a progressive picture is often the longest: the lowest bits of the luma. It adds
+// to what earlier scans of its component have sent, row by row.
+bool JpegReader::CanLastScanFollow() const {
+    const JpegScan& last = layout_.scans.back();
+    if (!layout_.isProgressive || !IsWorthThreads(picture_.components[0])) return false;
+    if (last.componentCount != 1 || last.spectralStart == 0 || last.spectralEnd > 63) return false;
+    const BitsSent sent = SentBits(std::span(layout_.scans).first(layout_.scans.size() - 1));
+    const int* const bits = sent[static_cast<std::size_t>(last.components[0])].data();
+    return last.bitHigh > 0 && last.bitLow == last.bitHigh - 1 && bits[0] != kNotSent &&
+           std::all_of(bits + last.spectralStart, bits + last.spectralEnd + 1,
+                       [&](int bit) { return bit == last.bitHigh; });
+}
+
+void JpegReader::DecodeLastScanBeside() {
+    const JpegScan& last = layout_.scans.back();
+    const int component = last.components[0];
+    std::size_t scans = 0, refined = 0;  // of the component; the one that the last scan refines
+    for (const JpegScan& scan : std::span(layout_.scans).first(layout_.scans.size() - 1)) {
+        const auto end = scan.components.begin() + scan.componentCount;
+        if (std::find(scan.components.begin(), end, component) == end) continue;
+        ++scans;
+        if (scan.spectralStart > 0) refined = scans;
+    }
+    RowRelay relay;
+    TellRowsOfScan told(relay, picture_.components[static_cast<std::size_t>(component)], refined);
+    AwaitRows awaited(relay);
+    ScanReader reader(LastScan(), picture_, awaited);
+    source_.Continue(AllButLastScan());
+    RunSideBySide(
+        relay, [&] { Decode(&told); }, [&] { reader.Read(); });
+}
+
+JpegSource::Pieces JpegReader::AllButLastScan() const {
+    const std::span<const std::uint8_t> last = layout_.scanBytes.back();
+    return {{source_.next_input_byte, last.data()},
+            {last.data() + last.size(), file_.data() + layout_.end}};
+}
+
+JpegSource::Pieces JpegReader::LastScan() const {
+    JpegSource::Pieces pieces;
+    const std::uint8_t* begin = file_.data();
+    for (const auto& scan : layout_.scanBytes) {
+        if (&scan == &layout_.scanBytes.back()) break;
+        pieces.emplace_back(begin, scan.data());
+        begin = scan.data() + scan.size();
+    }
+    pieces.emplace_back(begin, file_.data() + layout_.end);
+    return pieces;
 }
 
 void JpegReader::FinishTables() {
@@ -142,16 +228,10 @@ bool JpegReader::HasOwnHuffmanTables() {
 }
 
 bool JpegReader::IsComplete() const {
-    int lowestBit[3][64];
-    std::memset(lowestBit, -1, sizeof lowestBit);
-    for (const JpegScan& scan : layout_.scans) {
-        for (int index = 0; index < scan.componentCount; ++index) {
-            int* bits = lowestBit[scan.components[index]];
-            std::fill(bits + scan.spectralStart, bits + scan.spectralEnd + 1, scan.bitLow);
-        }
-    }
-    return std::all_of(lowestBit[0], lowestBit[layout_.componentCount],
-                       [](int bit) { return bit == 0; });
+    const BitsSent sent = SentBits(layout_.scans);
+    return std::all_of(sent.begin(), sent.begin() + layout_.componentCount, [](const auto& bits) {
+        return std::all_of(bits.begin(), bits.end(), [](int bit) { return bit == 0; });
+    });
 }
 
 }  // namespace colorizer

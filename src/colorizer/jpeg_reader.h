@@ -3,6 +3,7 @@
 #include "colorizer/jpeg_errors.h"
 #include "colorizer/jpeg_layout.h"
 #include "colorizer/jpeg_planes.h"
+#include "colorizer/jpeg_source.h"
 
 namespace colorizer {
 
@@ -21,6 +22,13 @@ class JpegReader {
     void ReadCoefficients(RowPreparation* rows);
 
   private:
+    void Decode(RowPreparation* rows);
+    bool CanLastScanFollow() const;
+    void DecodeLastScanBeside();
+    /// The file without its last scan, from where the library has read to.
+    JpegSource::Pieces AllButLastScan() const;
+    /// The file with its last scan alone.
+    JpegSource::Pieces LastScan() const;
     void FinishTables();
     /// A file may give a slot a new table between two scans; here every table gets a slot of its
     /// own.
@@ -30,9 +38,11 @@ class JpegReader {
     /// True when every coefficient was sent down to its last bit.
     bool IsComplete() const;
 
+    std::span<const std::uint8_t> file_;
     JpegLayout layout_;
     JpegPicture& picture_;
     JpegErrors errors_;
+    JpegSource source_;
     JpegDecompress info_;
     bool hasOneScan_;
 };

@@ -6,6 +6,8 @@
 #include <span>
 #include <thread>
 
+#include "colorizer/jpeg_output.h"
+
 namespace colorizer {
 
 namespace {
@@ -16,37 +18,33 @@ using Bytes = std::span<const std::uint8_t>;
 constexpr std::size_t kMarkerLength = 2;
 constexpr int kDht = 0xC4, kSos = 0xDA;
 
-/// The tables and the data of a file's only scan. The file is the library's own and whole.
-JpegBytes ScanOf(Bytes file) {
-    JpegBytes scan;
+/// Appends the tables and the data of a file's only scan. The file is the library's own and whole.
+void AppendScan(Bytes file, JpegOutput& output) {
     std::size_t at = kMarkerLength;
     for (int marker = 0; marker != kSos;) {
         marker = file[at + 1];
         const std::size_t length = kMarkerLength + (std::size_t{file[at + 2]} << 8 | file[at + 3]);
-        const Bytes segment = file.subspan(at, length);
         // The frame and the restart interval stand before the first scan.
-        if (marker == kDht || marker == kSos)
-            scan.insert(scan.end(), segment.begin(), segment.end());
+        if (marker == kDht || marker == kSos) output.Append(file.subspan(at, length));
         at += length;
     }
-    scan.insert(scan.end(), file.begin() + at, file.end() - kMarkerLength);
-    return scan;
-}
-
-void Append(JpegBytes& bytes, Bytes more) {
-    bytes.insert(bytes.end(), more.begin(), more.end());
+    output.Append(file.subspan(at, file.size() - at - kMarkerLength));
 }
 
 JpegBytes Join(const JpegPicture& picture, const std::vector<JpegBytes>& files) {
+    std::size_t size = picture.markers.size() + picture.trailing.size();
+    for (const JpegBytes& file : files)
+        size += file.size();
+    JpegOutput joined(size);
     const Bytes first = files[0];
-    JpegBytes joined(first.begin(), first.begin() + kMarkerLength);
-    Append(joined, picture.markers);
-    Append(joined, first.subspan(kMarkerLength, first.size() - 2 * kMarkerLength));
+    joined.Append(first.first(kMarkerLength));
+    joined.Append(picture.markers);
+    joined.Append(first.subspan(kMarkerLength, first.size() - 2 * kMarkerLength));
     for (std::size_t scan = 1; scan < files.size(); ++scan)
-        Append(joined, ScanOf(files[scan]));
-    Append(joined, first.last(kMarkerLength));
-    Append(joined, picture.trailing);
-    return joined;
+        AppendScan(files[scan], joined);
+    joined.Append(first.last(kMarkerLength));
+    joined.Append(picture.trailing);
+    return joined.TakeBytes();
 }
 
 }  // namespace

@@ -192,8 +192,11 @@ TEST(Jpeg, CutAnywhereIsRefused) {
     expectCutRefused(MakeJpeg({}), 1);
     expectCutRefused(MakeJpeg({.isProgressive = true}), 1);
     // Large enough to be read and written at once.
-    const Bytes large = MakeJpeg({.width = 700, .height = 600, .grain = 30});
-    expectCutRefused(large, large.size() / 8);
+    for (const bool isProgressive : {false, true}) {
+        const Bytes large =
+            MakeJpeg({.width = 700, .height = 600, .isProgressive = isProgressive, .grain = 30});
+        expectCutRefused(large, large.size() / 8);
+    }
 }
 
 Bytes AfterPasses(Bytes jpeg, int passes, const Adjustment& adjustment) {
