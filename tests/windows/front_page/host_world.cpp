@@ -1,0 +1,51 @@
+#include "windows/front_page/host_world.h"
+
+#include "windows_system/wide.h"
+
+namespace morpho::test {
+
+namespace {
+
+const std::string kExplorerClass = "{6F0D3C52-8B1E-4D07-9A6E-51C2D7B84E13}";
+
+}  // namespace
+
+HostWorld::HostWorld(const std::string& version, const Clipboard* clipboard)
+    : application_(disk_, files_, folder_ / (version.starts_with("6") ? "Cache" : "Temp"),
+                   {version, clipboard}),
+      registry_(DescribeMachine(Machine(), version)) {
+    OleInitialize(nullptr);
+    for (const char* name : {"Cache", "Temp", "Desktop", "AppData/Microsoft", "Program"})
+        std::filesystem::create_directories(folder_.At(name));
+    std::filesystem::copy(std::filesystem::path(MORPHO_SOURCE_DIR) / "samples/larkfell",
+                          folder_.At("web"), std::filesystem::copy_options::recursive);
+    for (const wchar_t* name : {L"TMP", L"TEMP"})
+        SetEnvironmentVariableW(name, folder_.At("Temp").c_str());
+    const std::string themes = version.starts_with("6") ? "Themes11" : "Themes";
+    application_.Open(folder_ / "web", {},
+                      {folder_ / "AppData\\Microsoft\\Themes",
+                       folder_ / ("Common\\Microsoft Shared\\" + themes), folder_ / "save"});
+    classes_.emplace();
+    explorer_.emplace(host_, kExplorerClass);
+    registry_.Use(true);
+}
+
+HostWorld::~HostWorld() {
+    registry_.Use(false);
+    explorer_.reset();
+    OleUninitialize();
+}
+
+MachineFolders HostWorld::Machine() const {
+    return {.cache = folder_ / "Cache",
+            .appData = folder_ / "AppData",
+            .desktop = folder_ / "Desktop",
+            .commonFiles = folder_ / "Common",
+            .program = folder_ / "Program"};
+}
+
+void HostWorld::Select(const WebPath& page, int picture) {
+    application_.SetActivePage([=] { return ActivePage{.page = page, .picture = picture}; });
+}
+
+}  // namespace morpho::test
