@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "image_editor/frm_image_morpho.h"
+#include "program/linux_system.h"
 #include "program/qt_desktop.h"
 
 namespace {
@@ -37,9 +38,10 @@ void MeasureHueChanges(frmImageMorpho& window) {
 
 int main(int argc, char** argv) {
     if (argc != 2) return 2;
-    QtDesktop here;
-    here.component.application = here.desktop.SharedFrontPage();
-    frmImageMorpho window(here.program);
+    LinuxSystem system;
+    QtDesktop here(system);
+    here.editors.component.application = here.editors.desktop.SharedFrontPage();
+    frmImageMorpho window(here.editors.program);
     window.OpenAtStart(
         {ImageKind::kDisk, ToWindowsPath(std::filesystem::canonical(argv[1]).string())});
     here.toolkit.WhenFormStands([&](Form& form) {

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <functional>
 
+#include "program/linux_system.h"
 #include "program/qt_desktop.h"
 #include "web_window/host_window.h"
 
@@ -64,10 +65,12 @@ void Measure(const char* name, const std::function<void()>& work) {
 int main(int argc, char** argv) {
     if (argc != 3) return 2;
     const std::string web = std::filesystem::absolute(argv[1]).lexically_normal().string();
-    QtDesktop here;
-    DiskApplication& host = here.desktop.FrontPage();
-    HostWindow window({host, here.desktop.Parts(), here.toolkit.Pages(),
-                       [&](const std::string& folder) { here.desktop.OpenForSaving(folder); }});
+    LinuxSystem system;
+    QtDesktop here(system);
+    DesktopPlatform& desktop = here.editors.desktop;
+    DiskApplication& host = desktop.FrontPage();
+    HostWindow window({host, desktop.Parts(), here.toolkit.Pages(),
+                       [&](const std::string& folder) { desktop.OpenForSaving(folder); }});
     window.show();
     RunEvents(kAfterwardsMilliseconds);
     // The first page also starts the browser; that is no work on the web.

@@ -10,8 +10,10 @@
 #include <filesystem>
 #include <vector>
 
+#include "desktop/desktop_platform.h"
+#include "linux/disk_file_system.h"
 #include "linux/disk_path.h"
-#include "program/desktop_platform.h"
+#include "program/linux_system.h"
 #include "qt/qt_clipboard.h"
 #include "qt/qt_toolkit.h"
 #include "resources/embedded_resources.h"
@@ -76,9 +78,10 @@ int main(int argc, char** argv) {
     const EmbeddedResources resources;
     QtToolkit toolkit(pages, {}, {FindOnDisk, ToWindowsPath});
     QtClipboard clipboard;
-    DesktopPlatform desktop(DesktopUse::kBatch, FindUserFolders(EnvironmentVariable), toolkit,
-                            resources, clipboard);
-    desktop.OpenForReading(std::filesystem::absolute(argv[1]).string());
+    LinuxSystem system;
+    DesktopPlatform desktop(DesktopUse::kBatch, system, system.Folders(), toolkit, resources,
+                            clipboard);
+    desktop.OpenForReading(std::filesystem::absolute(argv[1]));
     Component component;
     component.application = desktop.SharedFrontPage();
     frmThemeMorpho window({desktop.Parts(), component});

@@ -9,7 +9,6 @@
 
 #include "linux/disk_path.h"
 #include "linux/file_error.h"
-#include "linux/running_program.h"
 
 namespace morpho {
 
@@ -38,11 +37,6 @@ bool WriteAll(int number, std::string_view bytes) {
         if (count > 0) bytes.remove_prefix(static_cast<std::size_t>(count));
     }
     return true;
-}
-
-bool IsAbandonedTemporaryName(std::string_view name) {
-    const auto program = ProgramOfTemporaryName(name);
-    return program && !IsProgramRunning(*program);
 }
 
 std::string ReadPiece(const Descriptor& file, std::uint64_t offset, std::size_t count,

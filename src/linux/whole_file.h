@@ -42,9 +42,6 @@ class WholeFile : public NewFile {
     Descriptor file_;
 };
 
-// Whether a file of this name was left by a program that was killed while it wrote.
-bool IsAbandonedTemporaryName(std::string_view name);
-
 // Whether a regular file, no link, stands at this path and holds the same bytes as the open
 // `source`. Reads `source` from its beginning and rewinds it. `sourcePath` is for the error.
 bool HoldsSameBytes(const std::string& diskPath, const Descriptor& source,

@@ -6,7 +6,6 @@
 #include "addin/add_in_im.h"
 #include "addin/add_in_tm.h"
 #include "image_editor/frm_image_morpho.h"
-#include "program/qt_desktop.h"
 #include "qt/qt_text.h"
 #include "text/ignoring_case.h"
 #include "web_window/host_window.h"
@@ -71,9 +70,8 @@ void OfferTheme(HostWindow& window, DiskApplication& host) {
 
 }  // namespace
 
-void ShowWebWindow(const WebRequest& request) {
-    QtDesktop here(request.hostVersion);
-    DesktopPlatform& desktop = here.desktop;
+void ShowWebWindow(const WebRequest& request, QtDesktop& here) {
+    DesktopPlatform& desktop = here.editors.desktop;
     const std::string folder = FolderOf(request, desktop.Parts());
     const auto open = [&](const std::string& web) { desktop.OpenForSaving(web); };
     HostWindow window({desktop.FrontPage(), desktop.Parts(), here.toolkit.Pages(), open});
@@ -86,7 +84,7 @@ void ShowWebWindow(const WebRequest& request) {
         });
     });
     window.show();
-    const ConnectedAddIns addIns(here.program, desktop.SharedFrontPage());
+    const ConnectedAddIns addIns(here.editors.program, desktop.SharedFrontPage());
     // A web that was named and cannot be opened is the command's error, not the window's.
     if (!request.web.empty()) {
         window.LoadWeb(folder);

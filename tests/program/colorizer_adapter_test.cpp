@@ -1,9 +1,10 @@
-#include "program/colorizer_adapter.h"
+#include "desktop/colorizer_adapter.h"
 
 #include <gmock/gmock.h>
 
 #include "linux/disk_path.h"
 #include "platform/run_time_error.h"
+#include "program/linux_system.h"
 #include "support/temporary_folder.h"
 
 namespace morpho {
@@ -33,7 +34,8 @@ class ColorizerAdapterTest : public testing::Test {
     }
 
     TemporaryFolder folder_;
-    std::unique_ptr<Colorizer> colorizer_ = ColorizerAdapterFactory().Create();
+    LinuxSystem system_;
+    std::unique_ptr<Colorizer> colorizer_ = ColorizerAdapterFactory(system_).Create();
 };
 
 TEST_F(ColorizerAdapterTest, RecoloursAFileFoundWithoutRegardToCaseAndThenItsOwnWork) {

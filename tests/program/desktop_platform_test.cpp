@@ -1,4 +1,4 @@
-#include "program/desktop_platform.h"
+#include "desktop/desktop_platform.h"
 
 #include <gtest/gtest.h>
 
@@ -6,6 +6,7 @@
 
 #include "forms/headless_toolkit.h"
 #include "frontpage/environment_discovery.h"
+#include "program/linux_system.h"
 #include "resources/embedded_resources.h"
 #include "shared/memory_clipboard.h"
 #include "shared/settings.h"
@@ -17,11 +18,16 @@ namespace {
 class DesktopPlatformTest : public testing::Test {
   protected:
     std::unique_ptr<DesktopPlatform> Start(DesktopUse use) {
-        const UserFolders folders{home_ / "", home_ / "cache/morpho", home_ / "data/morpho"};
-        return std::make_unique<DesktopPlatform>(use, folders, toolkit_, resources_, clipboard_);
+        const ProgramFolders folders{.desktop = home_ / "",
+                                     .appData = home_ / "data/morpho/AppData",
+                                     .data = home_ / "data/morpho",
+                                     .cache = home_ / "cache/morpho"};
+        return std::make_unique<DesktopPlatform>(use, system_, folders, toolkit_, resources_,
+                                                 clipboard_);
     }
 
     TemporaryFolder home_;
+    LinuxSystem system_;
     HeadlessToolkit toolkit_;
     EmbeddedResources resources_;
     MemoryClipboard clipboard_;

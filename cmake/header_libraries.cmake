@@ -1,0 +1,18 @@
+# CLI11 and nlohmann-json are headers alone, so those of this machine serve every system. A cross-compiler must not see
+# the other headers that are beside them.
+if(NOT CMAKE_CROSSCOMPILING)
+  find_package(CLI11 REQUIRED)
+  find_package(nlohmann_json REQUIRED)
+  return()
+endif()
+function(morpho_header_library name folder)
+  if(NOT EXISTS /usr/include/${folder})
+    message(FATAL_ERROR "/usr/include/${folder} is missing: scripts/install_packages.sh installs it.")
+  endif()
+  file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/header_libraries)
+  file(CREATE_LINK /usr/include/${folder} ${CMAKE_BINARY_DIR}/header_libraries/${folder} SYMBOLIC)
+  add_library(${name} INTERFACE IMPORTED GLOBAL)
+  target_include_directories(${name} INTERFACE ${CMAKE_BINARY_DIR}/header_libraries)
+endfunction()
+morpho_header_library(CLI11::CLI11 CLI)
+morpho_header_library(nlohmann_json::nlohmann_json nlohmann)
