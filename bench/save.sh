@@ -16,5 +16,5 @@ for ((round = 1; round <= rounds; round++)); do
     timed export recolour "$work/web$round" --export "$work/out$round"
     timed save recolour "$work/web$round" --save-as "night$round" --title "Night $round" --apply-to-web
 done
-echo "recolour and copy: $(median export) ms; recolour and save as a new theme: $(median save) ms;" \
-    "ratio $(ratio "$(median save)" "$(median export)")"
+claim 'saving as a new theme, beside recolouring and copying it' \
+    "$(median save) ms to $(median export) ms: $(ratio "$(median save)" "$(median export)") times the time" '1.5 or less'

@@ -20,6 +20,6 @@ for ((round = 0; round < rounds; round++)); do
     timed save "$morpho" recolor "$work/copy$round" --theme almanac --hue 60 --apply --save-as "new$round" --apply-to-web
 done
 for name in list apply save; do
-    echo "$pages pages, $name: $(median "$name") ms; copy: $(median copy) ms;" \
-        "ratio $(ratio "$(median "$name")" "$(median copy)")"
+    claim "a web of $pages pages: $name, beside cp -r" \
+        "$(median "$name") ms to $(median copy) ms: $(ratio "$(median "$name")" "$(median copy)") times the time" '-'
 done

@@ -1,5 +1,6 @@
 # Sourced by the measurements that time whole programs in turn: builds the release, and makes a folder $work, where the
 # program also keeps its data and its cache.
+source bench/claim.sh
 cmake --preset release >/dev/null
 cmake --build build/release --target morpho >/dev/null
 morpho=$PWD/build/release/bin/morpho
