@@ -23,7 +23,6 @@ VIAddVersionKey "ProductName" "Morpho"
 VIAddVersionKey "ProductVersion" "${VERSION}"
 VIAddVersionKey "FileVersion" "${VERSION}"
 VIAddVersionKey "FileDescription" "Morpho installer"
-VIAddVersionKey "LegalCopyright" "The owners of Morpho"
 
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Morpho"
 
@@ -59,18 +58,26 @@ UninstPage instfiles
   ${EndIf}
 !macroend
 
-Function .onInit
-  ; Files that FrontPage has loaded cannot be replaced; half an update is worse than none.
+; Files that FrontPage has loaded can be neither replaced nor deleted; half of either is worse than none.
+!macro RefuseWhileInUse
   ${If} ${FileExists} "$INSTDIR\x86\Morpho.dll"
     ClearErrors
     FileOpen $0 "$INSTDIR\x86\Morpho.dll" a
     ${If} ${Errors}
-      MessageBox MB_OK|MB_ICONSTOP "Morpho is in use. Close FrontPage and Morpho, then install again." /SD IDOK
+      MessageBox MB_OK|MB_ICONSTOP "Morpho is in use. Close FrontPage and Morpho, then try again." /SD IDOK
       SetErrorLevel 2
       Abort
     ${EndIf}
     FileClose $0
   ${EndIf}
+!macroend
+
+Function .onInit
+  !insertmacro RefuseWhileInUse
+FunctionEnd
+
+Function un.onInit
+  !insertmacro RefuseWhileInUse
 FunctionEnd
 
 Section
