@@ -53,5 +53,10 @@ done
 while read -r header; do
     offend "Two headers of src/ are named $header"
 done < <(find . -name '*.h' -printf '%f\n' | sort | uniq -d)
+# <windows.h> makes macros of names that are also ours: one header includes it, and takes them back.
+while IFS=: read -r file line _; do
+    offend "src/$file:$line: only windows_system/win32.h includes <windows.h>"
+done < <(grep -rniE --include='*.h' --include='*.cpp' '^[[:space:]]*#[[:space:]]*include[[:space:]]*<windows\.h>' . | sed 's|^\./||' |
+    grep -v '^windows_system/win32\.h:')
 [ $offences -eq 0 ] && echo "Levels: every include of src/ goes down."
 exit $offences
