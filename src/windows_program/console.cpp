@@ -4,7 +4,6 @@
 #include <io.h>
 
 #include <cstdio>
-#include <memory>
 
 #include "windows_system/wide.h"
 #include "windows_system/win32.h"
@@ -40,11 +39,11 @@ bool IsConsoleWatched() {
 
 std::vector<std::string> Arguments() {
     int count = 0;
-    const std::unique_ptr<LPWSTR[], HLOCAL (*)(HLOCAL)> words(
-        ::CommandLineToArgvW(::GetCommandLineW(), &count), ::LocalFree);
+    LPWSTR* const words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
     std::vector<std::string> arguments;
-    for (int i = 0; words && i < count; ++i)
+    for (int i = 0; words != nullptr && i < count; ++i)
         arguments.push_back(Narrow(words[i]));
+    ::LocalFree(words);
     return arguments;
 }
 
