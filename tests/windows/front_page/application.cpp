@@ -6,63 +6,52 @@ namespace {
 
 // The page in front; the host without windows has no other that an add-in could reach.
 HostObject ActivePageWindow(FrontPage& host) {
-    if (!host.host.ActiveDocument()) return nullptr;
-    return MakeObject({host.hooks,
-                       "PageWindow",
-                       {{"Document", kGet, 0,
-                         [&host](const HostCall&) {
-                             return PageDocumentObject(host, host.host.ActiveDocument());
-                         }},
-                        {"Caption", kGet, 0,
-                         [&host](const HostCall&) { return host.host.ActiveDocument()->Url(); }},
-                        {"Refresh", kCall, 1, [&host](const HostCall&) {
-                             host.host.RefreshViews();
-                             return HostValue();
-                         }}}});
+    const std::shared_ptr<PageDocument> page = host.standIn.ActiveDocument();
+    if (!page) return nullptr;
+    return host.Object("PageWindow",
+                       {Get("Document", [&host, page] { return PageDocumentObject(host, page); }),
+                        Get("Caption", [page] { return page->Url(); }),
+                        Order("Refresh", [&host] { host.standIn.RefreshViews(); })});
 }
 
 HostObject LanguageSettingsObject(FrontPage& host) {
-    return MakeObject(
-        {host.hooks, "LanguageSettings", {{"LanguageID", kGet, 1, [&host](const HostCall& call) {
-                                               const auto use =
-                                                   static_cast<LanguageUse>(call.Number(0));
-                                               return host.host.Languages()->LanguageId(use);
-                                           }}}});
+    const auto language = [&host](const CallArguments& call) {
+        const auto use = static_cast<LanguageUse>(IntegerOf(call[0]));
+        return host.standIn.Languages()->LanguageId(use);
+    };
+    return host.Object("LanguageSettings", {{"LanguageID", 1, {}, language}});
 }
 
 HostObject ActiveWeb(FrontPage& host) {
-    std::shared_ptr<Web> web = host.host.ActiveWeb();
+    std::shared_ptr<Web> web = host.standIn.ActiveWeb();
     return web ? WebObject(host, std::move(web)) : nullptr;
 }
 
 HostObject ActiveDocument(FrontPage& host) {
-    std::shared_ptr<PageDocument> page = host.host.ActiveDocument();
+    std::shared_ptr<PageDocument> page = host.standIn.ActiveDocument();
     return page ? PageDocumentObject(host, std::move(page)) : nullptr;
 }
 
 HostObject ActiveWebWindow(FrontPage& host) {
-    const auto web = host.host.ActiveWeb();
+    const auto web = host.standIn.ActiveWeb();
     return web ? WebWindowObject(host, web->ActiveWebWindow()) : nullptr;
 }
 
 }  // namespace
 
 HostObject ApplicationObject(FrontPage& host) {
-    return MakeObject(
-        {host.hooks,
-         "Application",
-         {{"Version", kGet, 0, [&host](const HostCall&) { return host.host.Version(); }},
-          {"ActiveWeb", kGet, 0, [&host](const HostCall&) { return ActiveWeb(host); }},
-          {"ActiveDocument", kGet, 0, [&host](const HostCall&) { return ActiveDocument(host); }},
-          {"ActivePageWindow", kGet, 0,
-           [&host](const HostCall&) { return ActivePageWindow(host); }},
-          {"ActiveWebWindow", kGet, 0, [&host](const HostCall&) { return ActiveWebWindow(host); }},
-          {"LanguageSettings", kGet, 0,
-           [&host](const HostCall&) { return LanguageSettingsObject(host); }},
-          {"CommandBars", kGet, 0, [&host](const HostCall&) { return CommandBarsObject(host); }},
-          {"MakeAbs", kCall, 2, [&host](const HostCall& call) {
-               return host.host.MakeAbs(call.Text(0), call.Text(1));
-           }}}});
+    const auto makeAbs = [&host](const CallArguments& call) {
+        return host.standIn.MakeAbs(TextOf(call[0]), TextOf(call[1]));
+    };
+    return host.Object("Application",
+                       {Get("Version", [&host] { return host.standIn.Version(); }),
+                        Get("ActiveWeb", [&host] { return ActiveWeb(host); }),
+                        Get("ActiveDocument", [&host] { return ActiveDocument(host); }),
+                        Get("ActivePageWindow", [&host] { return ActivePageWindow(host); }),
+                        Get("ActiveWebWindow", [&host] { return ActiveWebWindow(host); }),
+                        Get("LanguageSettings", [&host] { return LanguageSettingsObject(host); }),
+                        Get("CommandBars", [&host] { return CommandBarsObject(host); }),
+                        Call("MakeAbs", 2, makeAbs)});
 }
 
 }  // namespace morpho::test

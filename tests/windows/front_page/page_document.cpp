@@ -2,6 +2,7 @@
 
 #include "text/ignoring_case.h"
 #include "windows/front_page/front_page.h"
+#include "windows_com/com_error.h"
 
 namespace morpho::test {
 
@@ -9,122 +10,93 @@ namespace {
 
 using Page = std::shared_ptr<PageDocument>;
 
-HostObject TextRange(FrontPage& host, const std::string& html) {
-    return MakeObject({host.hooks, "TextRange", {{"htmlText", kGet, 0, [html](const HostCall&) {
-                                                      return html;
-                                                  }}}});
-}
-
-HostObject ControlRange(FrontPage& host, const std::string& html) {
+HostObject Range(FrontPage& host, const std::string& html) {
+    if (!host.selectsAsControl || html.empty())
+        return host.Object("TextRange", {Get("htmlText", [html] { return html; })});
     const auto item = [&host, html](int) {
-        return MakeObject({host.hooks, "Element", {{"outerHTML", kGet, 0, [html](const HostCall&) {
-                                                        return html;
-                                                    }}}});
+        return host.Object("Element", {Get("outerHTML", [html] { return html; })});
     };
-    return MakeCollection(
-        host.hooks, "ControlRange", 0, [] { return 1; }, item);
+    return host.Collection(
+        "ControlRange", 0, [] { return 1; }, item);
 }
 
 HostObject Selection(FrontPage& host, const Page& page) {
-    return MakeObject({host.hooks,
-                       "Selection",
-                       {{"createRange", kCall, 0, [&host, page](const HostCall&) {
-                             const std::string html = page->SelectionHtml();
-                             const bool asControl = host.selectsAsControl && !html.empty();
-                             return asControl ? ControlRange(host, html) : TextRange(host, html);
-                         }}}});
+    return host.Object("Selection", {Call("createRange", 0, [&host, page](const CallArguments&) {
+                           return Range(host, page->SelectionHtml());
+                       })});
 }
 
 HostObject Pictures(FrontPage& host, const Page& page) {
     const auto item = [&host, page](int index) {
-        return MakeObject({host.hooks, "Image", {{"src", kGet, 0, [page, index](const HostCall&) {
-                                                      return page->ImageAddress(index);
-                                                  }}}});
+        return host.Object("Image",
+                           {Get("src", [page, index] { return page->ImageAddress(index); })});
     };
-    return MakeCollection(
-        host.hooks, "Elements", 0, [page] { return page->ImageCount(); }, item);
+    return host.Collection(
+        "Elements", 0, [page] { return page->ImageCount(); }, item);
 }
 
 HostObject AllElements(FrontPage& host, const Page& page) {
-    return MakeObject(
-        {host.hooks, "All", {{"tags", kCall, 1, [&host, page](const HostCall& call) {
-                                  if (EqualIgnoringAsciiCase(call.Text(0), "img"))
-                                      return Pictures(host, page);
-                                  throw HostRefusal{E_NOTIMPL, "Only pictures are listed here."};
-                              }}}});
+    return host.Object("All", {Call("tags", 1, [&host, page](const CallArguments& call) {
+                           if (EqualIgnoringAsciiCase(TextOf(call[0]), "img"))
+                               return Pictures(host, page);
+                           throw ErrorOf(E_NOTIMPL, "Only pictures are listed here.");
+                       })});
 }
 
 HostObject Body(FrontPage& host, const Page& page) {
-    return MakeObject(
-        {host.hooks,
-         "Body",
-         {{"all", kGet, 0, [&host, page](const HostCall&) { return AllElements(host, page); }},
-          {"insertAdjacentHTML", kCall, 2, [page](const HostCall& call) {
-               page->InsertAdjacentHtml(call.Text(0), call.Text(1));
-               return HostValue();
-           }}}});
+    const auto insert = [page](const CallArguments& call) {
+        page->InsertAdjacentHtml(TextOf(call[0]), TextOf(call[1]));
+        return Variant();
+    };
+    return host.Object("Body", {Get("all", [&host, page] { return AllElements(host, page); }),
+                                Call("insertAdjacentHTML", 2, insert)});
 }
 
 HostObject Style(FrontPage& host, const std::shared_ptr<StyleRule>& rule) {
-    return MakeObject({host.hooks,
-                       "Style",
-                       {{"getAttribute", kCall, 2, [rule](const HostCall& call) -> HostValue {
-                             const auto value = rule->Attribute(call.Text(0));
-                             if (!value) return {};
-                             return *value;
-                         }}}});
+    return host.Object("Style",
+                       {Call("getAttribute", 2, [rule](const CallArguments& call) -> Variant {
+                           const auto value = rule->Attribute(TextOf(call[0]));
+                           return value ? Variant(*value) : Variant();
+                       })});
 }
 
-HostObject StyleSheetObject(FrontPage& host, const std::shared_ptr<StyleSheet>& sheet) {
+HostObject Rules(FrontPage& host, const std::shared_ptr<StyleSheet>& sheet) {
     const auto item = [&host, sheet](int index) {
         const std::shared_ptr<StyleRule> rule = sheet->Rule(index);
-        return MakeObject(
-            {host.hooks,
-             "Rule",
-             {{"selectorText", kGet, 0, [rule](const HostCall&) { return rule->SelectorText(); }},
-              {"style", kGet, 0, [&host, rule](const HostCall&) { return Style(host, rule); }}}});
+        return host.Object("Rule", {Get("selectorText", [rule] { return rule->SelectorText(); }),
+                                    Get("style", [&host, rule] { return Style(host, rule); })});
     };
-    const auto rules = [&host, sheet, item](const HostCall&) {
-        return MakeCollection(
-            host.hooks, "Rules", 0, [sheet] { return sheet->RuleCount(); }, item);
-    };
-    return MakeObject({host.hooks, "StyleSheet", {{"rules", kGet, 0, rules}}});
+    return host.Collection(
+        "Rules", 0, [sheet] { return sheet->RuleCount(); }, item);
 }
 
-// The page tells no number of its sheets.
+// The stand-in does not tell how many sheets its page has.
 HostObject StyleSheets(FrontPage& host, const Page& page) {
-    return MakeObject(
-        {host.hooks, "StyleSheets", {{"Item", kCall | kGet, 1, [&host, page](const HostCall& call) {
-                                          return StyleSheetObject(
-                                              host, page->StyleSheetAt(call.Number(0)));
-                                      }}}});
+    return host.Object(
+        "StyleSheets", {Call("Item", 1, [&host, page](const CallArguments& call) {
+            const std::shared_ptr<StyleSheet> sheet = page->StyleSheetAt(IntegerOf(call[0]));
+            return host.Object("StyleSheet",
+                               {Get("rules", [&host, sheet] { return Rules(host, sheet); })});
+        })});
 }
 
 HostObject UndoObject(FrontPage& host, const std::shared_ptr<UndoTransaction>& undo) {
-    return MakeObject({host.hooks,
-                       "UndoTransaction",
-                       {{"commit", kCall, 0, [](const HostCall&) { return HostValue(); }},
-                        {"abort", kCall, 0, [undo](const HostCall&) {
-                             undo->Abort();
-                             return HostValue();
-                         }}}});
+    return host.Object("UndoTransaction",
+                       {Order("commit", [] {}), Order("abort", [undo] { undo->Abort(); })});
 }
 
 }  // namespace
 
 HostObject PageDocumentObject(FrontPage& host, std::shared_ptr<PageDocument> page) {
-    return MakeObject(
-        {host.hooks,
-         "Document",
-         {{"url", kGet, 0, [page](const HostCall&) { return page->Url(); }},
-          {"isDirty", kGet, 0, [](const HostCall&) { return false; }},
-          {"selection", kGet, 0, [&host, page](const HostCall&) { return Selection(host, page); }},
-          {"body", kGet, 0, [&host, page](const HostCall&) { return Body(host, page); }},
-          {"styleSheets", kGet, 0,
-           [&host, page](const HostCall&) { return StyleSheets(host, page); }},
-          {"createUndoTransaction", kCall, 1, [&host, page](const HostCall& call) {
-               return UndoObject(host, page->BeginUndoTransaction(call.Text(0)));
-           }}}});
+    const auto begin = [&host, page](const CallArguments& call) {
+        return UndoObject(host, page->BeginUndoTransaction(TextOf(call[0])));
+    };
+    return host.Object("Document",
+                       {Get("url", [page] { return page->Url(); }),
+                        Get("selection", [&host, page] { return Selection(host, page); }),
+                        Get("body", [&host, page] { return Body(host, page); }),
+                        Get("styleSheets", [&host, page] { return StyleSheets(host, page); }),
+                        Call("createUndoTransaction", 1, begin)});
 }
 
 }  // namespace morpho::test

@@ -1,4 +1,5 @@
 #include "windows/front_page/front_page.h"
+#include "windows_com/com_error.h"
 
 namespace morpho::test {
 
@@ -6,156 +7,123 @@ namespace {
 
 HostObject FolderObject(FrontPage& host, std::shared_ptr<WebFolder> folder);
 
-HostObject FolderOrNothing(FrontPage& host, std::shared_ptr<WebFolder> folder) {
-    return folder ? FolderObject(host, std::move(folder)) : nullptr;
-}
-
 HostObject ThemesObject(FrontPage& host, const std::shared_ptr<Web>& web) {
     const auto item = [&host, web](int index) {
         const Theme theme = web->ThemeAt(index);
-        return MakeObject({host.hooks,
-                           "Theme",
-                           {{"Name", kGet, 0, [theme](const HostCall&) { return theme.name; }},
-                            {"Label", kGet, 0, [theme](const HostCall&) { return theme.label; }}}});
+        return host.Object("Theme", {Get("Name", [theme] { return theme.name; }),
+                                     Get("Label", [theme] { return theme.label; })});
     };
-    return MakeCollection(
-        host.hooks, "Themes", 0, [web] { return web->ThemeCount(); }, item);
+    return host.Collection(
+        "Themes", 0, [web] { return web->ThemeCount(); }, item);
 }
 
 HostObject PropertiesObject(FrontPage& host, const std::shared_ptr<Web>& web) {
-    return MakeObject({host.hooks,
-                       "Properties",
-                       {{"Item", kCall | kGet, 1, [web](const HostCall& call) {
-                             const auto value = web->Property(call.Text(0));
-                             if (!value)
-                                 throw HostRefusal{E_INVALIDARG, "There is no such property."};
-                             return *value;
-                         }}}});
+    const auto item = [web](const CallArguments& call) {
+        const auto value = web->Property(TextOf(call[0]));
+        if (!value) throw ErrorOf(E_INVALIDARG, "There is no such property.");
+        return *value;
+    };
+    return host.Object("Properties", {Call("Item", 1, item)});
 }
 
 HostObject FilesObject(FrontPage& host, const std::shared_ptr<WebFolder>& folder) {
     const auto item = [&host, folder](int index) {
         const WebFile file = folder->FileAt(index);
-        return MakeObject(
-            {host.hooks,
-             "WebFile",
-             {{"Name", kGet, 0, [file](const HostCall&) { return file.name; }},
-              {"Url", kGet, 0, [file](const HostCall&) { return file.url; }},
-              {"Extension", kGet, 0, [file](const HostCall&) { return file.extension; }}}});
+        return host.Object("WebFile", {Get("Name", [file] { return file.name; }),
+                                       Get("Url", [file] { return file.url; }),
+                                       Get("Extension", [file] { return file.extension; })});
     };
-    const auto add = [folder](const HostCall& call) {
-        folder->AddFile(call.Text(0), call.Flag(1, false));
-        return HostValue();
+    const auto add = [folder](const CallArguments& call) {
+        folder->AddFile(TextOf(call[0]), call.Has(1) && TruthOf(call[1]));
+        return Variant();
     };
-    return MakeCollection(host.hooks, "WebFiles", 0, [folder] { return folder->FileCount(); }, item,
-                          {{"Add", kCall, 2, add}});
+    return host.Collection("WebFiles", 0, [folder] { return folder->FileCount(); }, item,
+                           {Call("Add", 2, add)});
 }
 
 HostObject FoldersObject(FrontPage& host, const std::shared_ptr<WebFolder>& folder) {
     const auto item = [&host, folder](int index) {
         return FolderObject(host, folder->FolderAt(index));
     };
-    const auto add = [&host, folder](const HostCall& call) {
-        return FolderObject(host, folder->AddFolder(call.Text(0)));
+    const auto add = [&host, folder](const CallArguments& call) {
+        return FolderObject(host, folder->AddFolder(TextOf(call[0])));
     };
-    return MakeCollection(host.hooks, "WebFolders", 0, [folder] { return folder->FolderCount(); },
-                          item, {{"Add", kCall, 1, add}});
+    return host.Collection("WebFolders", 0, [folder] { return folder->FolderCount(); }, item,
+                           {Call("Add", 1, add)});
 }
 
 HostObject FolderObject(FrontPage& host, std::shared_ptr<WebFolder> folder) {
-    return MakeObject({host.hooks,
-                       "WebFolder",
-                       {{"Name", kGet, 0, [folder](const HostCall&) { return folder->Name(); }},
-                        {"Url", kGet, 0, [folder](const HostCall&) { return folder->Url(); }},
-                        {"Files", kGet, 0,
-                         [&host, folder](const HostCall&) { return FilesObject(host, folder); }},
-                        {"Folders", kGet, 0,
-                         [&host, folder](const HostCall&) { return FoldersObject(host, folder); }},
-                        {"Delete", kCall, 0, [folder](const HostCall&) {
-                             folder->Delete();
-                             return HostValue();
-                         }}}});
+    return host.Object("WebFolder",
+                       {Get("Name", [folder] { return folder->Name(); }),
+                        Get("Url", [folder] { return folder->Url(); }),
+                        Get("Files", [&host, folder] { return FilesObject(host, folder); }),
+                        Get("Folders", [&host, folder] { return FoldersObject(host, folder); }),
+                        Order("Delete", [folder] { folder->Delete(); })});
+}
+
+// The members that give a page or a web a theme; both have them.
+template <class Themed>
+HostMembers ThemeMembers(const std::shared_ptr<Themed>& themed) {
+    const auto properties = [themed](const CallArguments& call) {
+        return themed->ThemeProperties(IntegerOf(call[0]));
+    };
+    const auto apply = [themed](const CallArguments& call) {
+        themed->ApplyTheme(TextOf(call[0]));
+        return Variant();
+    };
+    return {{"ThemeProperties", 1, {}, properties}, Call("ApplyTheme", 2, apply)};
+}
+
+HostObject PageWindowObject(FrontPage& host, const std::shared_ptr<PageWindow>& window) {
+    const auto close = [window](const CallArguments& call) {
+        window->Close(!call.Has(0) || TruthOf(call[0]));
+        return true;
+    };
+    HostMembers members = ThemeMembers(window);
+    members.push_back(
+        Get("Document", [&host, window] { return PageDocumentObject(host, window->Document()); }));
+    members.push_back(Get("Caption", [window] { return window->Location(); }));
+    members.push_back(Call("Close", 1, close));
+    return host.Object("PageWindow", members);
 }
 
 HostObject PageWindowsObject(FrontPage& host, const std::shared_ptr<WebWindow>& window) {
     const auto item = [&host, window](int index) {
         return PageWindowObject(host, window->PageWindowAt(index));
     };
-    const auto add = [&host, window](const HostCall& call) {
-        if (call.Has(0)) throw HostRefusal{E_NOTIMPL, "Only blank pages are opened here."};
+    const auto add = [&host, window](const CallArguments& call) {
+        if (call.Has(0)) throw ErrorOf(E_NOTIMPL, "Only blank pages are opened here.");
         return PageWindowObject(host, window->AddPageWindow());
     };
-    return MakeCollection(host.hooks, "PageWindows", 0,
-                          [window] { return window->PageWindowCount(); }, item,
-                          {{"Add", kCall, 1, add}});
-}
-
-// A member without arguments and answer.
-HostMember Order(const char* name, std::function<void()> run) {
-    // The real members take one optional argument.
-    return {name, kCall, 1, [run = std::move(run)](const HostCall&) {
-                run();
-                return HostValue();
-            }};
+    return host.Collection("PageWindows", 0, [window] { return window->PageWindowCount(); }, item,
+                           {Call("Add", 1, add)});
 }
 
 }  // namespace
 
-HostObject PageWindowObject(FrontPage& host, std::shared_ptr<PageWindow> window) {
-    return MakeObject(
-        {host.hooks,
-         "PageWindow",
-         {{"Document", kGet, 0,
-           [&host, window](const HostCall&) {
-               return PageDocumentObject(host, window->Document());
-           }},
-          {"Caption", kGet, 0, [window](const HostCall&) { return window->Location(); }},
-          {"ThemeProperties", kGet, 1,
-           [window](const HostCall& call) { return window->ThemeProperties(call.Number(0)); }},
-          {"ApplyTheme", kCall, 2,
-           [window](const HostCall& call) {
-               window->ApplyTheme(call.Text(0));
-               return HostValue();
-           }},
-          {"Close", kCall, 1, [window](const HostCall& call) {
-               window->Close(call.Flag(0, true));
-               return true;
-           }}}});
-}
-
 HostObject WebWindowObject(FrontPage& host, std::shared_ptr<WebWindow> window) {
-    return MakeObject(
-        {host.hooks, "WebWindow", {{"PageWindows", kGet, 0, [&host, window](const HostCall&) {
-                                        return PageWindowsObject(host, window);
-                                    }}}});
+    return host.Object(
+        "WebWindow",
+        {Get("PageWindows", [&host, window] { return PageWindowsObject(host, window); })});
 }
 
 HostObject WebObject(FrontPage& host, std::shared_ptr<Web> web) {
-    return MakeObject(
-        {host.hooks,
-         "Web",
-         {{"Url", kGet, 0, [web](const HostCall&) { return web->Url(); }},
-          {"Title", kGet, 0, [web](const HostCall&) { return web->Title(); }},
-          {"RootFolder", kGet, 0,
-           [&host, web](const HostCall&) { return FolderObject(host, web->RootFolder()); }},
-          {"Themes", kGet, 0, [&host, web](const HostCall&) { return ThemesObject(host, web); }},
-          {"Properties", kGet, 0,
-           [&host, web](const HostCall&) { return PropertiesObject(host, web); }},
-          {"ActiveWebWindow", kGet, 0,
-           [&host, web](const HostCall&) { return WebWindowObject(host, web->ActiveWebWindow()); }},
-          {"ThemeProperties", kGet, 1,
-           [web](const HostCall& call) { return web->ThemeProperties(call.Number(0)); }},
-          {"LocateFolder", kCall, 1,
-           [&host, web](const HostCall& call) {
-               return FolderOrNothing(host, web->LocateFolder(call.Text(0)));
-           }},
-          {"ApplyTheme", kCall, 2,
-           [web](const HostCall& call) {
-               web->ApplyTheme(call.Text(0));
-               return HostValue();
-           }},
-          Order("Refresh", [web] { web->Refresh(); }),
-          Order("RecalcHyperlinks", [web] { web->RecalcHyperlinks(); })}});
+    const auto locate = [&host, web](const CallArguments& call) {
+        std::shared_ptr<WebFolder> folder = web->LocateFolder(TextOf(call[0]));
+        return folder ? FolderObject(host, std::move(folder)) : nullptr;
+    };
+    HostMembers members = ThemeMembers(web);
+    members.insert(
+        members.end(),
+        {Get("Url", [web] { return web->Url(); }), Get("Title", [web] { return web->Title(); }),
+         Get("RootFolder", [&host, web] { return FolderObject(host, web->RootFolder()); }),
+         Get("Themes", [&host, web] { return ThemesObject(host, web); }),
+         Get("Properties", [&host, web] { return PropertiesObject(host, web); }),
+         Get("ActiveWebWindow",
+             [&host, web] { return WebWindowObject(host, web->ActiveWebWindow()); }),
+         Call("LocateFolder", 1, locate), Order("Refresh", [web] { web->Refresh(); }),
+         Order("RecalcHyperlinks", [web] { web->RecalcHyperlinks(); })});
+    return host.Object("Web", members);
 }
 
 }  // namespace morpho::test
