@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "desktop/colorizer_adapter.h"
+#include "colorizer_adapter/colorizer_adapter.h"
 #include "desktop/desktop_system.h"
 #include "platform/platform.h"
 #include "platform/registry.h"

@@ -2,16 +2,12 @@
 
 #include <filesystem>
 #include <memory>
-#include <optional>
 #include <string>
-#include <string_view>
-#include <system_error>
 
-#include "colorizer/recolorer.h"
+#include "colorizer_adapter/picture_disk.h"
 #include "platform/environment.h"
 #include "platform/file_system.h"
 #include "platform/platform.h"
-#include "platform/run_time_error.h"
 #include "shared/memory_registry.h"
 #include "web_host/disk.h"
 
@@ -37,18 +33,14 @@ class WorkFolder {
 };
 
 // What the desktop program needs of the system that it runs on. What fails throws RunTimeError.
-class DesktopSystem {
+class DesktopSystem : public PictureDisk {
   public:
-    virtual ~DesktopSystem() = default;
-
     // The folders of the user who runs the program.
     virtual ProgramFolders Folders() const = 0;
     virtual std::filesystem::path FolderOfProgram() const = 0;
 
-    // The Windows path, UTF-8, by which the editors call an absolute path of the disk; and the way
-    // back, which finds a file without regard to letter case. Nothing for a path on no disk.
+    // The Windows path, UTF-8, by which the editors call an absolute path of the disk.
     virtual std::string PathInside(const std::filesystem::path& path) const = 0;
-    virtual std::optional<std::filesystem::path> PathOnDisk(std::string_view inside) const = 0;
 
     // Makes a work folder in `root`, and removes those of programs that were killed.
     virtual std::unique_ptr<WorkFolder> MakeWorkFolder(const std::filesystem::path& root) const = 0;
@@ -65,11 +57,6 @@ class DesktopSystem {
     virtual Clock& GetClock() = 0;
 
     virtual Disk& GetDisk() = 0;
-    virtual colorizer::FileHooks PictureHooks() const = 0;
-    // The error for a file call that failed with `code`. `failure` completes the sentence: "could
-    // not be read".
-    virtual RunTimeError FileError(const std::error_code& code, const std::filesystem::path& path,
-                                   std::string_view failure) const = 0;
     // Whether a person looks at standard error.
     virtual bool IsErrorOutputWatched() const = 0;
 };

@@ -4,6 +4,7 @@
 #include "windows_system/windows_clock.h"
 #include "windows_system/windows_code_page.h"
 #include "windows_system/windows_disk.h"
+#include "windows_system/windows_picture_disk.h"
 #include "windows_system/windows_shell.h"
 
 namespace morpho {
@@ -15,7 +16,9 @@ class WindowsDesktop : public DesktopSystem {
     ProgramFolders Folders() const override;
     std::filesystem::path FolderOfProgram() const override;
     std::string PathInside(const std::filesystem::path& path) const override;
-    std::optional<std::filesystem::path> PathOnDisk(std::string_view inside) const override;
+    std::optional<std::filesystem::path> PathOnDisk(std::string_view inside) const override {
+        return pictures_.PathOnDisk(inside);
+    }
     std::unique_ptr<WorkFolder> MakeWorkFolder(const std::filesystem::path& root) const override;
     std::unique_ptr<FileSystem> MakeFiles(const std::filesystem::path& scratch) const override;
     std::unique_ptr<MemoryRegistry> MakeRegistry(const ProgramFolders& folders,
@@ -26,9 +29,11 @@ class WindowsDesktop : public DesktopSystem {
     Shell& GetShell() override { return shell_; }
     Clock& GetClock() override { return clock_; }
     Disk& GetDisk() override { return disk_; }
-    colorizer::FileHooks PictureHooks() const override;
+    colorizer::FileHooks PictureHooks() const override { return pictures_.PictureHooks(); }
     RunTimeError FileError(const std::error_code& code, const std::filesystem::path& path,
-                           std::string_view failure) const override;
+                           std::string_view failure) const override {
+        return pictures_.FileError(code, path, failure);
+    }
     bool IsErrorOutputWatched() const override;
 
   private:
@@ -36,6 +41,7 @@ class WindowsDesktop : public DesktopSystem {
     WindowsShell shell_;
     WindowsClock clock_;
     WindowsDisk disk_;
+    WindowsPictureDisk pictures_;
 };
 
 }  // namespace morpho

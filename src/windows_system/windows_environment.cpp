@@ -53,15 +53,19 @@ std::string ProcessVariable(std::string_view name) {
     return {};
 }
 
-std::string FolderOfModule() {
+std::string PathOfModule() {
     HMODULE module = nullptr;
     ::GetModuleHandleExW(
         GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-        reinterpret_cast<LPCWSTR>(&FolderOfModule), &module);
+        reinterpret_cast<LPCWSTR>(&PathOfModule), &module);
     constexpr std::size_t kLongestPath = 32768;
     std::wstring path(kLongestPath, L'\0');
     path.resize(::GetModuleFileNameW(module, path.data(), static_cast<DWORD>(path.size())));
-    return ShownPath(FolderOf(path));
+    return ShownPath(path);
+}
+
+std::string FolderOfModule() {
+    return ShownPath(FolderOf(Wide(PathOfModule())));
 }
 
 }  // namespace morpho

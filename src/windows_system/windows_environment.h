@@ -24,7 +24,8 @@ class WindowsEnvironment : public Environment {
 // The value of a variable of this process, UTF-8; empty when it is not set.
 std::string ProcessVariable(std::string_view name);
 
-// The folder of the program or DLL that this code was linked into, without a trailing "\".
+// The program or DLL that this code was linked into; and its folder, without a trailing "\".
+std::string PathOfModule();
 std::string FolderOfModule();
 
 }  // namespace morpho

@@ -1,4 +1,4 @@
-#include "desktop/colorizer_adapter.h"
+#include "colorizer_adapter/colorizer_adapter.h"
 
 #include <gmock/gmock.h>
 

@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "colorizer/recolorer.h"
-#include "desktop/desktop_system.h"
+#include "colorizer_adapter/picture_disk.h"
 #include "platform/colorizer.h"
 
 namespace morpho {
@@ -12,9 +12,9 @@ namespace morpho {
 // fast: the library remembers the picture it wrote last.
 class ColorizerAdapter : public Colorizer {
   public:
-    // `system` must outlive it.
-    explicit ColorizerAdapter(const DesktopSystem& system)
-        : system_(system), recolorer_(system.PictureHooks()) {}
+    // `disk` must outlive it.
+    explicit ColorizerAdapter(const PictureDisk& disk)
+        : disk_(disk), recolorer_(disk.PictureHooks()) {}
 
     std::string SourceFile() const override { return source_; }
     void SetSourceFile(const std::string& path) override { source_ = path; }
@@ -38,7 +38,7 @@ class ColorizerAdapter : public Colorizer {
     std::filesystem::path Located(const std::string& path) const;
     void RequireExisting(const std::filesystem::path& path) const;
 
-    const DesktopSystem& system_;
+    const PictureDisk& disk_;
     std::string source_;
     std::string destination_;
     colorizer::Adjustment adjustment_;
@@ -48,13 +48,13 @@ class ColorizerAdapter : public Colorizer {
 
 class ColorizerAdapterFactory : public ColorizerFactory {
   public:
-    explicit ColorizerAdapterFactory(const DesktopSystem& system) : system_(system) {}
+    explicit ColorizerAdapterFactory(const PictureDisk& disk) : disk_(disk) {}
     std::unique_ptr<Colorizer> Create() override {
-        return std::make_unique<ColorizerAdapter>(system_);
+        return std::make_unique<ColorizerAdapter>(disk_);
     }
 
   private:
-    const DesktopSystem& system_;
+    const PictureDisk& disk_;
 };
 
 }  // namespace morpho

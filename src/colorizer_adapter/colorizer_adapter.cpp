@@ -1,4 +1,4 @@
-#include "desktop/colorizer_adapter.h"
+#include "colorizer_adapter/colorizer_adapter.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -15,7 +15,7 @@ constexpr std::string_view kFailure = "cannot be recoloured";
 }  // namespace
 
 std::filesystem::path ColorizerAdapter::Located(const std::string& path) const {
-    const auto diskPath = system_.PathOnDisk(path);
+    const auto diskPath = disk_.PathOnDisk(path);
     if (diskPath) return *diskPath;
     throw RunTimeError(ErrorNumber::kPathNotFound,
                        "\"" + path + "\" " + std::string(kFailure) + ": it is on no disk.");
@@ -24,8 +24,8 @@ std::filesystem::path ColorizerAdapter::Located(const std::string& path) const {
 void ColorizerAdapter::RequireExisting(const std::filesystem::path& path) const {
     std::error_code ignored;
     if (!std::filesystem::exists(path, ignored))
-        throw system_.FileError(std::make_error_code(std::errc::no_such_file_or_directory), path,
-                                kFailure);
+        throw disk_.FileError(std::make_error_code(std::errc::no_such_file_or_directory), path,
+                              kFailure);
 }
 
 void ColorizerAdapter::SetQuality(std::int16_t factor) {
@@ -42,8 +42,7 @@ void ColorizerAdapter::Colorize() {
     } catch (const colorizer::Error& error) {
         throw RunTimeError(ErrorNumber::kInvalidPicture, error.what());
     } catch (const std::bad_alloc&) {
-        throw system_.FileError(std::make_error_code(std::errc::not_enough_memory), source,
-                                kFailure);
+        throw disk_.FileError(std::make_error_code(std::errc::not_enough_memory), source, kFailure);
     }
 }
 
