@@ -26,20 +26,6 @@ void Write(const std::string& key, std::string_view name, DWORD type, const void
 
 }  // namespace
 
-std::string ModulePath() {
-    HMODULE module = nullptr;
-    ::GetModuleHandleExW(
-        GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-        reinterpret_cast<LPCWSTR>(&ModulePath), &module);
-    std::wstring path(MAX_PATH, L'\0');
-    DWORD length = 0;
-    while ((length = ::GetModuleFileNameW(module, path.data(), static_cast<DWORD>(path.size()))) ==
-           path.size())
-        path.resize(2 * path.size());
-    path.resize(length);
-    return Narrow(path);
-}
-
 void RegisterClasses(std::span<const ComClass> classes, std::string_view dllPath) {
     for (const ComClass& comClass : classes) {
         const std::string key = ClassKey(comClass);

@@ -7,9 +7,6 @@
 
 namespace morpho {
 
-// The path of the DLL or program that this code is linked into.
-std::string ModulePath();
-
 // Registers the classes of an in-process server for the current user, for programs of as many bits
 // as this one. Throws RunTimeError.
 void RegisterClasses(std::span<const ComClass> classes, std::string_view dllPath);

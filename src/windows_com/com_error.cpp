@@ -90,6 +90,11 @@ RunTimeError ErrorOf(EXCEPINFO& info) {
     return error;
 }
 
+RunTimeError CannotCreate(std::string_view progId, HRESULT result) {
+    return {ErrorNumber::kCannotCreateComponent,
+            "Can't create object " + std::string(progId) + ": " + SystemTextOf(result)};
+}
+
 void Check(HRESULT result) {
     if (FAILED(result)) throw ErrorOf(result);
 }

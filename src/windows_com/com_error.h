@@ -16,6 +16,8 @@ namespace morpho {
 RunTimeError ErrorOf(HRESULT result, std::string_view description = {});
 // The error that a call by name described. Frees the texts in `info`.
 RunTimeError ErrorOf(EXCEPINFO& info);
+// kCannotCreateComponent for an object of this class that could not be created.
+RunTimeError CannotCreate(std::string_view progId, HRESULT result);
 // Throws the error when the result is a failure.
 void Check(HRESULT result);
 // The same, with the description that the object left of a failed call of this interface.

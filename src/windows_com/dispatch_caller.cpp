@@ -76,10 +76,7 @@ DispatchCaller CreateByName(std::string_view progId) {
     HRESULT result = ::CLSIDFromProgID(Wide(progId).c_str(), &clsid);
     if (SUCCEEDED(result))
         result = ::CoCreateInstance(clsid, nullptr, CLSCTX_SERVER, IID_IDispatch, object.OutVoid());
-    if (FAILED(result))
-        throw RunTimeError(ErrorNumber::kCannotCreateComponent,
-                           "ActiveX component can't create object " + std::string(progId) + ": " +
-                               ErrorOf(result).what());
+    if (FAILED(result)) throw CannotCreate(progId, result);
     return DispatchCaller(std::move(object));
 }
 
