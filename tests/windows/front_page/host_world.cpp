@@ -19,8 +19,6 @@ HostWorld::HostWorld(const std::string& version, const Clipboard* clipboard)
         std::filesystem::create_directories(folder_.At(name));
     std::filesystem::copy(std::filesystem::path(MORPHO_SOURCE_DIR) / "samples/larkfell",
                           folder_.At("web"), std::filesystem::copy_options::recursive);
-    for (const wchar_t* name : {L"TMP", L"TEMP"})
-        SetEnvironmentVariableW(name, folder_.At("Temp").c_str());
     const std::string themes = version.starts_with("6") ? "Themes11" : "Themes";
     application_.Open(folder_ / "web", {},
                       {folder_ / "AppData\\Microsoft\\Themes",

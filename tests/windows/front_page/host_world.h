@@ -5,6 +5,7 @@
 
 #include "support/temporary_folder.h"
 #include "web_host/machine_description.h"
+#include "windows/front_page/changed_variable.h"
 #include "windows/front_page/front_page.h"
 #include "windows/front_page/private_registry.h"
 #include "windows_system/windows_disk.h"
@@ -35,6 +36,8 @@ class HostWorld {
     MachineFolders Machine() const;
 
     TemporaryFolder folder_;
+    ChangedVariable tmp_{L"TMP", folder_.At("Temp").c_str()};
+    ChangedVariable temp_{L"TEMP", folder_.At("Temp").c_str()};
     WindowsDisk disk_;
     WindowsFileSystem files_;
     DiskApplication application_;
