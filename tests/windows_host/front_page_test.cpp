@@ -1,8 +1,7 @@
 #include "windows_host/front_page_application.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
-#include "platform/clipboard.h"
 #include "support/application_contract.h"
 #include "support/command_bars_contract.h"
 #include "windows/front_page/host_world.h"
@@ -13,8 +12,6 @@
 
 namespace morpho::test {
 namespace {
-
-using testing::HasSubstr;
 
 // FrontPage as the editors see it, by calls to the objects of the played one.
 class PlayedFrontPage {
@@ -29,8 +26,7 @@ class PlayedFrontPage {
 
   private:
     HostWorld world_;
-    FrontPageApplication application_{
-        DispatchCaller(ComPointer<IDispatch>(ApplicationObject(world_.Host()).operator->()))};
+    FrontPageApplication application_{DispatchCaller(ApplicationObject(world_.Host()))};
 };
 INSTANTIATE_TYPED_TEST_SUITE_P(FrontPage, ApplicationContract, PlayedFrontPage);
 
@@ -62,12 +58,26 @@ TEST(FrontPageApplication, GivesSelectedPicturesOfARangeOfControls) {
     EXPECT_EQ(frontPage.Subject().ActiveDocument()->SelectionHtml(), "<img src=b.gif>");
 }
 
+TEST(FrontPageApplication, RefreshesAPageWithoutUnsavedChanges) {
+    PlayedFrontPage frontPage;
+    frontPage.Subject().RefreshViews();  // no page is in front
+    frontPage.Select("index.htm", 0);
+    int refreshed = 0;
+    frontPage.World().Application().SetRefresh([&] { ++refreshed; });
+    frontPage.World().Host().hasUnsavedChanges = true;
+    frontPage.Subject().RefreshViews();
+    EXPECT_EQ(refreshed, 0);
+    frontPage.World().Host().hasUnsavedChanges = false;
+    frontPage.Subject().RefreshViews();
+    EXPECT_EQ(refreshed, 1);
+}
+
 TEST(FrontPageApplication, HandsTheHostsRefusalsOn) {
     PlayedFrontPage frontPage;
     const auto web = frontPage.Subject().ActiveWeb();
-    const auto textOf = [&](HRESULT result, const std::string& description) {
-        frontPage.World().Host().hooks->before = [=](const std::string& member) {
-            if (member == "Web.Url") throw HostRefusal{result, description};
+    const auto textOf = [&](const RunTimeError& refusal) {
+        frontPage.World().Host().beforeCall = [=](const std::string& member) {
+            if (member == "Web.Url") throw refusal;
         };
         try {
             return web->Url();
@@ -75,8 +85,8 @@ TEST(FrontPageApplication, HandsTheHostsRefusalsOn) {
             return std::string(error.what());
         }
     };
-    EXPECT_EQ(textOf(E_FAIL, "The web is locked."), "The web is locked.");
-    EXPECT_THAT(textOf(RPC_E_DISCONNECTED, ""), HasSubstr("Url: "));
+    EXPECT_EQ(textOf({ErrorNumber::kAutomation, "The web is locked."}), "The web is locked.");
+    EXPECT_NE(textOf(ResultError(RPC_E_DISCONNECTED)), "");
 }
 
 TEST(FrontPageApplication, PutsPicturesOnButtonsFromRelease5On) {
@@ -99,11 +109,9 @@ TEST(FrontPageApplication, PutsPicturesOnButtonsFromRelease5On) {
             button->SetPicture(bitmap);
             EXPECT_EQ(shown.Look().face, bitmap);
         }
-        {
-            const auto events = button->OnClick([] {});
-            EXPECT_EQ(frontPage.World().Host().listeners, 1);
-        }
-        EXPECT_EQ(frontPage.World().Host().listeners, 0);
+        const long objects = LiveObjects();
+        button->OnClick([] {}).reset();
+        EXPECT_EQ(LiveObjects(), objects);
     }
 }
 

@@ -11,6 +11,7 @@ HostObject ActivePageWindow(FrontPage& host) {
     return host.Object("PageWindow",
                        {Get("Document", [&host, page] { return PageDocumentObject(host, page); }),
                         Get("Caption", [page] { return page->Url(); }),
+                        Get("IsDirty", [&host] { return host.hasUnsavedChanges; }),
                         Order("Refresh", [&host] { host.standIn.RefreshViews(); })});
 }
 

@@ -15,6 +15,8 @@ struct FrontPage : HostObjects {
     DiskApplication& standIn;
     // A selected picture gives a control range instead of a text range.
     bool selectsAsControl = false;
+    // The page in front has changes that are not saved.
+    bool hasUnsavedChanges = false;
 };
 
 HostObject ApplicationObject(FrontPage& host);
