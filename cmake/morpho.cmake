@@ -14,6 +14,11 @@ if(MORPHO_SANITIZE)
   target_link_options(morpho_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(MORPHO_FUZZ)
+  # The warnings are those of g++.
+  target_compile_options(morpho_options INTERFACE -fsanitize=fuzzer-no-link -Wno-error -Wno-unknown-warning-option)
+endif()
+
 # morpho_library(FOLDER [LIBRARY...]): the .cpp files of src/FOLDER as library morpho_FOLDER, or a header-only one where
 # there are none, with the libraries of other makers that it needs. src/levels.txt says which folders it is built on.
 function(morpho_library folder)

@@ -1,0 +1,4 @@
+theme
+1
+..\..\a.gif,1
+<==MS-Theme==>1

@@ -1,0 +1,76 @@
+// A web is a folder made of the input: opened, listed, given another theme. Nothing beside the
+// folder changes, and errors are told as such. The input holds files, each as a line "name", a line
+// with its length in bytes, and its bytes.
+
+#include <charconv>
+#include <string>
+
+#include "fuzz/fuzz.h"
+#include "linux/disk_file_system.h"
+#include "linux/disk_path.h"
+#include "linux/linux_disk.h"
+#include "platform/run_time_error.h"
+#include "support/temporary_folder.h"
+#include "web_host/disk_application.h"
+
+namespace {
+
+using namespace morpho;
+
+std::string_view TakeLine(std::string_view& rest) {
+    const std::string_view line = rest.substr(0, rest.find('\n'));
+    rest.remove_prefix(std::min(rest.size(), line.size() + 1));
+    return line;
+}
+
+void WriteFiles(std::string_view input, const TemporaryFolder& folder) {
+    while (!input.empty()) {
+        std::string name(TakeLine(input));
+        const std::string_view digits = TakeLine(input);
+        std::size_t length = 0;
+        std::from_chars(digits.data(), digits.data() + digits.size(), length);
+        const std::string bytes(input.substr(0, length));
+        input.remove_prefix(bytes.size());
+        // What the file system refuses is no file of a web.
+        if (name.empty() || name.size() > 200 || name.front() == '/' ||
+            name.find("..") != name.npos || name.find('\0') != name.npos)
+            continue;
+        std::error_code refused;
+        std::filesystem::create_directories(folder.At("web/" + name).parent_path(), refused);
+        if (!refused) folder.Write("web/" + name, bytes);
+    }
+}
+
+void Use(DiskApplication& host, const std::string& web, const ThemeStores& stores) {
+    try {
+        host.Open(web, {}, stores);
+    } catch (const RunTimeError&) {
+        return;
+    }
+    const auto opened = host.ActiveWeb();
+    for (int index = 0; index < opened->ThemeCount(); ++index) {
+        try {
+            opened->ApplyTheme(opened->ThemeAt(index).name);
+        } catch (const RunTimeError&) {
+        }
+    }
+    opened->RecalcHyperlinks();
+}
+
+}  // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const TemporaryFolder folder;
+    folder.Write("beside/page.htm", "<meta name='Microsoft Theme' content='a 1011, default'>");
+    folder.Write("web/index.htm", "<meta name='Microsoft Theme' content='a 1011, default'>");
+    WriteFiles(Text(data, size), folder);
+    const Tree beside = folder.Below("beside");
+    LinuxDisk disk;
+    DiskFileSystem files;
+    DiskApplication host(disk, files, ToWindowsPath(folder / "cache"));
+    Use(host, ToWindowsPath(folder / "web"),
+        {ToWindowsPath(folder / "user"), ToWindowsPath(folder / "all"),
+         ToWindowsPath(folder / "saves")});
+    Require(folder.Below("beside") == beside, "Something outside of the web has changed.");
+    return 0;
+}
