@@ -11,10 +11,26 @@ scripts/install_packages.sh scripts/packages_fuzz.txt
 cmake --preset fuzz >/dev/null
 cmake --build build/fuzz --target "${targets[@]/#/fuzz_}"
 mkdir -p build/found
+# Each seed again and again, up to a megabyte: what is quadratic does not show in short inputs.
+long_inputs() { # TARGET
+    local seed long
+    mkdir -p "build/long/$1"
+    for seed in "fuzz/seeds/$1"/*; do
+        long=build/long/$1/${seed##*/}
+        cp "$seed" "$long"
+        while [ "$(stat -c %s "$long")" -lt 500000 ]; do
+            cat "$long" "$long" >"$long.next"
+            mv "$long.next" "$long"
+        done
+    done
+}
 for target in "${targets[@]}"; do
     mkdir -p "build/corpus/$target"
     echo "== Fuzzing ($target)"
+    long_inputs "$target"
     # 5 seconds for one input of a megabyte: what is not linear does not pass.
+    "build/fuzz/bin/fuzz_$target" -runs=0 -max_len=1000000 -timeout=5 -artifact_prefix="build/found/$target-" "build/long/$target" \
+        >"build/found/$target.log" 2>&1 || { tail -30 "build/found/$target.log" >&2; exit 1; }
     "build/fuzz/bin/fuzz_$target" -max_total_time="$seconds" -max_len=1000000 -timeout=5 -rss_limit_mb=3000 -print_final_stats=1 \
         -dict="fuzz/dictionaries/$target.txt" -artifact_prefix="build/found/$target-" "build/corpus/$target" "fuzz/seeds/$target" \
         >"build/found/$target.log" 2>&1 || { tail -30 "build/found/$target.log" >&2; exit 1; }
