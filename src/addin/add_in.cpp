@@ -88,6 +88,8 @@ void AddIn::OnDisconnection() {
 }
 
 void AddIn::ShowEditor() {
+    // A host that pumps messages may let go of the add-in while the editor is open.
+    const auto alive = weak_from_this().lock();
     try {
         OpenEditor();
     } catch (const std::exception& error) {

@@ -23,8 +23,9 @@ struct AddInNames {
 };
 
 // An add-in of the host, named after its own contract. The host also tells how and why it connects
-// and disconnects; no add-in looks at that.
-class AddIn {
+// and disconnects; no add-in looks at that. One that a shared pointer owns lives at least as long
+// as its editor is open.
+class AddIn : public std::enable_shared_from_this<AddIn> {
   public:
     using EditorFactory = std::function<std::unique_ptr<Form>()>;
 
