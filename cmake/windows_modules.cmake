@@ -3,7 +3,7 @@ function(morpho_com_server name folder description)
   add_library(${name} SHARED main.cpp ${CMAKE_SOURCE_DIR}/src/windows_com/server.def)
   set_target_properties(${name} PROPERTIES PREFIX "")
   # The names of server.def stand for the decorated ones of 32-bit Windows.
-  target_link_options(${name} PRIVATE LINKER:--enable-stdcall-fixup)
+  target_link_options(${name} PRIVATE LINKER:--enable-stdcall-fixup $<$<CONFIG:Release>:-s>)
   morpho_use(${name} ${folder})
   morpho_version_resource(${name} ${name}.dll "${description}")
 endfunction()

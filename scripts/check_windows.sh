@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what is missing and compiles the program and its tests for Windows, with the same warnings as errors. Checks
-# besides that no portable header uses a name that <windows.h> redefines. Nothing is run.
+# besides that no portable header uses a name that <windows.h> redefines, and inspects what was built. Nothing is run.
 # usage: scripts/check_windows.sh [PRESET...]      (default: windows-x64 windows-x86)
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -12,4 +12,5 @@ for preset; do
     echo "== Building ($preset)"
     cmake --preset "$preset" >/dev/null
     cmake --build --preset "$preset"
+    scripts/check_windows_files.sh "$preset"
 done
