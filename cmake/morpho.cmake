@@ -53,7 +53,7 @@ endfunction()
 # src/.
 function(morpho_test name)
   cmake_parse_arguments(test "" "" "LIBRARIES" ${ARGN})
-  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
   add_executable(test_${name} ${sources})
   target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_compile_definitions(test_${name} PRIVATE MORPHO_SOURCE_DIR="${CMAKE_SOURCE_DIR}")

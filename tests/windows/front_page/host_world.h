@@ -43,7 +43,6 @@ class HostWorld {
     DiskApplication application_;
     FrontPage host_{application_};
     PrivateRegistry registry_;
-    std::optional<ShownClasses> classes_;
     std::optional<ExplorerClass> explorer_;
 };
 

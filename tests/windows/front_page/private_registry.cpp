@@ -15,13 +15,6 @@ HKEY Created(HKEY root, const std::wstring& path) {
     return key;
 }
 
-bool Exists(HKEY root, const std::wstring& path) {
-    HKEY key = nullptr;
-    if (RegOpenKeyExW(root, path.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) return false;
-    RegCloseKey(key);
-    return true;
-}
-
 void Write(HKEY root, const std::wstring& path, const RegistryKey& key) {
     for (const auto& [folded, value] : key.values) {
         const std::wstring data = Wide(value.data);
@@ -47,10 +40,12 @@ PrivateRegistry::PrivateRegistry(const RegistryData& described) {
         if (!key.values.empty()) classes_.push_back(path.substr(0, path.rfind('\\')));
         Write(user_, kClasses + path, key);
     }
+    shown_ = std::make_unique<ShownClasses>(classes_);
 }
 
 PrivateRegistry::~PrivateRegistry() {
     Use(false);
+    shown_.reset();
     for (const std::wstring& path : classes_)
         RegDeleteTreeW(user_, (kClasses + path).c_str());
     for (const HKEY key : {ownUser_, ownMachine_})
@@ -62,27 +57,6 @@ PrivateRegistry::~PrivateRegistry() {
 void PrivateRegistry::Use(bool use) {
     RegOverridePredefKey(HKEY_CURRENT_USER, use ? ownUser_ : nullptr);
     RegOverridePredefKey(HKEY_LOCAL_MACHINE, use ? ownMachine_ : nullptr);
-}
-
-ShownClasses::ShownClasses() {
-    ShowBelow({});
-    ShowBelow(L"CLSID\\");
-}
-
-ShownClasses::~ShownClasses() {
-    for (const std::wstring& path : shown_)
-        RegDeleteTreeW(HKEY_LOCAL_MACHINE, (kClasses + path).c_str());
-}
-
-void ShownClasses::ShowBelow(const std::wstring& path) {
-    for (const std::wstring& name : KeysBelow(HKEY_CURRENT_USER, kClasses + path)) {
-        const std::wstring missing = path + name;
-        if (Exists(HKEY_CLASSES_ROOT, missing)) continue;
-        const HKEY key = Created(HKEY_LOCAL_MACHINE, kClasses + missing);
-        RegCopyTreeW(HKEY_CURRENT_USER, (kClasses + missing).c_str(), key);
-        RegCloseKey(key);
-        shown_.push_back(missing);
-    }
 }
 
 std::vector<std::wstring> KeysBelow(HKEY root, const std::wstring& path) {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "formats/registry_data.h"
+#include "support/shown_classes.h"
 #include "windows_system/win32.h"
 
 namespace morpho::test {
@@ -26,21 +28,7 @@ class PrivateRegistry {
     HKEY ownUser_ = nullptr;
     HKEY ownMachine_ = nullptr;
     std::vector<std::wstring> classes_;
-};
-
-// Wine 8 shows the classes of the user nowhere: for as long as this lives, those that are missing
-// among all classes stand there.
-class ShownClasses {
-  public:
-    ShownClasses();
-    ~ShownClasses();
-    ShownClasses(const ShownClasses&) = delete;
-    ShownClasses& operator=(const ShownClasses&) = delete;
-
-  private:
-    void ShowBelow(const std::wstring& path);
-
-    std::vector<std::wstring> shown_;
+    std::unique_ptr<ShownClasses> shown_;
 };
 
 // The names of the keys below a key; none where it does not exist.
