@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds for 64-bit and 32-bit Windows, and runs every test of both in Wine. What takes long is
-# made once, in a folder of the user's cache. Needs no screen. The 32-bit half needs root, or sudo, for its mounts.
+# Installs what is missing, builds for 64-bit and 32-bit Windows, and runs every test of both in Wine; compares what the
+# program does with what it does on Linux, and installs and uninstalls it. What takes long is made once, in a folder of the
+# user's cache. Needs no screen. The 32-bit half needs root, or sudo, for its mounts.
 # usage: scripts/test_windows.sh [--x64-only]
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -28,4 +29,10 @@ for preset in "${presets[@]}"; do
     scripts/wine.sh "$target" wineboot
     echo "== Testing ($preset)"
     ctest --preset "$preset"
+done
+echo "== Comparing with Linux"
+scripts/same_bytes.sh "$@"
+for preset in "${presets[@]}"; do
+    echo "== Installing ($preset)"
+    scripts/check_installer.sh "$([ "$preset" = windows-x64 ] && echo x86_64 || echo i686)"
 done
