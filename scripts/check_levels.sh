@@ -20,7 +20,7 @@ while read -r line; do
         ;;
     esac
 done <levels.txt
-standard='^(algorithm|any|array|atomic|bit|bitset|cctype|cerrno|charconv|chrono|cinttypes|climits|cmath|compare|concepts|csetjmp|cstddef|cstdint|cstdio|cstdlib|cstring|deque|exception|filesystem|format|fstream|functional|future|initializer_list|iomanip|ios|iosfwd|iostream|istream|iterator|limits|list|map|memory|mutex|new|numbers|numeric|optional|ostream|queue|random|ranges|set|span|sstream|stack|stdexcept|string|string_view|system_error|thread|tuple|type_traits|typeinfo|unordered_map|unordered_set|utility|variant|vector|version)$'
+standard='^(algorithm|any|array|atomic|bit|bitset|cctype|cerrno|charconv|chrono|cinttypes|climits|cmath|compare|concepts|condition_variable|csetjmp|cstddef|cstdint|cstdio|cstdlib|cstring|deque|exception|filesystem|format|fstream|functional|future|initializer_list|iomanip|ios|iosfwd|iostream|istream|iterator|limits|list|map|memory|mutex|new|numbers|numeric|optional|ostream|queue|random|ranges|set|span|sstream|stack|stdexcept|string|string_view|system_error|thread|tuple|type_traits|typeinfo|unordered_map|unordered_set|utility|variant|vector|version)$'
 
 offences=0
 offend() { echo "$1" >&2; offences=1; }

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <atomic>
+#include <condition_variable>
 #include <exception>
 #include <limits>
+#include <mutex>
 #include <system_error>
 #include <thread>
 
@@ -10,13 +12,17 @@
 
 namespace colorizer {
 
-/// Lets one thread follow another through a picture, some rows of MCUs behind it.
+/// Lets one thread follow another through a picture, some rows of MCUs behind it. (A mutex and a
+/// condition: the waiting of std::atomic misses notifications in g++ 12 for Windows.)
 class RowRelay {
   public:
     /// The first `rowsDone` rows of MCUs are done.
     void Tell(std::size_t rowsDone) {
-        rowsDone_ = rowsDone;
-        rowsDone_.notify_one();
+        {
+            const std::lock_guard lock(mutex_);
+            rowsDone_ = rowsDone;
+        }
+        changed_.notify_one();
     }
     void Finish() { Tell(std::numeric_limits<std::size_t>::max()); }
     /// Ends the work of both.
@@ -25,13 +31,18 @@ class RowRelay {
         Finish();
     }
     bool IsStopped() const { return isStopped_; }
-    void WaitFor(std::size_t rows) const {
-        for (std::size_t done = rowsDone_; done < rows; done = rowsDone_)
-            rowsDone_.wait(done);
+    void WaitFor(std::size_t rows) {
+        if (rows <= known_) return;
+        std::unique_lock lock(mutex_);
+        changed_.wait(lock, [&] { return rows <= rowsDone_; });
+        known_ = rowsDone_;
     }
 
   private:
-    std::atomic<std::size_t> rowsDone_ = 0;
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::size_t rowsDone_ = 0;
+    std::size_t known_ = 0;  ///< to the thread that waits
     std::atomic<bool> isStopped_ = false;
 };
 
