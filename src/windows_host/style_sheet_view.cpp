@@ -20,9 +20,10 @@ class RuleView : public StyleRule {
         if (auto declared = Declared(style, name)) return declared;
         // A browser may leave what is unknown to CSS out of the text.
         if (!style.Has("getAttribute")) return std::nullopt;
-        std::string value = TextOf(style.Get("getAttribute", {name}));
-        if (value.empty()) return std::nullopt;
-        return value;
+        const Variant value = style.Get("getAttribute", {name});
+        // Where it declares nothing, the answer is an empty text, or no text at all.
+        if (value.Type() != VT_BSTR || TextOf(value).empty()) return std::nullopt;
+        return TextOf(value);
     }
 
   private:

@@ -80,7 +80,7 @@ class WebView : public Web {
     }
     std::optional<std::string> Property(std::string_view key) const override;
     void ApplyTheme(std::string_view themeName) override { web_.Call("ApplyTheme", {themeName}); }
-    void Refresh() override { web_.Call("Refresh"); }
+    void Refresh() override { web_.Call("Refresh", {false}); }
     void RecalcHyperlinks() override { web_.Call("RecalcHyperlinks"); }
 
   private:

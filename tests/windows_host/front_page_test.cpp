@@ -123,13 +123,16 @@ class Scripted : public DispatchObject<> {
 // A browser answers what it knows with absolute addresses, and leaves what it does not know out of
 // the text.
 TEST(StyleSheetView, GivesWhatARuleDeclares) {
+    VARIANT null = {};
+    null.vt = VT_NULL;
     const auto style = MakeComObject<Scripted>();
     const auto rule = MakeComObject<Scripted>();
     const auto rules = MakeComObject<Scripted>();
     const auto sheet = MakeComObject<Scripted>();
-    style->Members().Method("getAttribute", 2, [](const CallArguments& given) {
+    style->Members().Method("getAttribute", 2, [&](const CallArguments& given) {
         const std::string name = TextOf(given[0]);
-        if (name == "color") return Variant();
+        if (name == "color") return Variant("");
+        if (name == "nothing") return Variant(null);
         return Variant(name == "nav-banner" ? "url(n.gif)" : "url(file:///C:/a.jpg)");
     });
     rule->Members().Property("style", 0, [&](const CallArguments&) { return Variant(style); });
@@ -143,6 +146,7 @@ TEST(StyleSheetView, GivesWhatARuleDeclares) {
     EXPECT_EQ(view->Attribute("background-image"), "url(a.jpg)");
     EXPECT_EQ(view->Attribute("nav-banner"), "url(n.gif)");
     EXPECT_EQ(view->Attribute("color"), std::nullopt);
+    EXPECT_EQ(view->Attribute("nothing"), std::nullopt);
 }
 
 TEST(ComAutomation, CallsTheExplorerByReference) {
