@@ -50,10 +50,13 @@ function(morpho_use target)
 endfunction()
 
 # morpho_test(NAME [FOLDER...] [LIBRARIES library...]): the folder's .cpp files as one test program of these folders of
-# src/.
+# src/. What other systems cannot do, such as a process that forks, is tried in files named *_linux_test.cpp.
 function(morpho_test name)
   cmake_parse_arguments(test "" "" "LIBRARIES" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  if(NOT CMAKE_SYSTEM_NAME STREQUAL "Linux")
+    list(FILTER sources EXCLUDE REGEX "_linux_test\\.cpp$")
+  endif()
   add_executable(test_${name} ${sources})
   target_include_directories(test_${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_compile_definitions(test_${name} PRIVATE MORPHO_SOURCE_DIR="${CMAKE_SOURCE_DIR}")

@@ -17,6 +17,7 @@ namespace morpho::test {
 #ifdef _WIN32
 using RealDisk = WindowsDisk;
 using RealFileSystem = WindowsFileSystem;
+inline constexpr bool kIsWindows = true;
 // The Windows path of a path of the system's own, as TemporaryFolder gives it.
 inline std::string WindowsPath(const std::string& path) {
     return path;
@@ -24,6 +25,7 @@ inline std::string WindowsPath(const std::string& path) {
 #else
 using RealDisk = LinuxDisk;
 using RealFileSystem = DiskFileSystem;
+inline constexpr bool kIsWindows = false;
 inline std::string WindowsPath(const std::string& path) {
     return ToWindowsPath(path);
 }

@@ -85,11 +85,11 @@ class DyingFolder : public Folder {
 }  // namespace
 
 std::unique_ptr<Folder> DyingDisk::Open(std::string_view path) {
-    return std::make_unique<DyingFolder>(LinuxDisk::Open(path), *this);
+    return std::make_unique<DyingFolder>(test::RealDisk::Open(path), *this);
 }
 
 std::unique_ptr<Folder> DyingDisk::OpenOrCreate(std::string_view path) {
-    return std::make_unique<DyingFolder>(LinuxDisk::OpenOrCreate(path), *this);
+    return std::make_unique<DyingFolder>(test::RealDisk::OpenOrCreate(path), *this);
 }
 
 }  // namespace morpho

@@ -2,14 +2,14 @@
 
 #include <atomic>
 
-#include "linux/linux_disk.h"
 #include "platform/run_time_error.h"
+#include "support/this_computer.h"
 
 namespace morpho {
 
 // The disk of this machine, which can die: from a given change on no change is made any more, as if
 // the program had been killed there. Or a single change fails. Reading goes on.
-class DyingDisk : public LinuxDisk {
+class DyingDisk : public test::RealDisk {
   public:
     void DieAfter(int changes) { left_ = changes; }
     // The change after these fails; those behind it succeed.

@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "linux/disk_path.h"
-#include "linux/linux_disk.h"
 #include "support/temporary_folder.h"
+#include "support/this_computer.h"
 
 namespace morpho {
 namespace {
@@ -17,7 +16,7 @@ void ExpectThemeOfWeb(const Tree& pages, const std::string& theme) {
     const TemporaryFolder folder;
     for (const auto& [name, content] : pages)
         folder.Write(name, Meta(content));
-    EXPECT_EQ(ThemeOfWeb(*LinuxDisk().Open(ToWindowsPath(folder / ""))), theme);
+    EXPECT_EQ(ThemeOfWeb(*test::RealDisk().Open(test::WindowsPath(folder / ""))), theme);
 }
 
 TEST(ThemeOfWeb, IsTheHomePagesOrTheMostFrequent) {
