@@ -10,6 +10,7 @@ namespace morpho {
 namespace {
 
 constexpr std::size_t kLongestLine = 100;
+constexpr std::string_view kFailure = "could not be locked";
 
 // The file is open, with nobody else allowed to write: that is the lock. The system deletes it when
 // it is closed, also when the program is killed.
@@ -36,6 +37,20 @@ std::string FirstLine(const std::wstring& path) {
     return line.empty() ? "another program" : line;
 }
 
+// The lock's own line must not be written into a file that is elsewhere. What stands in its place
+// is removed with the handle; a file keeps its other name.
+void RequireOwnFile(const FileHandle& file, const std::wstring& path) {
+    BY_HANDLE_FILE_INFORMATION about = {};
+    if (!::GetFileInformationByHandle(file.Get(), &about))
+        throw SystemError(::GetLastError(), ShownPath(path), kFailure);
+    if ((about.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0)
+        throw SystemError(ErrorNumber::kPathFileAccess, ShownPath(path), kFailure,
+                          "it is a link that must not be followed");
+    if (about.nNumberOfLinks > 1)
+        throw SystemError(ErrorNumber::kPathFileAccess, ShownPath(path), kFailure,
+                          "the file has another name besides");
+}
+
 }  // namespace
 
 std::unique_ptr<FolderLock> TryLockFile(std::shared_ptr<HeldFolder> folder,
@@ -47,7 +62,8 @@ std::unique_ptr<FolderLock> TryLockFile(std::shared_ptr<HeldFolder> folder,
         holder = FirstLine(path);
         return nullptr;
     }
-    if (!file.IsOpen()) throw SystemError(::GetLastError(), ShownPath(path), "could not be locked");
+    if (!file.IsOpen()) throw SystemError(::GetLastError(), ShownPath(path), kFailure);
+    RequireOwnFile(file, path);
     const WindowsDisk disk;
     WriteTo(file, "program " + std::to_string(disk.Program()) + " on " + disk.Machine() + "\n",
             path);
