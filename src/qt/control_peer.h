@@ -3,7 +3,8 @@
 #include <QWidget>
 
 #include "forms/control.h"
-#include "qt/settling.h"
+#include "forms/settling.h"
+
 
 namespace morpho {
 

@@ -8,6 +8,7 @@
 
 #include "forms/form.h"
 #include "qt/control_peer.h"
+#include "qt/timed_settling.h"
 
 namespace morpho {
 
@@ -53,7 +54,7 @@ class FormWindow : public QDialog, public Peer {
     void ReportGeometry();
 
     Form& form_;
-    Settling settling_;
+    TimedSettling settling_;
     std::vector<std::unique_ptr<Peer>> peers_;
     QMetaObject::Connection focusConnection_;
     QEventLoop loop_;

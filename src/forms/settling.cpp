@@ -1,32 +1,19 @@
-#include "qt/settling.h"
+#include "forms/settling.h"
 
 #include <utility>
 
 namespace morpho {
 
-namespace {
-
-constexpr int kPauseMilliseconds =
-    60;  // longer than the gap between two repeats of a key held down
-
-}  // namespace
-
-Settling::Settling() {
-    timer_.setSingleShot(true);
-    timer_.setInterval(kPauseMilliseconds);
-    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Flush(); });
-}
-
 void Settling::Hold(const void* key, std::function<bool()> settle) {
     if (key_ != key) Flush();
     key_ = key;
     settle_ = std::move(settle);
-    timer_.start();
+    StartPause();
 }
 
 void Settling::Drop(const void* key) {
     if (key_ != key) return;
-    timer_.stop();
+    EndPause();
     key_ = nullptr;
     settle_ = nullptr;
 }
