@@ -5,7 +5,6 @@
 #include "forms/control.h"
 #include "forms/settling.h"
 
-
 namespace morpho {
 
 class PageServer;

@@ -13,9 +13,9 @@ namespace morpho {
 
 // What the peers of one window share.
 struct PeerContext {
-    HWND window;    // the form's
-    HFONT font;     // of the controls
-    int dpi;        // pixels an inch of the window's monitor
+    HWND window;  // the form's
+    HFONT font;   // of the controls
+    int dpi;      // pixels an inch of the window's monitor
     Settling& settling;
 };
 
@@ -52,14 +52,17 @@ class ControlPeer : public Peer {
     virtual void WriteOwn(Aspects changed) = 0;
     void BeforeReport() final { context_.settling.Flush(); }
     // A message of the control's own window, before the control gets it; nothing: it gets it.
-    virtual std::optional<LRESULT> OnMessage(UINT /*message*/, WPARAM /*wide*/, LPARAM /*low*/) { return {}; }
+    virtual std::optional<LRESULT> OnMessage(UINT /*message*/, WPARAM /*wide*/, LPARAM /*low*/) {
+        return {};
+    }
 
     const PeerContext& Context() const { return context_; }
     // Twips as pixels of the window's monitor.
     int Pixels(int twips) const { return MulDiv(twips, context_.dpi, 1440); }
 
   private:
-    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wide, LPARAM low, UINT_PTR, DWORD_PTR self);
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wide, LPARAM low, UINT_PTR,
+                                      DWORD_PTR self);
 
     Control& control_;
     PeerContext context_;
