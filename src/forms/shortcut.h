@@ -24,6 +24,8 @@ struct Shortcut {
         return modifier == Modifier::kControl ? "Ctrl+" + name : name;
     }
 
+    bool operator==(const Shortcut&) const = default;
+
     static constexpr int kF0 = 0x100;  // function key n is kF0 + n
 };
 
