@@ -7,9 +7,9 @@
 #include <QTest>
 #include <functional>
 
-#include "forms/gallery.h"
 #include "qt/qt_toolkit.h"
 #include "support/fake_file_system.h"
+#include "support/peer_contract.h"
 
 namespace morpho::test {
 
@@ -77,7 +77,5 @@ class GalleryOnScreen : public OnScreen {
 
     Gallery form_{toolkit_};
 };
-
-using Events = std::vector<std::string>;
 
 }  // namespace morpho::test
