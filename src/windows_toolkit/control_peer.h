@@ -6,16 +6,21 @@
 #include "forms/peer.h"
 #include "forms/settling.h"
 #include "windows_system/win32.h"
-
+// Needs the other one before it.
 #include <commctrl.h>
 
 namespace morpho {
 
+// Messages of our own to the form's window. Sent by peers: a control was disabled or hidden, which
+// may have had the focus.
+inline constexpr UINT kKeepFocus = WM_APP;
+
 // What the peers of one window share.
 struct PeerContext {
-    HWND window;  // the form's
-    HFONT font;   // of the controls
-    int dpi;      // pixels an inch of the window's monitor
+    HWND window;    // the form's
+    HWND toolTips;  // the window of the form's tool tips
+    HFONT font;     // of the controls
+    int dpi;        // pixels an inch of the window's monitor
     Settling& settling;
 };
 
@@ -57,10 +62,14 @@ class ControlPeer : public Peer {
     }
 
     const PeerContext& Context() const { return context_; }
+    // Whether the control and everything around it is enabled.
+    bool IsEnabled() const;
     // Twips as pixels of the window's monitor.
     int Pixels(int twips) const { return MulDiv(twips, context_.dpi, 1440); }
 
   private:
+    void WriteToolTip();
+    void WriteEnabled();
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wide, LPARAM low, UINT_PTR,
                                       DWORD_PTR self);
 
@@ -68,5 +77,15 @@ class ControlPeer : public Peer {
     PeerContext context_;
     HWND window_;
 };
+
+// The peer of a control's window; null when it is no control's.
+ControlPeer* PeerOf(HWND window);
+
+// The window of a control inside this window; null when it has none.
+HWND WindowOf(HWND around, const Control& control);
+
+// Hands a message that a parent gets about a control to the control's peer. Nothing: it is no such
+// message, or the peer leaves it to the system.
+std::optional<LRESULT> TellPeer(UINT message, WPARAM wide, LPARAM low);
 
 }  // namespace morpho

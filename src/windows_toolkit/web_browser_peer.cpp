@@ -80,11 +80,34 @@ void WebBrowserPeer::Reload(bool completely) {
     control_->Refresh2(&level);
 }
 
+bool WebBrowserPeer::TranslateKey(MSG& message) {
+    const auto page = control_.As<IOleInPlaceActiveObject>();
+    return page && page->TranslateAccelerator(&message) == S_OK;
+}
+
+// The page's own window is inside this one.
+std::optional<LRESULT> WebBrowserPeer::OnMessage(UINT message, WPARAM, LPARAM) {
+    const auto object = control_.As<IOleObject>();
+    RECT place;
+    GetClientRect(Window(), &place);
+    if (message == WM_SETFOCUS && object)
+        object->DoVerb(OLEIVERB_UIACTIVATE, nullptr, nullptr, 0, Window(), &place);
+    return {};
+}
+
 void WebBrowserPeer::Fill() {
     const auto inPlace = control_.As<IOleInPlaceObject>();
     RECT place;
     GetClientRect(Window(), &place);
     if (inPlace) inPlace->SetObjectRects(&place, &place);
+}
+
+bool TranslateForPage(MSG& message) {
+    for (HWND at = message.hwnd; at != nullptr; at = GetAncestor(at, GA_PARENT)) {
+        auto* const peer = dynamic_cast<WebBrowserPeer*>(PeerOf(at));
+        if (peer != nullptr) return peer->TranslateKey(message);
+    }
+    return false;
 }
 
 }  // namespace morpho

@@ -18,8 +18,12 @@ class WebBrowserPeer : public ControlPeer {
     // Null where there is none.
     const ComPointer<IWebBrowser2>& Browser() const { return control_; }
 
+    // Whether the page takes this key.
+    bool TranslateKey(MSG& message);
+
   protected:
     void WriteOwn(Aspects changed) override;
+    std::optional<LRESULT> OnMessage(UINT message, WPARAM wide, LPARAM low) override;
 
   private:
     void Embed();
@@ -30,5 +34,8 @@ class WebBrowserPeer : public ControlPeer {
     WebBrowser& browser_;
     ComPointer<IWebBrowser2> control_;
 };
+
+// Lets the page that has the focus, around this message's window, take a key.
+bool TranslateForPage(MSG& message);
 
 }  // namespace morpho
