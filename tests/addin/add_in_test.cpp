@@ -144,5 +144,19 @@ TEST_F(AddInTest, KeepTheHostForAnEditorThatIsOpen) {
     EXPECT_EQ(world.component.application, nullptr);
 }
 
+TEST_F(AddInTest, LiveUntilTheirEditorIsClosed) {
+    auto own = std::make_shared<AddInIM>(world.program, [this] { return makeEditor(); });
+    const std::weak_ptr<AddIn> watched = own;
+    own->OnConnection(application);
+    whileOpen = [&] {
+        own.reset();
+        EXPECT_FALSE(watched.expired());
+    };
+    const auto button = format.All()[0];
+    button->Click();
+    EXPECT_EQ(editors, 1);
+    EXPECT_TRUE(watched.expired());
+}
+
 }  // namespace
 }  // namespace morpho::test
