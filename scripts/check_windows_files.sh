@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Inspects the DLLs and the program that a preset for Windows has built: machine, imports, exports, version. What is not
-# as it should be is printed; exit status 1 then.
+# Inspects the DLLs and the program that a preset for Windows has built: machine, imports, exports, version, manifest. What
+# is not as it should be is printed; exit status 1 then.
 # usage: scripts/check_windows_files.sh PRESET
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -42,5 +42,8 @@ inspect() {
 inspect Colorizer.dll "$entries"
 inspect Morpho.dll "$entries"
 inspect morpho.exe ''
-[ $offences -eq 0 ] && echo "Windows files: machine, imports, exports and version are right ($preset)."
+for file in Morpho.dll morpho.exe; do
+    grep -qa 'Microsoft.Windows.Common-Controls' "build/$preset/bin/$file" || offend "$file has no manifest"
+done
+[ $offences -eq 0 ] && echo "Windows files: machine, imports, exports, version and manifest are right ($preset)."
 exit $offences
