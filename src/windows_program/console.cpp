@@ -4,11 +4,9 @@
 #include <io.h>
 
 #include <cstdio>
+#include <initializer_list>
 
-#include "windows_system/wide.h"
 #include "windows_system/win32.h"
-// Needs the other one before it.
-#include <shellapi.h>
 
 namespace morpho {
 
@@ -35,16 +33,6 @@ bool IsConsoleWatched() {
     DWORD mode = 0;
     return ::GetConsoleMode(output, &mode) &&
            ::SetConsoleMode(output, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
-}
-
-std::vector<std::string> Arguments() {
-    int count = 0;
-    LPWSTR* const words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
-    std::vector<std::string> arguments;
-    for (int i = 0; words != nullptr && i < count; ++i)
-        arguments.push_back(Narrow(words[i]));
-    ::LocalFree(words);
-    return arguments;
 }
 
 }  // namespace morpho

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 namespace morpho {
 
 // The console of this program, if it has one. While the object lives, output is written as it is,
@@ -23,8 +20,5 @@ void CloseOwnConsole();
 
 // Whether a person looks at standard error, which understands escape sequences.
 bool IsConsoleWatched();
-
-// The arguments of this program, UTF-8; the first is the program itself.
-std::vector<std::string> Arguments();
 
 }  // namespace morpho
