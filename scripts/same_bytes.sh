@@ -79,7 +79,7 @@ with_equal_paths() { # platform
         quoted=${plain//\\/\\\\}
         script+="s|$quoted|$name|g;s|$plain|$name|g;"
     done
-    sed -E -e "$script" -e ':again; s#((ROOT|THEMES)[^" \\]*)\\\\?#\1/#; t again'
+    sed -E -e "$script" -e ':again; s#((ROOT|THEMES)[^"\\]*)\\\\?#\1/#; t again'
 }
 
 number=0
@@ -122,6 +122,8 @@ steps() {
     step apply @/web --theme almanac --in-place-of dawn
     step recolor @/web --theme almanac --hue 180 --apply --save-as Polar2 --apply-to-web --json
     step list @/web --json
+    step recolor '@/Сеть ü' --theme almanac --hue 45 --apply --save-as ö --apply-to-web --json
+    step list '@/Сеть ü' --theme ö
     step recolor @/web/images/logo.gif @/web/images/dome.jpg --hue 90 --quality 85 --output-dir @/out/pictures --json
     step recolor @/web/images/dome.jpg --saturation 20 --output @/out/größe-ночь.jpg
     step recolor @/out/größe-ночь.jpg --brightness 70 --in-place --json
@@ -142,10 +144,10 @@ steps() {
 }
 
 start_afresh() {
+    local folder
     "${as_root[@]}" rm -rf "${results:?}/$platform"
     mkdir -p "$results/$platform/printed" "$results/$platform/out"
-    cp -r samples/larkfell "$results/$platform/web"
-    local folder
+    for folder in web 'Сеть ü'; do cp -r samples/larkfell "$results/$platform/$folder"; done
     for folder in $(data_of "$platform"); do "${as_root[@]}" rm -rf "$folder"; done
 }
 

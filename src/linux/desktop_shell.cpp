@@ -10,6 +10,7 @@
 #include "linux/descriptor.h"
 #include "linux/disk_path.h"
 #include "linux/whole_file.h"
+#include "shared/help_command.h"
 #include "text/ignoring_case.h"
 
 namespace morpho {
@@ -20,9 +21,6 @@ namespace {
 constexpr int kStarted = 33;
 constexpr int kFileNotFound = 2;
 constexpr int kNoAssociation = 31;
-
-constexpr std::string_view kHelpViewer = "winhlp32.exe ";
-constexpr std::string_view kHelpFile = "morpho.hlp";
 
 bool IsAddress(std::string_view file) {
     for (const std::string_view scheme : {"http://", "https://", "ftp://", "mailto:", "file:///"}) {
@@ -49,8 +47,7 @@ DesktopShell::DesktopShell(std::vector<std::string> helpPages, Starter start)
     : helpPages_(std::move(helpPages)), start_(std::move(start)) {}
 
 int DesktopShell::WinExec(std::string_view commandLine, int) {
-    const std::string command = AsciiLowered(commandLine);
-    if (!command.starts_with(kHelpViewer) || !command.ends_with(kHelpFile)) return kFileNotFound;
+    if (!OpensHelp(commandLine)) return kFileNotFound;
     for (const std::string& page : helpPages_) {
         std::error_code ignored;
         if (std::filesystem::is_regular_file(page, ignored)) return OpenTarget(page);

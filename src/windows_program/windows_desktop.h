@@ -1,11 +1,11 @@
 #pragma once
 
 #include "desktop/desktop_system.h"
+#include "windows_program/help_shell.h"
 #include "windows_system/windows_clock.h"
 #include "windows_system/windows_code_page.h"
 #include "windows_system/windows_disk.h"
 #include "windows_system/windows_picture_disk.h"
-#include "windows_system/windows_shell.h"
 
 namespace morpho {
 
@@ -38,7 +38,7 @@ class WindowsDesktop : public DesktopSystem {
 
   private:
     WindowsCodePage codePage_;
-    WindowsShell shell_;
+    HelpShell shell_;
     WindowsClock clock_;
     WindowsDisk disk_;
     WindowsPictureDisk pictures_;

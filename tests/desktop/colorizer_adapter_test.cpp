@@ -2,9 +2,8 @@
 
 #include <gmock/gmock.h>
 
-#include "linux/disk_path.h"
+#include "desktop/this_system.h"
 #include "platform/run_time_error.h"
-#include "program/linux_system.h"
 #include "support/temporary_folder.h"
 
 namespace morpho {
@@ -17,12 +16,13 @@ class ColorizerAdapterTest : public testing::Test {
     ColorizerAdapterTest() {
         for (const char* name : {"logo.gif", "dome.jpg"})
             std::filesystem::copy_file(
-                std::string(MORPHO_SOURCE_DIR "/samples/larkfell/images/") + name, folder_ / name);
-        colorizer_->SetDestinationFile(Windows("out"));
+                std::string(MORPHO_SOURCE_DIR "/samples/larkfell/images/") + name,
+                folder_.At(name));
+        colorizer_->SetDestinationFile(Inside("out"));
     }
-    std::string Windows(const std::string& name) { return ToWindowsPath(folder_ / name); }
+    std::string Inside(const std::string& name) { return system_.PathInside(folder_.At(name)); }
     std::string Recolored(const std::string& name) {
-        colorizer_->SetSourceFile(Windows(name));
+        colorizer_->SetSourceFile(Inside(name));
         colorizer_->Colorize();
         return folder_.Read("out");
     }
@@ -34,7 +34,7 @@ class ColorizerAdapterTest : public testing::Test {
     }
 
     TemporaryFolder folder_;
-    LinuxSystem system_;
+    ThisSystem system_;
     std::unique_ptr<Colorizer> colorizer_ = ColorizerAdapterFactory(system_).Create();
 };
 
@@ -53,10 +53,10 @@ TEST_F(ColorizerAdapterTest, TakesTheLowestQualityThatAScrollBarReaches) {
 
 TEST_F(ColorizerAdapterTest, AFailureIsARunTimeErrorAndWritesNothing) {
     folder_.Write("text.gif", "no picture");
-    ExpectError(Windows("none.gif"), ErrorNumber::kFileNotFound);
-    ExpectError(Windows("no folder/none.gif"), ErrorNumber::kPathNotFound);
-    ExpectError("C:\\logo.gif", ErrorNumber::kPathNotFound);
-    ExpectError(Windows("text.gif"), ErrorNumber::kInvalidPicture);
+    ExpectError(Inside("none.gif"), ErrorNumber::kFileNotFound);
+    ExpectError(Inside("no folder/none.gif"), ErrorNumber::kPathNotFound);
+    ExpectError("logo.gif", ErrorNumber::kPathNotFound);
+    ExpectError(Inside("text.gif"), ErrorNumber::kInvalidPicture);
 }
 
 }  // namespace
