@@ -15,7 +15,7 @@ windows-x86) objdump=i686-w64-mingw32-objdump format=pei-i386 ;;
 esac
 version=$(sed -n 's/^project(morpho VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 # What every Windows has. The C runtime is the system's own; that of the compiler is linked in.
-system=' advapi32 comctl32 comdlg32 gdi32 kernel32 msimg32 msvcrt ole32 oleaut32 rpcrt4 shcore shell32 shlwapi user32 uuid uxtheme version windowscodecs '
+system=' advapi32 comctl32 comdlg32 gdi32 gdiplus kernel32 msimg32 msvcrt ole32 oleaut32 rpcrt4 shcore shell32 shlwapi user32 uuid uxtheme version windowscodecs '
 entries=$'DllCanUnloadNow\nDllGetClassObject\nDllRegisterServer\nDllUnregisterServer'
 
 offences=0

@@ -22,8 +22,8 @@ class CommonControls {
         Active& operator=(const Active&) = delete;
 
       private:
-        bool isActive_;
         ULONG_PTR cookie_ = 0;
+        bool isActive_;
     };
 
   private:

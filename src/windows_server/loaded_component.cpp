@@ -1,6 +1,6 @@
 #include "windows_server/loaded_component.h"
 
-#include "windows_server/message_toolkit.h"
+#include "windows_toolkit/windows_toolkit.h"
 
 namespace morpho {
 
@@ -15,7 +15,7 @@ std::shared_ptr<LoadedComponent> LoadedComponent::Get() {
 LoadedComponent::LoadedComponent()
     : environment_(
           {"Morpho", MORPHO_VERSION_MAJOR, MORPHO_VERSION_MINOR, MORPHO_VERSION_REVISION, ""}),
-      toolkit_(std::make_unique<MessageToolkit>()),
+      toolkit_(std::make_unique<WindowsToolkit>(::GetActiveWindow)),
       platform_{registry_,  files_,      codePage_, shell_,      clock_,    environment_,
                 resources_, colorizers_, toolkit_,  automation_, clipboard_} {}
 
