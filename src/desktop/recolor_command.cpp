@@ -22,7 +22,7 @@ std::string Warnings(const frmThemeMorpho& window) {
         const std::string sentence = file.empty()
                                          ? window.Elements().Key(row) + " names no picture."
                                          : file + " is left as it was: " + reason;
-        if (told.insert(sentence).second) warnings += sentence + "\n";
+        if (told.insert(sentence).second) warnings.append(sentence).append("\n");
     }
     return warnings;
 }

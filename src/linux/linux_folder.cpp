@@ -168,6 +168,7 @@ void LinuxFolder::RemoveFolder(std::string_view name) {
 
 void LinuxFolder::Flush(const std::vector<std::string>& names) {
     std::vector<std::string> diskNames;
+    diskNames.reserve(names.size());
     for (const std::string& name : names)
         diskNames.push_back(Checked(folder_, name));
     FlushFiles(folder_, diskNames);

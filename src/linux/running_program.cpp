@@ -1,6 +1,6 @@
 #include "linux/running_program.h"
 
-#include <signal.h>
+#include <signal.h>  // NOLINT(modernize-deprecated-headers): kill() is not in <csignal>
 
 #include <cerrno>
 #include <fstream>

@@ -12,7 +12,7 @@ class QToolBar;
 namespace morpho {
 
 // Shows the host's bars in a window: its menu bar as menus, each other bar as a toolbar.
-class BarMirror : public CommandBarsObserver {
+class BarMirror final : public CommandBarsObserver {
   public:
     // Both must outlive it.
     BarMirror(HostCommandBars& bars, QMainWindow& window);

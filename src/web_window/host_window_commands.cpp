@@ -182,9 +182,8 @@ void HostWindow::FillRecentWebs() {
         const QString caption = QString("&%1 %2").arg(i + 1).arg(WithoutAccessKey(ToQt(webs[i])));
         const auto control =
             recentWebs_->Controls()->Append({.look = {.caption = FromQt(caption)}});
-        const std::string web = webs[i];
         // The list is made anew by the click, so the click must be over by then.
-        recentClicks_.push_back(control->OnClick([this, web] {
+        recentClicks_.push_back(control->OnClick([this, web = webs[i]] {
             QMetaObject::invokeMethod(
                 this, [this, web] { OpenWeb(web); }, Qt::QueuedConnection);
         }));
