@@ -5,6 +5,19 @@
 
 namespace morpho::test {
 
+std::vector<std::string> Differences(const Tree& one, const Tree& other) {
+    Tree all = one;
+    all.insert(other.begin(), other.end());
+    std::vector<std::string> names;
+    for (const auto& [name, bytes] : all) {
+        const auto here = one.find(name);
+        const auto there = other.find(name);
+        if (here == one.end() || there == other.end() || here->second != there->second)
+            names.push_back(name);
+    }
+    return names;
+}
+
 void SaveAsDusk(BatchWindow& window, Recolours recolours) {
     window.OpenTheme("orrery");
     if (recolours == Recolours::kAll) {
@@ -20,7 +33,7 @@ void SaveAsDusk(BatchWindow& window, Recolours recolours) {
     window.SaveAs(outcome);
 }
 
-EditedWeb EditedByDesktopProgram() {
+Tree EditedByDesktopProgram() {
     const TemporaryFolder folder;
     std::filesystem::copy(std::filesystem::path(MORPHO_SOURCE_DIR) / "samples/larkfell",
                           folder.At("web"), std::filesystem::copy_options::recursive);
@@ -31,7 +44,7 @@ EditedWeb EditedByDesktopProgram() {
             {folder.At("Desktop"), folder.At("AppData"), folder.At("data"), folder.At("cache")});
         SaveAsDusk(batch.OpenTheme("orrery"), Recolours::kAll);
     }
-    return {folder.Below("web"), folder.Below("AppData/Microsoft/Themes")};
+    return EditedTree(folder.Below("web"), folder.Below("AppData/Microsoft/Themes"));
 }
 
 }  // namespace morpho::test
