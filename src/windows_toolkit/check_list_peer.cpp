@@ -17,6 +17,32 @@ void SetBox(HWND list, int row, bool checked) {
                  reinterpret_cast<LPARAM>(&state));
 }
 
+int SystemDpi() {
+    const HDC screen = GetDC(nullptr);
+    const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
+    ReleaseDC(nullptr, screen);
+    return dpi;
+}
+
+// The list makes its boxes for the system's resolution; that of its monitor may be another. The
+// list owns the new ones, too.
+void ScaleBoxes(HWND list, int dpi) {
+    const auto boxes =
+        reinterpret_cast<HIMAGELIST>(SendMessageW(list, LVM_GETIMAGELIST, LVSIL_STATE, 0));
+    int size = 0;
+    if (SystemDpi() == dpi || !ImageList_GetIconSize(boxes, &size, &size)) return;
+    const int scaledSize = MulDiv(size, dpi, SystemDpi());
+    const HIMAGELIST scaled =
+        ImageList_Create(scaledSize, scaledSize, ILC_COLOR32 | ILC_MASK, 2, 0);
+    for (int at = 0; at < ImageList_GetImageCount(boxes); ++at) {
+        const HICON box = ImageList_GetIcon(boxes, at, ILD_TRANSPARENT);
+        ImageList_ReplaceIcon(scaled, -1, box);
+        DestroyIcon(box);
+    }
+    SendMessageW(list, LVM_SETIMAGELIST, LVSIL_STATE, reinterpret_cast<LPARAM>(scaled));
+    ImageList_Destroy(boxes);
+}
+
 }  // namespace
 
 CheckListPeer::CheckListPeer(CheckListBox& list, HWND parent, const PeerContext& context)
@@ -27,6 +53,7 @@ CheckListPeer::CheckListPeer(CheckListBox& list, HWND parent, const PeerContext&
     // The label tip shows the whole text of an entry that is cut off.
     constexpr LPARAM kStyle = LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP;
     SendMessageW(Window(), LVM_SETEXTENDEDLISTVIEWSTYLE, 0, kStyle);
+    ScaleBoxes(Window(), context.dpi);
     LVCOLUMNW column{};
     SendMessageW(Window(), LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
 }

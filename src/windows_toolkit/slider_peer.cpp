@@ -11,7 +11,8 @@ DWORD TickStyle(const Slider& slider) {
 }  // namespace
 
 SliderPeer::SliderPeer(Slider& slider, HWND parent, const PeerContext& context)
-    : ControlPeer(slider, parent, context, TRACKBAR_CLASSW, TBS_HORZ | TickStyle(slider)),
+    : ControlPeer(slider, parent, context, TRACKBAR_CLASSW,
+                  TBS_HORZ | TBS_FIXEDLENGTH | TickStyle(slider)),
       slider_(slider) {
     const Slider::Range& limits = slider.Limits();
     const auto send = [this](UINT message, int value) {
@@ -66,6 +67,11 @@ bool SliderPeer::Settle() {
 }
 
 void SliderPeer::WriteOwn(Aspects changed) {
+    if (changed & aspect::kPlace) {
+        // Leaves room for the ticks.
+        const int thumb = Pixels(slider_.Place().height) * 3 / 5;
+        SendMessageW(Window(), TBM_SETTHUMBLENGTH, static_cast<WPARAM>(thumb), 0);
+    }
     if ((changed & aspect::kValue) && Position() != slider_.Value())
         SendMessageW(Window(), TBM_SETPOS, TRUE, slider_.Value());
 }
