@@ -85,6 +85,7 @@ void ListViewPeer::WriteView() {
     const auto style = static_cast<DWORD>(GetWindowLongPtrW(Window(), GWL_STYLE));
     if ((style & LVS_TYPEMASK) == view) return;
     SetWindowLongPtrW(Window(), GWL_STYLE, static_cast<LONG_PTR>((style & ~LVS_TYPEMASK) | view));
+    InvalidateRect(Window(), nullptr, TRUE);  // The list paints the new view only in part.
 }
 
 }  // namespace morpho
