@@ -1,10 +1,6 @@
 #include <gmock/gmock.h>
 
 #include "support/own_server.h"
-#include "windows_com/com_error.h"
-#include "windows_com/dispatch_caller.h"
-#include "windows_com/dispatch_object.h"
-#include "windows_server/extensibility.h"
 
 namespace morpho::test {
 namespace {
@@ -21,19 +17,6 @@ std::string AddInText(const wchar_t* addIn, const wchar_t* name) {
     ::RegGetValueW(HKEY_CURRENT_USER, key.c_str(), name, RRF_RT_REG_SZ, nullptr, text, &size);
     return Narrow(text);
 }
-
-// A host that remembers what it was asked, and then refuses.
-class RefusingHost : public DispatchObject<> {
-  public:
-    explicit RefusingHost(std::vector<std::string>& asked) {
-        for (const char* name : {"Version", "LanguageSettings", "CommandBars"}) {
-            Members().Property(name, 0, [&asked, name](const CallArguments&) -> Variant {
-                asked.push_back(name);
-                throw ResultError(RPC_E_DISCONNECTED);
-            });
-        }
-    }
-};
 
 class MorphoDllTest : public testing::Test {
   protected:
@@ -63,43 +46,6 @@ TEST_F(MorphoDllTest, IsRegisteredWithTheHostUntilItIsUnregistered) {
     EXPECT_EQ("", AddInText(L"Morpho.AddInTM", L"FriendlyName"));
     CLSID clsid = {};
     EXPECT_NE(S_OK, ::CLSIDFromProgID(L"Morpho.AddInTM", &clsid));
-}
-
-TEST_F(MorphoDllTest, AConnectionToAHostThatRefusesSucceedsThroughTheTableAndByName) {
-    for (const char* progId : {"Morpho.AddInTM", "Morpho.AddInIM"}) {
-        std::vector<std::string> asked;
-        const auto host = MakeComObject<RefusingHost>(asked);
-        {
-            const DispatchCaller addIn = CreateByName(progId);
-            const auto table = addIn.Object().As<IDTExtensibility2>();
-            ASSERT_TRUE(table);
-            EXPECT_EQ(S_OK, table->OnConnection(host.Get(), 1, nullptr, nullptr));
-            EXPECT_EQ(S_OK, table->OnDisconnection(0, nullptr));
-            EXPECT_FALSE(asked.empty());
-            asked.clear();
-            addIn.Call("OnConnection", {host, 1, Variant::Missing(), Variant::Missing()});
-            EXPECT_FALSE(asked.empty());
-            for (const char* told : {"OnAddInsUpdate", "OnStartupComplete", "OnBeginShutdown"})
-                addIn.Call(told, {Variant::Missing()});
-            // A host may forget to disconnect.
-            EXPECT_FALSE(server_->CanBeUnloaded());
-        }
-        EXPECT_TRUE(server_->CanBeUnloaded());
-        host->AddRef();
-        EXPECT_EQ(1u, host->Release()) << "nothing keeps the host";
-    }
-}
-
-TEST_F(MorphoDllTest, NumbersItsMembersAsHostsExpect) {
-    const DispatchCaller addIn = CreateByName("Morpho.AddInTM");
-    DISPID expected = 0;
-    for (const wchar_t* name : {L"OnConnection", L"OnDisconnection", L"OnAddInsUpdate",
-                                L"OnStartupComplete", L"OnBeginShutdown"}) {
-        DISPID id = 0;
-        auto* text = const_cast<wchar_t*>(name);
-        EXPECT_EQ(S_OK, addIn.Object()->GetIDsOfNames(IID_NULL, &text, 1, 0, &id));
-        EXPECT_EQ(++expected, id);
-    }
 }
 
 }  // namespace
