@@ -185,9 +185,9 @@ void FormWindow::Write(Aspects changed) {
     if (changed & aspect::kToTop) SetForegroundWindow(window_);
 }
 
-Size FormWindow::Chrome() const {
-    const SIZE chrome = ChromeOf(StyleOf(form_), ExtendedStyleOf(form_), dpi_);
-    return {ToTwips(chrome.cx, dpi_), ToTwips(chrome.cy, dpi_)};
+Size FormWindow::Chrome(const Form& form, int dpi) {
+    const SIZE chrome = ChromeOf(StyleOf(form), ExtendedStyleOf(form), dpi);
+    return {ToTwips(chrome.cx, dpi), ToTwips(chrome.cy, dpi)};
 }
 
 // The system's rectangle counts from the corner of the monitor's work area.

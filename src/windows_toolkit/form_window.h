@@ -30,8 +30,8 @@ class FormWindow : public Peer {
     const Form& Model() const { return form_; }
     HWND Window() const { return window_; }
     HWND Owner() const { return owner_; }
-    // Outer less inner size, in twips.
-    Size Chrome() const;
+    // Outer less inner size of a form's window, in twips.
+    static Size Chrome(const Form& form, int dpi);
     // The outer rectangle, in twips, while neither minimised nor maximised.
     Rectangle NormalPlacement() const;
     int Dpi() const { return dpi_; }

@@ -7,6 +7,9 @@ namespace morpho {
 
 namespace {
 
+// The system's own colour of links is too pale in some of its themes.
+constexpr COLORREF kLinkColour = RGB(0, 0x66, 0xCC);
+
 HFONT Underlined(HFONT font) {
     LOGFONTW shape{};
     GetObjectW(font, sizeof shape, &shape);
@@ -81,6 +84,11 @@ UINT LabelPeer::Format(int lineHeight) const {
     return format;
 }
 
+COLORREF LabelPeer::TextColour() const {
+    if (!IsEnabled()) return GetSysColor(COLOR_GRAYTEXT);
+    return label_.IsLink() ? kLinkColour : GetSysColor(COLOR_BTNTEXT);
+}
+
 void LabelPeer::Paint() {
     PAINTSTRUCT paint;
     const HDC device = BeginPaint(Window(), &paint);
@@ -91,10 +99,7 @@ void LabelPeer::Paint() {
     TEXTMETRICW metrics;
     GetTextMetricsW(device, &metrics);
     const UINT format = Format(metrics.tmHeight);
-    const int colour = !IsEnabled()      ? COLOR_GRAYTEXT
-                       : label_.IsLink() ? COLOR_HOTLIGHT
-                                         : COLOR_BTNTEXT;
-    SetTextColor(device, GetSysColor(colour));
+    SetTextColor(device, TextColour());
     SetBkMode(device, TRANSPARENT);
     const std::wstring text = MarkedCaptionOf(label_);
     DrawTextW(device, text.c_str(), -1, &area, format);

@@ -20,6 +20,7 @@ class LabelPeer : public ControlPeer {
     void Paint();
     UINT Format(int lineHeight) const;
     RECT Area() const;
+    COLORREF TextColour() const;
 
     Label& label_;
     HFONT underlined_ = nullptr;

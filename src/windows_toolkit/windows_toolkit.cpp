@@ -45,10 +45,12 @@ WindowsToolkit::~WindowsToolkit() {
     if (hasOle_) OleUninitialize();
 }
 
+// A form may be loaded before it has a window.
 void WindowsToolkit::PlaceAtStart(Form& form) {
+    const DpiAwareness sharp;
     const FormWindow* const window = Find(&form);
-    if (window != nullptr) form.SetChrome(window->Chrome());
     const int dpi = window != nullptr ? window->Dpi() : DpiOf(nullptr);
+    form.SetChrome(FormWindow::Chrome(form, dpi));
     const HWND below = window != nullptr ? window->Owner() : TopWindow();
     RECT area{};
     if (form.Start() == StartPosition::kCenterOwner && below != nullptr && !IsIconic(below)) {
