@@ -27,7 +27,7 @@ int wmain(int argc, wchar_t** argv) {
     for (const std::string& argument : arguments)
         words.push_back(argument.c_str());
     morpho::WindowsDesktop desktop;
-    morpho::WindowsScreen screen;
+    morpho::WindowsScreen screen(desktop);
     return morpho::RunCommandLine(argc, words.data(), desktop, screen);
 }
 
