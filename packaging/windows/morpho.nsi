@@ -111,7 +111,7 @@ Section
     !insertmacro Register "${REGSVR_X64}" "x64\Morpho.dll"
   ${EndIf}
   CreateDirectory "$SMPROGRAMS\Morpho"
-  CreateShortcut "$SMPROGRAMS\Morpho\Theme Morpho.lnk" "$1" "theme"
+  CreateShortcut "$SMPROGRAMS\Morpho\Theme Morpho.lnk" "$1"
   CreateShortcut "$SMPROGRAMS\Morpho\Image Morpho.lnk" "$1" "image"
   CreateShortcut "$SMPROGRAMS\Morpho\Help.lnk" "$INSTDIR\help\index.html"
 SectionEnd
