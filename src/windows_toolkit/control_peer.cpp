@@ -13,7 +13,8 @@ constexpr const wchar_t* kPeerProperty = L"MorphoPeer";
 
 TOOLINFOW ToolOf(const PeerContext& context, HWND window, std::wstring& text) {
     TOOLINFOW tool{};
-    tool.cbSize = sizeof tool;
+    // The newest size is unknown to the controls of version 5, which then show no tool tip.
+    tool.cbSize = TTTOOLINFOW_V2_SIZE;
     tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
     tool.hwnd = context.window;
     tool.uId = reinterpret_cast<UINT_PTR>(window);

@@ -56,20 +56,20 @@ HFONT FormFont(int dpi) {
     return CreateFontIndirectW(&font);
 }
 
+constexpr wchar_t kFormClass[] = L"MorphoForm";
+
+// Has no effect while the class is there.
 const wchar_t* FormClass(WNDPROC procedure) {
-    static const wchar_t* const name = [procedure] {
-        WNDCLASSEXW form{};
-        form.cbSize = sizeof form;
-        form.lpfnWndProc = procedure;
-        form.hInstance = ModuleOf(reinterpret_cast<const void*>(procedure));
-        form.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-        form.hIcon = LoadIconW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(1));
-        form.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
-        form.lpszClassName = L"MorphoForm";
-        RegisterClassExW(&form);
-        return form.lpszClassName;
-    }();
-    return name;
+    WNDCLASSEXW form{};
+    form.cbSize = sizeof form;
+    form.lpfnWndProc = procedure;
+    form.hInstance = ModuleOf(reinterpret_cast<const void*>(procedure));
+    form.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    form.hIcon = LoadIconW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(1));
+    form.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+    form.lpszClassName = kFormClass;
+    RegisterClassExW(&form);
+    return kFormClass;
 }
 
 }  // namespace
@@ -94,9 +94,13 @@ FormWindow::~FormWindow() {
     form_.Attach(nullptr);
     RemovePeers();
     settling_.reset();
-    if (window_ == nullptr) return;
-    SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
-    DestroyWindow(window_);
+    if (window_ != nullptr) {
+        SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+        DestroyWindow(window_);
+    }
+    // A library that is loaded again may be elsewhere, and the class would still call the old code.
+    // The call has no effect while another form is open.
+    UnregisterClassW(kFormClass, ModuleOf(reinterpret_cast<const void*>(&FormWindow::Procedure)));
 }
 
 void FormWindow::MakePeers() {

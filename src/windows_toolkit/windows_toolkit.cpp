@@ -69,7 +69,8 @@ void WindowsToolkit::RunModal(Form& form) {
     FormWindow window(form, TopWindow());
     windows_.push_back(&window);
     window.RunUntilHidden([&] {
-        if (whenFormStands_) whenFormStands_(form);
+        const auto stands = whenFormStands_;  // which may set another one
+        if (stands) stands(form);
     });
     windows_.pop_back();
 }
