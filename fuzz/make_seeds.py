@@ -77,7 +77,9 @@ def texts():
         "sub/page.htm": b'<meta name="Microsoft Theme" content="b 1011"><img src="../_themes/b/a.gif">',
         "_vti_pvt/x": b"",
     }
-    save("web", "two-themes", b"".join(f"{name}\n{len(data)}\n".encode() + data for name, data in files.items()))
+    web = b"".join(f"{name}\n{len(data)}\n".encode() + data for name, data in files.items())
+    save("web", "two-themes", web)
+    save("web", "links", web + b"_themes/beside\nlink\nout\nlink\nindex.htm\n40\n<img src=out/x.gif><img src=../beside/x>")
     for number, line in enumerate([
         "list web --theme orrery --json",
         "recolor web --theme orrery --select none --select active --hue 40 --apply --undo --redo --export out",
@@ -98,7 +100,7 @@ DICTIONARIES = {
     "registry": ["Windows Registry Editor Version 5.00", "[HKEY_CURRENT_USER\\\\", "dword:", "hex(2):", "hex:", "@=", "=-", "[-"],
     "package": ["<==MS-Theme==>", ".gif,", "..\\\\", "../", "nul", "32767"],
     "page": ["<meta name=", "Microsoft Theme", " 1011, default", "_themes/", "<!--mstheme-->", "href=", "%20", "&amp;", "url("],
-    "web": ["_themes/", ".inf", "[info]", "theme.css", "index.htm", "Microsoft Theme", "_vti_pvt/"],
+    "web": ["_themes/", ".inf", "[info]", "theme.css", "index.htm", "Microsoft Theme", "_vti_pvt/", "\\x0alink\\x0a"],
     "command": ["list", "recolor", "apply", "image", "theme", "--theme", "--hue", "--apply", "--export", "--save-as", "--json", "--help"],
 }
 

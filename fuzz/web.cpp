@@ -1,6 +1,7 @@
-// A web is a folder made of the input: opened, listed, given another theme. Nothing beside the
-// folder changes, and errors are told as such. The input holds files, each as a line "name", a line
-// with its length in bytes, and its bytes.
+// A web is a folder made of the input: opened, listed, its pages read, given another theme. Nothing
+// beside the folder is read or changes, and errors are told as such. The input holds files, each as
+// a line "name", a line with its length in bytes, and its bytes. A length of "link" makes a link to
+// the folder beside the web.
 
 #include <charconv>
 #include <string>
@@ -38,8 +39,16 @@ void WriteFiles(std::string_view input, const TemporaryFolder& folder) {
             name.find("..") != name.npos || name.find('\0') != name.npos)
             continue;
         std::error_code refused;
-        std::filesystem::create_directories(folder.At("web/" + name).parent_path(), refused);
-        if (!refused) folder.Write("web/" + name, bytes);
+        const auto path = folder.At("web/" + name), beside = folder.At("beside");
+        std::filesystem::create_directories(path.parent_path(), refused);
+        // An earlier link must not lead this program there.
+        const auto parent = std::filesystem::canonical(path.parent_path(), refused);
+        if (refused || parent.native().starts_with(beside.native())) continue;
+        if (digits == "link") {
+            std::filesystem::create_symlink(beside, path, refused);
+        } else if (!std::filesystem::is_symlink(path)) {
+            folder.Write("web/" + name, bytes);
+        }
     }
 }
 
@@ -50,7 +59,12 @@ void Use(DiskApplication& host, const std::string& web, const ThemeStores& store
         return;
     }
     const auto opened = host.ActiveWeb();
+    host.SetActivePage([] { return ActivePage{{"index.htm"}, 0}; });
+    const auto page = host.ActiveDocument();
+    for (int index = 0; page && index < page->ImageCount(); ++index)
+        page->ImageAddress(index);
     for (int index = 0; index < opened->ThemeCount(); ++index) {
+        Require(opened->ThemeAt(index).label != "Beside", "A theme beside the web is listed.");
         try {
             opened->ApplyTheme(opened->ThemeAt(index).name);
         } catch (const RunTimeError&) {
@@ -64,6 +78,7 @@ void Use(DiskApplication& host, const std::string& web, const ThemeStores& store
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const TemporaryFolder folder;
     folder.Write("beside/page.htm", "<meta name='Microsoft Theme' content='a 1011, default'>");
+    folder.Write("beside/beside.inf", "[info]\ntitle=Beside\n");
     folder.Write("web/index.htm", "<meta name='Microsoft Theme' content='a 1011, default'>");
     WriteFiles(Text(data, size), folder);
     const Tree beside = folder.Below("beside");

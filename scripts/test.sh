@@ -2,9 +2,11 @@
 # Installs what is missing, checks formatting, levels and sizes, builds, runs every test, and checks the package.
 # usage: scripts/test.sh [debug | release | asan]      (asan: AddressSanitizer and UBSan; default: debug)
 #        scripts/test.sh --fuzz [SECONDS]      (every fuzz target for 30 seconds, or as many)
+#        scripts/test.sh --coverage            (which lines and branches of src/ the tests run, by folder)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 if [ "${1:-}" = --fuzz ]; then exec scripts/fuzz.sh "${@:2}"; fi
+if [ "${1:-}" = --coverage ]; then exec scripts/coverage.py; fi
 preset=${1:-debug}
 
 scripts/install_packages.sh

@@ -155,6 +155,43 @@ TEST_F(ImageWindow, EveryWayToEndIt) {
     }
 }
 
+// A picture is opened, recoloured and saved, while one operation on files, or all from it on, fail.
+TEST_F(ImageWindow, WhateverFailsAPictureIsWholeAndCanBeSavedTheNextTime) {
+    const auto session = [this](bool ofWeb) {
+        ofWeb ? OpenWeb() : OpenDisk();
+        window->slHue.UserSettle(40);
+        if (window->btnSave.IsOperable()) window->btnSave.UserClick();
+        if (window->IsLoaded()) window->Unload();
+    };
+    const auto isAnsweredYes = [this](int times) {
+        for (int i = 0; i < times; ++i)
+            world.toolkit.WillAnswer(Answer::kYes);
+    };
+    const std::string recoloured = Recoloured(gif, 40);
+    const std::string unchanged = Recoloured(gif, 0);  // what the window opens with
+    for (const bool ofWeb : {false, true}) {
+        const std::string file = ofWeb ? "C:\\Web\\images\\b.gif" : "C:\\Pictures\\a.gif";
+        for (const bool staysBroken : {false, true}) {
+            bool hasFailed = true;
+            for (int nth = 1; hasFailed; ++nth) {
+                SCOPED_TRACE(file + " fails at " + std::to_string(nth));
+                world.files.PutFile(file, gif);
+                isAnsweredYes(4);
+                world.files.FailAt(nth, staysBroken);
+                session(ofWeb);
+                hasFailed = world.files.HasFailed();
+                world.files.FailNoMore();
+                const std::string left = world.files.Bytes(file);
+                EXPECT_TRUE(left == gif || left == unchanged || left == recoloured) << left;
+                EXPECT_EQ(world.files.Bytes("C:\\Web\\sky.gif"), gif);
+                isAnsweredYes(4);
+                session(ofWeb);
+                EXPECT_EQ(world.files.Bytes(file), Recoloured(left, 40));
+            }
+        }
+    }
+}
+
 TEST_F(ImageWindow, SavesBeforeItOpensAnother) {
     OpenDisk();
     window->slHue.UserSettle(40);

@@ -16,6 +16,15 @@ bool IsFile(const std::string& word) {
     return std::find(kFiles.begin(), kFiles.end(), word) != kFiles.end();
 }
 
+// A picture without what says nothing about its colours: neutral passes and the quality.
+std::string ColoursIn(std::string bytes) {
+    for (const std::string_view silent : {" q60", "|h0 s1 b1"}) {
+        for (auto at = bytes.find(silent); at != bytes.npos; at = bytes.find(silent, at))
+            bytes.erase(at, silent.size());
+    }
+    return bytes;
+}
+
 // What the window should do with the words below, as plain as can be.
 struct PlainHistory {
     using Selected = std::set<std::string>;
@@ -34,8 +43,13 @@ struct PlainHistory {
         if (word == "apply") return Apply();
         if (word == "undo") return mayUndo ? Move(undo, redo) : void();
         if (word == "redo") return redo.empty() ? void() : Move(redo, undo);
+        if (word == "reset") return Reset();
         hue = std::stoi(word.substr(word.front() == '~'));
         if (word.front() != '~' && hue != std::exchange(settled, hue)) Process();
+    }
+    void Reset() {
+        *this = {};
+        selected = {kFiles.begin(), kFiles.end()};
     }
     void Select(const Selected& now) {
         if (now != std::exchange(selected, now) && hue != 0) Commit();
@@ -89,11 +103,10 @@ class EditHistoryTest : public OpenThemeWindow {
     // What a person does: the name of a button presses it, a file ticks its element, "~40" holds
     // the hue's thumb there, "40" lets go of it there.
     void Do(const std::string& word) {
-        const std::map<std::string, CommandButton*> buttons{{"all", &window->cmdSelectAll},
-                                                            {"none", &window->cmdSelectNone},
-                                                            {"apply", &window->cmdApply},
-                                                            {"undo", &window->cmdUndo},
-                                                            {"redo", &window->cmdRedo}};
+        const std::map<std::string, CommandButton*> buttons{
+            {"all", &window->cmdSelectAll}, {"none", &window->cmdSelectNone},
+            {"apply", &window->cmdApply},   {"undo", &window->cmdUndo},
+            {"redo", &window->cmdRedo},     {"reset", &window->cmdReset}};
         if (const auto button = buttons.find(word); button != buttons.end()) {
             button->second->UserClick();
         } else if (IsFile(word)) {
@@ -104,14 +117,8 @@ class EditHistoryTest : public OpenThemeWindow {
             window->sldHue.UserSettle(std::stoi(word));
         }
     }
-    // A picture without what says nothing about its colours: neutral passes and the quality.
     std::string Colours(const std::string& file) const {
-        std::string bytes = world.files.Bytes(kWorkRoot + "blends\\" + file);
-        for (const std::string silent : {" q60", "|h0 s1 b1"}) {
-            for (auto at = bytes.find(silent); at != std::string::npos; at = bytes.find(silent))
-                bytes.erase(at, silent.size());
-        }
-        return bytes;
+        return ColoursIn(world.files.Bytes(kWorkRoot + "blends\\" + file));
     }
     // The colours of two pictures after these words in a new window.
     std::pair<std::string, std::string> After(const std::string& words) {
@@ -143,16 +150,16 @@ TEST_F(EditHistoryTest, UndoAndRedoLeadToWhatTheSurvivingStepsAloneGive) {
 }
 
 TEST_F(EditHistoryTest, RandomEditsLeadToWhatAPlainHistorySays) {
-    Lines words{"none", "all", "~0", "~10", "~20", "0", "10", "20", "30"};
+    Lines words{"reset", "none", "all", "~0", "~10", "~20", "0", "10", "20", "30"};
     words.insert(words.end(), kFiles.begin(), kFiles.end());
     for (const char* const button : {"apply", "undo", "redo"})
         words.insert(words.end(), 3, button);
     std::mt19937 random(20031);  // the same edits in every run
-    for (int walk = 0; walk < 300; ++walk) {
+    for (int walk = 0; walk < 2000; ++walk) {
         Forget();
         window->cmdReset.UserClick();
         PlainHistory plain;
-        plain.Do("all");
+        plain.Do("reset");
         std::string done;
         for (int edit = 0; edit < 20; ++edit) {
             const std::string& word = words[random() % words.size()];
@@ -170,6 +177,67 @@ TEST_F(EditHistoryTest, RandomEditsLeadToWhatAPlainHistorySays) {
             }
         }
     }
+}
+
+// A theme with all 38 elements, each with a picture of its own.
+class LongHistory : public testing::Test, protected ThemeWorld {
+  protected:
+    using Step = std::pair<std::set<std::size_t>, int>;  // the elements, and the hue
+
+    LongHistory() {
+        Pictures pictures;
+        for (const CatalogueElement& element : kCatalogue)
+            pictures.emplace_back(element.key, "p" + std::to_string(pictures.size()) + ".gif");
+        world.application.web->themeOfWeb = "wide";
+        PutTheme("wide", "Wide", pictures);
+        Open();
+    }
+    void Take(const Step& step) {
+        window->cmdSelectNone.UserClick();
+        for (const std::size_t element : step.first)
+            window->lstImageNames.UserCheck(RowOf(element), true);
+        window->sldHue.UserSettle(step.second);
+        window->cmdApply.UserClick();
+        Forget();
+    }
+    int RowOf(std::size_t element) const {
+        return window->lstGifNames.FindExact("p" + std::to_string(element) + ".gif");
+    }
+    // That the pictures are what the first `count` steps make of the originals.
+    void ExpectStepsDone(const std::vector<Step>& steps, std::size_t count) const {
+        for (std::size_t element = 0; element < kCatalogue.size(); ++element) {
+            const std::string file = "p" + std::to_string(element) + ".gif";
+            std::string expected = "wide/" + file;
+            for (std::size_t i = 0; i < count; ++i) {
+                if (steps[i].first.contains(element))
+                    expected += "|h" + std::to_string(steps[i].second) + " s1 b1";
+            }
+            ASSERT_EQ(ColoursIn(world.files.Bytes(kWorkRoot + "wide\\" + file)), expected)
+                << count << " steps";
+        }
+    }
+};
+
+TEST_F(LongHistory, LeadsDownToTheOriginalsAndUpAgainThroughTheSamePictures) {
+    std::mt19937 random(38);
+    std::vector<Step> steps(300);
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+        steps[i].second = 1 + static_cast<int>(i % 100);
+        for (int picks = 0; picks < 4; ++picks)
+            steps[i].first.insert(random() % kCatalogue.size());
+        Take(steps[i]);
+        if ((i + 1) % 10 == 0) ExpectStepsDone(steps, i + 1);
+    }
+    for (std::size_t left = steps.size(); left-- > 0; Forget()) {
+        window->cmdUndo.UserClick();
+        if (left % 10 == 0) ExpectStepsDone(steps, left);
+    }
+    EXPECT_FALSE(window->cmdUndo.Enabled());
+    for (std::size_t done = 1; done <= steps.size(); ++done, Forget()) {
+        window->cmdRedo.UserClick();
+        if (done % 10 == 0) ExpectStepsDone(steps, done);
+    }
+    EXPECT_FALSE(window->cmdRedo.Enabled());
 }
 
 TEST(EditHistory, RefusesMoreThan32767StepsAndLosesNoneOfThem) {

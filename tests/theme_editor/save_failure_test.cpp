@@ -126,6 +126,50 @@ TEST_P(FailingSave, ADeadProgramLeavesWholeFilesAndANameThatCanBeSavedAgain) {
     });
 }
 
+// From the start of the window on. Whatever fails, nobody's theme and no page is damaged, and the
+// next window can be worked with.
+TEST(FailingSession, LeavesThemesAndPagesWholeAndAStartThatWorks) {
+    const auto run = [](SaveWorld& session, int nth, bool programDies) {
+        session.world.files.FailAt(nth, programDies);
+        try {
+            session.OpenAndRecolour();
+            session.window->cmdUndo.UserClick();
+            session.window->cmdRedo.UserClick();
+            session.PersonSavesAs("bay", "The Bay", true);
+            if (session.window->cmdSaveAs.IsOperable()) session.window->cmdSaveAs.UserClick();
+        } catch (const RunTimeError&) {
+            // What the window could not even start with.
+        }
+        const bool hasFailed = session.world.files.HasFailed();
+        session.world.files.FailNoMore();
+        return hasFailed;
+    };
+    const Files before = SaveWorld().Tree();
+    SaveWorld undisturbed;
+    run(undisturbed, 1 << 20, false);
+    const Files after = undisturbed.Tree();
+    for (const bool programDies : {false, true}) {
+        for (int nth = 1;; ++nth) {
+            SCOPED_TRACE((programDies ? "dies at " : "fails at ") + std::to_string(nth));
+            SaveWorld session;
+            const bool hasFailed = run(session, nth, programDies);
+            const Files now = session.Tree();
+            for (const auto& [file, bytes] : before)
+                EXPECT_TRUE(Holds(now, file, bytes) ||
+                            (now.contains(file) && after.contains(file) &&
+                             Holds(now, file, after.at(file))))
+                    << file;
+            if (!hasFailed) {
+                EXPECT_EQ(now, after);
+                EXPECT_GT(nth, 60) << "a session does more than that";
+                break;
+            }
+            session.OpenAndRecolour();
+            EXPECT_TRUE(session.IsUsable());
+        }
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Ways, FailingSave,
                          testing::Values("SaveAs", "SaveAsApplied", "Save", "SaveOverOwn"),
                          [](const auto& test) { return test.param; });
