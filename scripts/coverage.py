@@ -36,7 +36,7 @@ def main():
     for counters in BUILD.rglob("*.gcda"):
         counters.unlink()
     failed = subprocess.run(["ctest", "--preset", "coverage"], cwd=SOURCE, stdout=sys.stderr).returncode
-    run("gcovr", "--root", ".", "--filter", "src/", "--exclude-throw-branches", "--exclude-unreachable-branches",
+    run("gcovr", "--root", ".", "--filter", "src/", "--exclude", "build/", "--exclude-throw-branches", "--exclude-unreachable-branches",
         "--json-summary", str(BUILD / "summary.json"), "--output", str(BUILD / "lines.txt"), str(BUILD))
     files = json.loads((BUILD / "summary.json").read_text())["files"]
     folders = collections.defaultdict(collections.Counter)
