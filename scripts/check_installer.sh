@@ -18,8 +18,11 @@ rm -rf "$work"
 mkdir "$work"
 
 wine() { scripts/wine.sh "$machine" "$@" </dev/null; }
-registry() { # FILE: the user's settings, without what Wine itself counts up
-    wine reg export 'HKEY_CURRENT_USER\Software' "$work/$1" /y >/dev/null
+# FILE: the user's settings, without Wine's own; the list of installed programs may stay, empty.
+registry() {
+    wine reg export 'HKEY_CURRENT_USER\Software' "$work/export.reg" /y >/dev/null
+    iconv -f UTF-16 -t UTF-8 "$work/export.reg" | tr -d '\r' |
+        awk '/^\[/ { own = /Software\\Wine[\\\]]/ || /CurrentVersion\\Uninstall\]/ } !own && !/^$/' >"$work/$1"
 }
 fail() { echo "$1" >&2; exit 1; }
 # A folder as Windows names it; Wine's output ends in CR LF.
@@ -32,9 +35,18 @@ wine "$home\\$folder\\morpho.exe" --version | grep -q '^morpho [0-9.]' || fail "
 cat >"$work/create.js" <<'JS'
 var colorizer = new ActiveXObject("Morpho.Colorizer");
 colorizer.Hue = 30;
-WScript.Echo("created " + colorizer.Hue);
+colorizer.SourceFile = "C:\\a.gif";
+WScript.Echo("created for " + colorizer.SourceFile);
 JS
-wine cscript //nologo "$work/create.js" | grep -q '^created 30' || fail "A script cannot create the component."
+# Windows looks for classes among those of the user, too; this Wine does not: they are shown to it.
+classes='Software\Classes'
+shown=('Morpho.Colorizer' 'CLSID\{2142EA3D-D6D1-4C75-996B-A6D999AFD65F}')
+for key in "${shown[@]}"; do
+    wine reg copy "HKEY_CURRENT_USER\\$classes\\$key" "HKEY_LOCAL_MACHINE\\$classes\\$key" /s /f >/dev/null ||
+        fail "$key is not registered."
+done
+wine cscript //nologo "Z:${PWD//\//\\}\\${work//\//\\}\\create.js" | grep -q '^created for C:.a.gif' || fail "A script cannot create the component."
+for key in "${shown[@]}"; do wine reg delete "HKEY_LOCAL_MACHINE\\$classes\\$key" /f >/dev/null; done
 for add_in in AddInTM AddInIM; do
     wine reg query "HKEY_CURRENT_USER\\Software\\Microsoft\\Office\\FrontPage\\Addins\\Morpho.$add_in" /v LoadBehavior |
         grep -q 0x3 || fail "$add_in is not registered."
@@ -42,7 +54,6 @@ done
 
 # The uninstaller copies itself and goes on from there, unless it is told where it stands.
 wine "$home\\uninstall.exe" /S "_?=$home" || fail "The uninstaller failed."
-wine cmd /c "del \"$home\\uninstall.exe\" & rmdir \"$home\""
 wine cmd /c "if exist \"$home\" exit 1" || fail "Files are left in $home."
 registry after.reg
 diff "$work/before.reg" "$work/after.reg" || fail "The registry is not as before."

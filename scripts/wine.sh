@@ -8,8 +8,9 @@ tree=$(cd "$(dirname "$0")/.." && pwd -P)
 target=$1
 shift
 
-# Wine's own messages are off, and so are .NET and HTML, which it would offer to download.
-wine=(env WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=)
+# Wine's own messages are off, and so are .NET and HTML, which it would offer to download, and what would put programs into
+# the menus of the person's own desktop.
+wine=(env WINEDEBUG=-all 'WINEDLLOVERRIDES=mscoree,mshtml=;winemenubuilder.exe=d')
 if [ "$target" = x86_64 ]; then exec "${wine[@]}" WINEPREFIX="$windows_cache/prefix" WINEARCH=win64 wine "$@"; fi
 
 # shellcheck disable=SC2016
