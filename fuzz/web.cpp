@@ -43,7 +43,8 @@ void WriteFiles(std::string_view input, const TemporaryFolder& folder) {
         std::filesystem::create_directories(path.parent_path(), refused);
         // An earlier link must not lead this program there.
         const auto parent = std::filesystem::canonical(path.parent_path(), refused);
-        if (refused || parent.native().starts_with(beside.native())) continue;
+        if (!std::filesystem::is_directory(parent) || parent.native().starts_with(beside.native()))
+            continue;
         if (digits == "link") {
             std::filesystem::create_symlink(beside, path, refused);
         } else if (!std::filesystem::is_symlink(path)) {

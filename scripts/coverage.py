@@ -37,7 +37,7 @@ def main():
         counters.unlink()
     failed = subprocess.run(["ctest", "--preset", "coverage"], cwd=SOURCE, stdout=sys.stderr).returncode
     run("gcovr", "--root", ".", "--filter", "src/", "--exclude", "build/", "--exclude-throw-branches", "--exclude-unreachable-branches",
-        "--json-summary", str(BUILD / "summary.json"), "--output", str(BUILD / "lines.txt"), str(BUILD))
+        "--json-summary", str(BUILD / "summary.json"), str(BUILD))
     files = json.loads((BUILD / "summary.json").read_text())["files"]
     folders = collections.defaultdict(collections.Counter)
     for file in files:
