@@ -3,6 +3,7 @@
 #include "windows_system/wide.h"
 #include "windows_toolkit/dpi.h"
 #include "windows_toolkit/form_keys.h"
+#include "windows_toolkit/form_style.h"
 #include "windows_toolkit/peer_factory.h"
 #include "windows_toolkit/window_text.h"
 
@@ -12,49 +13,6 @@ namespace {
 
 // Messages of our own, besides those of the peers.
 constexpr UINT kFirstPaint = WM_APP + 1, kReadBack = WM_APP + 2;
-
-constexpr int kFontPixels = 11;  // at 96 pixels an inch: what the forms are laid out for
-
-DWORD StyleOf(const Form& form) {
-    DWORD style = WS_POPUP | WS_CAPTION | WS_CLIPCHILDREN;
-    if (form.HasCloseButton()) style |= WS_SYSMENU;
-    if (form.Border() == BorderStyle::kSizable)
-        style |= WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX;
-    return style;
-}
-
-// A sizable window is in the task bar, so that it can be minimised although it has an owner.
-DWORD ExtendedStyleOf(const Form& form) {
-    return form.Border() == BorderStyle::kSizable ? WS_EX_APPWINDOW | WS_EX_CONTROLPARENT
-                                                  : WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
-}
-
-WindowState StateOf(HWND window) {
-    if (IsIconic(window)) return WindowState::kMinimized;
-    return IsZoomed(window) ? WindowState::kMaximized : WindowState::kNormal;
-}
-
-int ShowCommandOf(WindowState state) {
-    if (state == WindowState::kMinimized) return SW_SHOWMINIMIZED;
-    return state == WindowState::kMaximized ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL;
-}
-
-MONITORINFO MonitorOf(const RECT& place) {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    GetMonitorInfoW(MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST), &monitor);
-    return monitor;
-}
-
-HFONT FormFont(int dpi) {
-    LOGFONTW font{};
-    font.lfHeight = -MulDiv(kFontPixels, dpi, 96);
-    font.lfWeight = FW_NORMAL;
-    font.lfCharSet = DEFAULT_CHARSET;
-    font.lfQuality = CLEARTYPE_QUALITY;
-    lstrcpynW(font.lfFaceName, L"Tahoma", LF_FACESIZE);
-    return CreateFontIndirectW(&font);
-}
 
 constexpr wchar_t kFormClass[] = L"MorphoForm";
 

@@ -28,11 +28,15 @@ void PeerFactory::MakePeers(const Container& container, HWND window) {
 
 template <typename PeerType, typename ControlType>
 PeerType& PeerFactory::Add(ControlType& control) {
-    auto peer = std::make_unique<PeerType>(control, parent_, context_);
-    PeerType& added = *peer;
+    return Keep(control, std::make_unique<PeerType>(control, parent_, context_));
+}
+
+template <typename PeerType, typename ControlType>
+PeerType& PeerFactory::Keep(ControlType& control, std::unique_ptr<PeerType> peer) {
+    PeerType& kept = *peer;
     peers_.push_back(std::move(peer));
-    control.Attach(&added);
-    return added;
+    control.Attach(&kept);
+    return kept;
 }
 
 void PeerFactory::Visit(Frame& control) {
@@ -85,10 +89,7 @@ void PeerFactory::Visit(WebBrowser& control) {
     Add<WebBrowserPeer>(control);
 }
 void PeerFactory::Visit(Timer& control) {
-    auto peer = std::make_unique<TimerPeer>(control, context_.window);
-    TimerPeer& added = *peer;
-    peers_.push_back(std::move(peer));
-    control.Attach(&added);
+    Keep(control, std::make_unique<TimerPeer>(control, context_.window));
 }
 
 }  // namespace morpho

@@ -37,6 +37,8 @@ class PeerFactory : private ControlVisitor {
 
     template <typename PeerType, typename ControlType>
     PeerType& Add(ControlType& control);
+    template <typename PeerType, typename ControlType>
+    PeerType& Keep(ControlType& control, std::unique_ptr<PeerType> peer);
 
     PeerContext context_;
     HWND parent_ = nullptr;
