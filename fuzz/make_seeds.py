@@ -63,6 +63,8 @@ def texts():
          '@="e"\r\n"f"=dword:0000002a\r\n"g"=hex:01,02,\\\r\n  03\r\n"h"=-\r\n\r\n[-HKEY_CURRENT_USER\\Software\\I]\r\n')
     save("registry", "utf16.reg", ('\ufeffWindows Registry Editor Version 5.00\r\n[HKEY_CURRENT_USER\\X]\r\n"y"="\xfc"\r\n').encode("utf-16-le"))
     save("package", "two.elm", "theme\n2\na.gif,5\nb.css,3\n<==MS-Theme==>12345<==MS-Theme==>abc")
+    sheet = ".mstheme { a: url(../../_themes/b/b.gif); b: url(a.gif) }"
+    save("package", "sheet.elm", f"theme\n2\na.gif,5\nnight.css,{len(sheet)}\n<==MS-Theme==>12345<==MS-Theme==>{sheet}")
     save("package", "outside.elm", "theme\n1\n..\\..\\a.gif,1\n<==MS-Theme==>1")
     save("page", "index.htm", (SAMPLE / "index.htm").read_bytes()[:3000])
     page = ('<html><head><meta content="old 1011, default" name="Microsoft Theme"><!--mstheme--><link href="_themes/old/o.css">'
@@ -85,9 +87,13 @@ def texts():
         "recolor web --theme orrery --select none --select active --hue 40 --apply --undo --redo --export out",
         "recolor web --theme orrery --hue 60 --apply --save-as night --title T --apply-to-web --dry-run",
         "recolor a.jpg b.gif --saturation 40 --quality 85 --output-dir grey",
-        "apply web --theme night --in-place-of orrery",
+        "apply web --theme dusk --in-place-of orrery",
         "image web --page index.htm --select 2",
         "--version",
+        "recolor web --theme orrery --brightness 80 --apply --save",
+        "recolor web --theme orrery --saturation 30 --apply --save-as night --apply-to-web --apply-to-pages",
+        "recolor a.jpg b.gif --hue 90 --in-place",
+        "recolor web --theme dusk --hue 90 --apply --save-as ..\\..\\beside",
     ]):
         save("command", f"line{number}", line.replace(" ", "\n"))
 
@@ -101,7 +107,8 @@ DICTIONARIES = {
     "package": ["<==MS-Theme==>", ".gif,", "..\\\\", "../", "nul", "32767"],
     "page": ["<meta name=", "Microsoft Theme", " 1011, default", "_themes/", "<!--mstheme-->", "href=", "%20", "&amp;", "url("],
     "web": ["_themes/", ".inf", "[info]", "theme.css", "index.htm", "Microsoft Theme", "_vti_pvt/", "\\x0alink\\x0a"],
-    "command": ["list", "recolor", "apply", "image", "theme", "--theme", "--hue", "--apply", "--export", "--save-as", "--json", "--help"],
+    "command": ["list", "recolor", "apply", "image", "theme", "--theme", "--hue", "--apply", "--export", "--save-as", "--save", "--in-place",
+                "--apply-to-web", "--dry-run", "--json", "--help"],
 }
 
 gifs()

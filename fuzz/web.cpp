@@ -7,11 +7,11 @@
 #include <string>
 
 #include "fuzz/fuzz.h"
+#include "fuzz/memory_disk.h"
 #include "linux/disk_file_system.h"
 #include "linux/disk_path.h"
 #include "linux/linux_disk.h"
 #include "platform/run_time_error.h"
-#include "support/temporary_folder.h"
 #include "web_host/disk_application.h"
 
 namespace {
@@ -77,6 +77,7 @@ void Use(DiskApplication& host, const std::string& web, const ThemeStores& store
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    UseMemoryDisk();
     const TemporaryFolder folder;
     folder.Write("beside/page.htm", "<meta name='Microsoft Theme' content='a 1011, default'>");
     folder.Write("beside/beside.inf", "[info]\ntitle=Beside\n");

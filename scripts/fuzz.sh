@@ -29,10 +29,10 @@ for target in "${targets[@]}"; do
     echo "== Fuzzing ($target)"
     long_inputs "$target"
     # 5 seconds for one input of a megabyte: what is not linear does not pass.
-    "build/fuzz/bin/fuzz_$target" -runs=0 -max_len=1000000 -timeout=5 -artifact_prefix="build/found/$target-" "build/long/$target" \
+    "build/fuzz/bin/fuzz_$target" -runs=0 -max_len=1000000 -timeout=5 -artifact_prefix="$PWD/build/found/$target-" "build/long/$target" \
         >"build/found/$target.log" 2>&1 || { tail -30 "build/found/$target.log" >&2; exit 1; }
     "build/fuzz/bin/fuzz_$target" -max_total_time="$seconds" -max_len=1000000 -timeout=5 -rss_limit_mb=3000 -print_final_stats=1 \
-        -dict="fuzz/dictionaries/$target.txt" -artifact_prefix="build/found/$target-" "build/corpus/$target" "fuzz/seeds/$target" \
+        -dict="fuzz/dictionaries/$target.txt" -artifact_prefix="$PWD/build/found/$target-" "build/corpus/$target" "fuzz/seeds/$target" \
         >"build/found/$target.log" 2>&1 || { tail -30 "build/found/$target.log" >&2; exit 1; }
     grep -E 'stat::number_of_executed_units|cov: ' "build/found/$target.log" | tail -2
 done
