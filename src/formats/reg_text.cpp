@@ -99,6 +99,18 @@ bool ReadData(std::string_view text, RegistryValue& value) {
     return true;
 }
 
+// Windows allows 512 levels and no total. Each key brings those above it, so that few bytes of text
+// could ask for much memory; what FrontPage and the editors keep has fewer than 10 levels.
+constexpr std::size_t kMaxKeyPath = 1024;  // bytes
+constexpr std::ptrdiff_t kMaxKeyLevels = 64;
+
+// Whether this may be the path of a key: within the limits, and no name empty.
+bool IsKeyPath(std::string_view path) {
+    return !path.empty() && path.size() <= kMaxKeyPath &&
+           std::count(path.begin(), path.end(), '\\') < kMaxKeyLevels && !path.starts_with('\\') &&
+           !path.ends_with('\\') && path.find("\\\\") == path.npos;
+}
+
 class RegTextReader {
   public:
     RegTextReader(std::string_view text, RegistryData& data) : text_(text), data_(data) {}
@@ -139,8 +151,9 @@ class RegTextReader {
         if (!line.ends_with(']')) return;
         line = line.substr(1, line.size() - 2);
         if (TakeStart(line, "-")) return data_.RemoveKey(line);
+        if (!IsKeyPath(line)) return;
         key_ = line;
-        if (!key_.empty()) data_.Add(key_);
+        data_.Add(key_);
     }
 
     // "name"=data, or @=data for the default value; "name"=- removes it.

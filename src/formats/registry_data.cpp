@@ -17,6 +17,8 @@ const RegistryValue* RegistryData::FindValue(std::string_view path, std::string_
 }
 
 RegistryKey& RegistryData::Add(std::string_view path) {
+    const auto known = keys_.find(Folded(path));
+    if (known != keys_.end()) return known->second;
     for (std::size_t end = path.find('\\'); end != path.npos; end = path.find('\\', end + 1)) {
         const std::string_view parent = path.substr(0, end);
         keys_.try_emplace(Folded(parent), RegistryKey{std::string(parent), {}});
