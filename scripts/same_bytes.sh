@@ -42,7 +42,16 @@ windows_data_of() {
 # A path of the disk as Windows writes it.
 windows_path() { printf 'Z:%s' "${1//\//\\}"; }
 
-# Runs morpho on the platform; "@" at the beginning of an argument is the folder of the run.
+# The same by way of a share. Wine looks for a share in a folder of its prefix.
+share_path() { printf '\\\\morpho\\disk%s' "${1//\//\\}"; }
+make_share() { # platform, prefix
+    # Wine makes no prefix where something is already.
+    scripts/wine.sh "$1" cmd /c exit
+    "${as_root[@]}" mkdir -p "$2/dosdevices/unc/morpho"
+    "${as_root[@]}" ln -sfn / "$2/dosdevices/unc/morpho/disk"
+}
+
+# Runs morpho on the platform; "@" at the beginning of an argument is the folder of the run, "//" the same on a share.
 run() { # platform, argument...
     local platform=$1 folder=$results/$1 arguments=() argument
     shift
@@ -50,6 +59,9 @@ run() { # platform, argument...
         if [[ $argument == @* ]]; then
             argument=$folder${argument#@}
             [ "$platform" = linux ] || argument=$(windows_path "$argument")
+        elif [[ $argument == //* ]]; then
+            argument=$folder${argument#/}
+            [ "$platform" = linux ] || argument=$(share_path "$argument")
         fi
         arguments+=("$argument")
     done
@@ -73,11 +85,15 @@ with_equal_paths() { # platform
     themes=${themes//\//\\}
     # JSON doubles each "\".
     local plain quoted name script=
-    for name in ROOT THEMES; do
-        plain=$([ $name = ROOT ] && echo "$root" || echo "$themes")
+    for name in SHARE ROOT THEMES; do
+        case $name in
+        SHARE) plain=$(share_path "$results/$1") ;;
+        ROOT) plain=$root ;;
+        THEMES) plain=$themes ;;
+        esac
         plain=${plain//\\/\\\\}
         quoted=${plain//\\/\\\\}
-        script+="s|$quoted|$name|g;s|$plain|$name|g;"
+        script+="s|$quoted|${name/SHARE/ROOT}|g;s|$plain|${name/SHARE/ROOT}|g;"
     done
     sed -E -e "$script" -e ':again; s#((ROOT|THEMES)[^"\\]*)\\\\?#\1/#; t again'
 }
@@ -125,6 +141,11 @@ steps() {
     step recolor '@/Сеть ü' --theme almanac --hue 45 --apply --save-as ö --apply-to-web --json
     step list '@/Сеть ü' --theme ö
     step recolor @/web/images/logo.gif @/web/images/dome.jpg --hue 90 --quality 85 --output-dir @/out/pictures --json
+    step list //web
+    step recolor //web --theme orrery --hue 77 --apply --save-as shared --apply-to-web --json
+    step recolor //web --theme shared --hue 7 --apply --export //out/shared --json
+    step recolor //web/images/logo.gif --hue 7 --output //out/logo.gif --json
+    step recolor //web/images/dome.jpg --hue 7 --in-place --json
     step recolor @/web/images/dome.jpg --saturation 20 --output @/out/größe-ночь.jpg
     step recolor @/out/größe-ночь.jpg --brightness 70 --in-place --json
     step recolor @/web/images/logo.gif @/web/none.gif @/web/index.htm --hue 5 --output-dir @/out/pictures --json
@@ -149,6 +170,10 @@ start_afresh() {
     mkdir -p "$results/$platform/printed" "$results/$platform/out"
     for folder in web 'Сеть ü'; do cp -r samples/larkfell "$results/$platform/$folder"; done
     for folder in $(data_of "$platform"); do "${as_root[@]}" rm -rf "$folder"; done
+    case $platform in
+    x86_64) make_share x86_64 "$windows_cache/prefix" ;;
+    i686) make_share i686 "$windows_cache/i386/root/prefix" ;;
+    esac
 }
 
 collect() {

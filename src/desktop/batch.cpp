@@ -10,10 +10,6 @@ namespace morpho {
 
 namespace {
 
-std::filesystem::path Absolute(const std::filesystem::path& web) {
-    return std::filesystem::absolute(web).lexically_normal();
-}
-
 std::optional<std::string> OnlyTheme(const std::string& name) {
     return name.empty() ? std::nullopt : std::optional(name);
 }
@@ -23,7 +19,7 @@ std::optional<std::string> OnlyTheme(const std::string& name) {
 Batch::Batch(DesktopSystem& system, const std::filesystem::path& web, const std::string& onlyTheme)
     : system_(system),
       desktop_(DesktopUse::kBatch, system, system.Folders(), toolkit_, resources_, clipboard_) {
-    desktop_.OpenForReading(Absolute(web), OnlyTheme(onlyTheme));
+    desktop_.OpenForReading(system.AbsolutePath(web), OnlyTheme(onlyTheme));
     component_.application = desktop_.SharedFrontPage();
 }
 
@@ -31,7 +27,7 @@ Batch::Batch(DesktopSystem& system, const std::filesystem::path& web, const std:
              const ProgramFolders& folders)
     : system_(system),
       desktop_(DesktopUse::kBatch, system, folders, toolkit_, resources_, clipboard_) {
-    desktop_.OpenForSaving(Absolute(web), OnlyTheme(onlyTheme));
+    desktop_.OpenForSaving(system.AbsolutePath(web), OnlyTheme(onlyTheme));
     component_.application = desktop_.SharedFrontPage();
 }
 

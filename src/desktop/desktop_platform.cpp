@@ -37,9 +37,9 @@ bool HasCache(const std::string& hostVersion) {
 
 // A folder name that is always the same for the web at this path: its own name, for people, and the
 // path's 64-bit FNV-1a hash.
-std::string NameOfWeb(const std::filesystem::path& web) {
+std::string NameOfWeb(const DesktopSystem& system, const std::filesystem::path& web) {
     std::error_code error;
-    const std::filesystem::path path = std::filesystem::canonical(web, error);
+    const std::filesystem::path path = system.RealPath(web, error);
     char digits[24];
     std::snprintf(digits, sizeof digits, "-%016" PRIx64, Fnv1a(TextOf(error ? web : path)));
     const std::string name = TextOf(web.filename());
@@ -95,7 +95,7 @@ MachineFolders DesktopPlatform::Machine() const {
 }
 
 std::filesystem::path DesktopPlatform::DataOf(const std::filesystem::path& web) const {
-    return folders_.data / "webs" / PathOf(NameOfWeb(web));
+    return folders_.data / "webs" / PathOf(NameOfWeb(system_, web));
 }
 
 void DesktopPlatform::OpenForReading(const std::filesystem::path& folder,

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <system_error>
 
 #include "colorizer_adapter/picture_disk.h"
 #include "platform/environment.h"
@@ -39,6 +40,13 @@ class DesktopSystem : public PictureDisk {
     virtual ProgramFolders Folders() const = 0;
     virtual std::filesystem::path FolderOfProgram() const = 0;
 
+    // Where a path that a person gave leads: absolute, without "." and "..", doubled or trailing
+    // separators. What it names need not exist.
+    virtual std::filesystem::path AbsolutePath(const std::filesystem::path& path) const = 0;
+    // The absolute path, without links, of a file or folder that exists. `error` says why there is
+    // none.
+    virtual std::filesystem::path RealPath(const std::filesystem::path& path,
+                                           std::error_code& error) const = 0;
     // The Windows path, UTF-8, by which the editors call an absolute path of the disk.
     virtual std::string PathInside(const std::filesystem::path& path) const = 0;
 

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "desktop/folder_entries.h"
 #include "desktop/path_text.h"
 #include "text/ignoring_case.h"
 #include "web_host/page_walk.h"
@@ -28,8 +29,11 @@ std::string Replaced(std::string text, const std::string& from, const std::strin
 
 // The web's folder without links; one that cannot be opened is refused as by the save itself.
 fs::path RealFolder(DesktopSystem& system, const fs::path& web) {
-    system.GetDisk().Open(system.PathInside(fs::absolute(web).lexically_normal()));
-    return fs::canonical(web);
+    system.GetDisk().Open(system.PathInside(system.AbsolutePath(web)));
+    std::error_code error;
+    const fs::path folder = system.RealPath(web, error);
+    if (error) throw system.FileError(error, web, "could not be opened");
+    return folder;
 }
 
 // What a save reads and changes in a web: themes, the web's own settings, pages, and what a save
@@ -39,20 +43,6 @@ bool IsForSave(const fs::path& name) {
     const std::string file = TextOf(name.filename());
     return EqualIgnoringCase(top, "_themes") || EqualIgnoringCase(top, "_vti_pvt") ||
            IsPageName(file) || IsTemporaryName(file);
-}
-
-// Folders, each before its contents, and regular files: all that may be read. They are listed
-// before anything is copied, for the copy may lie below the same folder.
-std::vector<fs::directory_entry> EntriesBelow(const fs::path& folder) {
-    std::vector<fs::directory_entry> entries;
-    for (const auto& entry :
-         fs::recursive_directory_iterator(folder, fs::directory_options::skip_permission_denied)) {
-        std::error_code ignored;
-        const fs::file_type type = entry.symlink_status(ignored).type();
-        if (type == fs::file_type::directory || type == fs::file_type::regular)
-            entries.push_back(entry);
-    }
-    return entries;
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "desktop/folder_entries.h"
 #include "desktop/path_text.h"
 #include "desktop/request.h"
 
@@ -26,14 +27,25 @@ std::vector<fs::path> EntriesOf(const fs::path& folder) {
     return {fs::directory_iterator(folder), fs::directory_iterator()};
 }
 
+// fs::copy takes two folders on one drive of Windows for the same one.
+void CopyEntries(const fs::path& source, const fs::path& destination) {
+    for (const fs::directory_entry& entry : EntriesBelow(source)) {
+        const fs::path name = entry.path().lexically_relative(source);
+        if (entry.is_directory())
+            fs::create_directory(destination / name);
+        else
+            fs::copy_file(entry.path(), destination / name);
+    }
+}
+
 }  // namespace
 
-ExportFolder::ExportFolder(const fs::path& folder)
-    : folder_(fs::absolute(folder / ".").lexically_normal().parent_path()) {
+ExportFolder::ExportFolder(const DesktopSystem& system, const fs::path& folder)
+    : folder_(system.AbsolutePath(folder)) {
     std::error_code error;
     const fs::file_status status = fs::status(folder_, error);
     if (fs::is_directory(status)) {
-        folder_ = fs::canonical(folder_, error);
+        folder_ = system.RealPath(folder_, error);
         const bool empty = fs::is_empty(folder_, error);
         if (error) Refuse(TextOf(folder_) + " cannot be looked into: " + error.message() + ".");
         if (!empty) Refuse(TextOf(folder_) + " is not empty.");
@@ -53,7 +65,7 @@ void ExportFolder::Fill(const fs::path& source, std::uint64_t program) const {
     try {
         if (!fs::create_directory(gathering)) Fail(std::errc::file_exists);
         made.push_back(gathering);
-        fs::copy(source, gathering, fs::copy_options::recursive);
+        CopyEntries(source, gathering);
         if (!exists_) return fs::rename(gathering, folder_);
         if (EntriesOf(folder_).size() > 1) Fail(std::errc::directory_not_empty);
         for (const fs::path& entry : EntriesOf(gathering)) {

@@ -4,13 +4,15 @@
 #include <filesystem>
 #include <string>
 
+#include "desktop/desktop_system.h"
+
 namespace morpho {
 
 // The folder that a batch exports to: it gets all files or none.
 class ExportFolder {
   public:
     // Throws CommandError unless `folder` is empty, or missing in a folder that exists.
-    explicit ExportFolder(const std::filesystem::path& folder);
+    ExportFolder(const DesktopSystem& system, const std::filesystem::path& folder);
 
     // Copies the files of `source` there, as a whole; `program` is the number of the running one. A
     // folder that exists stays the same one, with its owner and mode. Throws CommandError, and

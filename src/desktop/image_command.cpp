@@ -37,11 +37,13 @@ void ShowImageWindow(const ImageRequest& request, EditorDesktop& here) {
     here.component.application = here.desktop.SharedFrontPage();
     frmImageMorpho window(here.program);
     if (std::filesystem::is_directory(request.path)) {
-        here.desktop.OpenForSaving(std::filesystem::absolute(request.path).lexically_normal());
+        here.desktop.OpenForSaving(here.system.AbsolutePath(request.path));
         if (!request.page.empty()) ActivatePage(here.desktop.FrontPage(), request);
     } else if (!request.path.empty()) {
-        window.OpenAtStart(
-            {ImageKind::kDisk, here.system.PathInside(std::filesystem::canonical(request.path))});
+        std::error_code error;
+        const auto picture = here.system.RealPath(request.path, error);
+        if (error) throw here.system.FileError(error, request.path, "could not be read");
+        window.OpenAtStart({ImageKind::kDisk, here.system.PathInside(picture)});
     }
     window.ShowModal();
 }

@@ -82,7 +82,7 @@ class PicturesBatch {
     // when it would replace a file that it must not.
     fs::path Recolour(const fs::path& picture) {
         std::error_code error;
-        const fs::path source = fs::canonical(picture, error);
+        const fs::path source = system_.RealPath(picture, error);
         if (error) throw Refusal("There is no such file.");
         if (!fs::is_regular_file(source)) throw Refusal("It is no file with a picture.");
         RequireFormatOfName(source);
@@ -100,10 +100,11 @@ class PicturesBatch {
 
   private:
     fs::path OutputOf(const fs::path& picture) const {
-        const fs::path output =
-            fs::absolute(request_.outputFolder.empty() ? request_.output
-                                                       : request_.outputFolder / picture.filename())
-                .lexically_normal();
+        const fs::path named = request_.outputFolder.empty()
+                                   ? request_.output
+                                   : request_.outputFolder / picture.filename();
+        if (!named.has_filename()) throw Refusal(TextOf(named) + " names no file.");
+        const fs::path output = system_.AbsolutePath(named);
         std::error_code ignored;
         if (fs::is_directory(output, ignored)) throw Refusal(TextOf(output) + " is a folder.");
         if (!request_.force && fs::exists(fs::symlink_status(output, ignored)))

@@ -44,7 +44,7 @@ std::string Printed(const nlohmann::ordered_json& report, const RecolorRequest& 
 
 std::string Export(const RecolorRequest& request, DesktopSystem& system, Screen& screen,
                    std::string& warnings) {
-    const ExportFolder exportFolder(request.outcome.exportFolder);
+    const ExportFolder exportFolder(system, request.outcome.exportFolder);
     Batch batch(system, request.web, request.theme);
     warnings = batch.Warnings();
     BatchWindow& window = TakeSteps(batch, request);

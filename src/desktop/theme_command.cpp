@@ -44,7 +44,7 @@ void TellReports(Toolkit& toolkit, const std::vector<std::string>& reports) {
 
 void ShowThemeWindow(const ThemeRequest& request, EditorDesktop& here) {
     DesktopPlatform& desktop = here.desktop;
-    desktop.OpenForSaving(std::filesystem::absolute(request.web).lexically_normal());
+    desktop.OpenForSaving(here.system.AbsolutePath(request.web));
     if (!request.theme.empty()) RequireTheme(*desktop.FrontPage().Session(), request.theme);
     here.component.application = desktop.SharedFrontPage();
     TellReports(here.toolkit, desktop.FrontPage().Session()->Repairs());

@@ -51,6 +51,14 @@ fs::path LinuxSystem::FolderOfProgram() const {
     return ProgramFolder();
 }
 
+fs::path LinuxSystem::AbsolutePath(const fs::path& path) const {
+    return fs::absolute(path / ".").lexically_normal().parent_path();
+}
+
+fs::path LinuxSystem::RealPath(const fs::path& path, std::error_code& error) const {
+    return fs::canonical(path, error);
+}
+
 std::string LinuxSystem::PathInside(const fs::path& path) const {
     return ToWindowsPath(path.string());
 }

@@ -15,6 +15,9 @@ class LinuxSystem : public DesktopSystem {
 
     ProgramFolders Folders() const override;
     std::filesystem::path FolderOfProgram() const override;
+    std::filesystem::path AbsolutePath(const std::filesystem::path& path) const override;
+    std::filesystem::path RealPath(const std::filesystem::path& path,
+                                   std::error_code& error) const override;
     std::string PathInside(const std::filesystem::path& path) const override;
     std::optional<std::filesystem::path> PathOnDisk(std::string_view inside) const override;
     std::unique_ptr<WorkFolder> MakeWorkFolder(const std::filesystem::path& root) const override;

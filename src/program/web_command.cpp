@@ -36,10 +36,9 @@ class ConnectedAddIns {
     AddInIM image_;
 };
 
-std::string FolderOf(const WebRequest& request, const Platform& platform) {
-    if (!request.web.empty())
-        return std::filesystem::absolute(request.web).lexically_normal().string();
-    const auto webs = RecentWebs(platform);
+std::string FolderOf(const WebRequest& request, EditorDesktop& here) {
+    if (!request.web.empty()) return here.system.AbsolutePath(request.web).string();
+    const auto webs = RecentWebs(here.desktop.Parts());
     return webs.empty() ? std::string() : webs.front();
 }
 
@@ -72,7 +71,7 @@ void OfferTheme(HostWindow& window, DiskApplication& host) {
 
 void ShowWebWindow(const WebRequest& request, QtDesktop& here) {
     DesktopPlatform& desktop = here.editors.desktop;
-    const std::string folder = FolderOf(request, desktop.Parts());
+    const std::string folder = FolderOf(request, here.editors);
     const auto open = [&](const std::string& web) { desktop.OpenForSaving(web); };
     HostWindow window({desktop.FrontPage(), desktop.Parts(), here.toolkit.Pages(), open});
     desktop.FrontPage().SetReporter([&](const std::vector<std::string>& sentences) {

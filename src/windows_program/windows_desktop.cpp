@@ -4,6 +4,7 @@
 #include "windows_program/console.h"
 #include "windows_program/settings_registry.h"
 #include "windows_program/windows_work_folder.h"
+#include "windows_system/full_path.h"
 #include "windows_system/windows_environment.h"
 #include "windows_system/windows_file_system.h"
 // These need the header that all others include first.
@@ -38,6 +39,15 @@ ProgramFolders WindowsDesktop::Folders() const {
 
 fs::path WindowsDesktop::FolderOfProgram() const {
     return PathOf(FolderOfModule());
+}
+
+fs::path WindowsDesktop::AbsolutePath(const fs::path& path) const {
+    return PathOf(ShownPath(FullPathOf(path.native())));
+}
+
+fs::path WindowsDesktop::RealPath(const fs::path& path, std::error_code& error) const {
+    const std::wstring real = PathWithoutLinks(FullPathOf(path.native()), error);
+    return error ? fs::path() : PathOf(ShownPath(real));
 }
 
 std::string WindowsDesktop::PathInside(const fs::path& path) const {

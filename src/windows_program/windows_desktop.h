@@ -15,6 +15,10 @@ class WindowsDesktop : public DesktopSystem {
   public:
     ProgramFolders Folders() const override;
     std::filesystem::path FolderOfProgram() const override;
+    // The C++ library does not know that "\\server\share" is absolute.
+    std::filesystem::path AbsolutePath(const std::filesystem::path& path) const override;
+    std::filesystem::path RealPath(const std::filesystem::path& path,
+                                   std::error_code& error) const override;
     std::string PathInside(const std::filesystem::path& path) const override;
     std::optional<std::filesystem::path> PathOnDisk(std::string_view inside) const override {
         return pictures_.PathOnDisk(inside);

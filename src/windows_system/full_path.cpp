@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "windows_system/file_handle.h"
 #include "windows_system/wide.h"
 #include "windows_system/windows_error.h"
 
@@ -52,6 +53,41 @@ std::wstring FullPath(std::string_view path) {
     const std::wstring clean = Cleaned(wide, root);
     if (root > 2) return std::wstring(kSharePrefix) + clean.substr(2);
     return std::wstring(kPrefix) + clean + (clean.size() == root ? L"\\" : L"");
+}
+
+std::wstring FullPathOf(const std::wstring& given) {
+    const std::wstring path = Wide(ShownPath(given));
+    std::wstring full(::GetFullPathNameW(path.c_str(), 0, nullptr, nullptr), L'\0');
+    const DWORD length = full.empty()
+                             ? 0
+                             : ::GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()),
+                                                  full.data(), nullptr);
+    // Another thread may have changed the current folder meanwhile: then it does not fit.
+    full.resize(length < full.size() ? length : 0);
+    return FullPath(Narrow(full));
+}
+
+std::wstring PathWithoutLinks(const std::wstring& fullPath, std::error_code& error) {
+    const FileHandle file(
+        ::CreateFileW(fullPath.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                      nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    error.clear();
+    if (!file.IsOpen()) {
+        error.assign(static_cast<int>(::GetLastError()), std::system_category());
+        return {};
+    }
+    std::wstring real(::GetFinalPathNameByHandleW(file.Get(), nullptr, 0, 0), L'\0');
+    real.resize(real.empty() ? 0
+                             : ::GetFinalPathNameByHandleW(file.Get(), real.data(),
+                                                           static_cast<DWORD>(real.size()), 0));
+    // Not every file server can tell.
+    return real.empty() ? fullPath : real;
+}
+
+bool IsAbsolutePath(std::string_view path) {
+    std::wstring wide = Wide(path);
+    std::replace(wide.begin(), wide.end(), L'/', L'\\');
+    return RootLength(wide) != 0;
 }
 
 std::string ShownPath(std::wstring_view fullPath) {

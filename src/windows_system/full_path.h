@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace morpho {
 
@@ -9,6 +10,16 @@ namespace morpho {
 // trailing "\", and with the prefix "\\?\", so that they may be long and no name means a device.
 // A path that is not absolute throws RunTimeError (kPathNotFound).
 std::wstring FullPath(std::string_view path);
+
+// The full path of one that a person gave, which may begin at the current folder or drive, or with
+// the prefix. A name of a device, such as "NUL", throws RunTimeError (kPathNotFound).
+std::wstring FullPathOf(const std::wstring& given);
+
+// The full path, without links, of a file or folder that exists. `error` says why there is none.
+std::wstring PathWithoutLinks(const std::wstring& fullPath, std::error_code& error);
+
+// Whether the path begins with a drive and "\", or with a share: "\\server\share".
+bool IsAbsolutePath(std::string_view path);
 
 // The same path without the prefix, UTF-8: for messages.
 std::string ShownPath(std::wstring_view fullPath);

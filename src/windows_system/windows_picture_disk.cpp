@@ -1,6 +1,7 @@
 #include "windows_system/windows_picture_disk.h"
 
 #include "windows_system/picture_files.h"
+#include "windows_system/full_path.h"
 #include "windows_system/wide.h"
 #include "windows_system/windows_error.h"
 
@@ -27,9 +28,8 @@ DWORD SystemNumber(const std::error_code& code, const fs::path& path) {
 }  // namespace
 
 std::optional<fs::path> WindowsPictureDisk::PathOnDisk(std::string_view inside) const {
-    const fs::path path = Wide(inside);
-    if (!path.is_absolute()) return {};
-    return path;
+    if (!IsAbsolutePath(inside)) return {};
+    return Wide(inside);
 }
 
 colorizer::FileHooks WindowsPictureDisk::PictureHooks() const {
