@@ -1,7 +1,7 @@
 #include "windows_system/windows_picture_disk.h"
 
-#include "windows_system/picture_files.h"
 #include "windows_system/full_path.h"
+#include "windows_system/picture_files.h"
 #include "windows_system/wide.h"
 #include "windows_system/windows_error.h"
 
