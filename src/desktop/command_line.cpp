@@ -10,6 +10,9 @@ namespace morpho {
 
 namespace {
 
+// No page has as many; what is larger is a slip of the finger.
+constexpr int kMaxPictureNumber = 1'000'000;
+
 void AddWeb(CLI::App& command, std::filesystem::path& web) {
     AddPath(command, "WEB", web, "Folder of the web")->type_name("")->check(NotEmpty())->required();
 }
@@ -64,7 +67,7 @@ CLI::App* AddImage(CLI::App& app, ImageRequest& image) {
     command
         ->add_option("--select", image.selected, "Picture of the page that is selected: 1, 2, ...")
         ->type_name("N")
-        ->check(NumberFrom(1, 1000000))
+        ->check(NumberFrom(1, kMaxPictureNumber))
         ->needs(page);
     return command;
 }

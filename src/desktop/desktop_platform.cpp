@@ -14,6 +14,9 @@ namespace morpho {
 
 namespace {
 
+// With the hash behind it, far less than the 255 bytes of a folder's name.
+constexpr std::size_t kLongestNameOfWeb = 100;
+
 constexpr int kVersionMajor = MORPHO_VERSION_MAJOR;
 constexpr int kVersionMinor = MORPHO_VERSION_MINOR;
 constexpr int kVersionRevision = MORPHO_VERSION_REVISION;
@@ -43,7 +46,7 @@ std::string NameOfWeb(const DesktopSystem& system, const std::filesystem::path& 
     char digits[24];
     std::snprintf(digits, sizeof digits, "-%016" PRIx64, Fnv1a(TextOf(error ? web : path)));
     const std::string name = TextOf(web.filename());
-    std::size_t length = std::min<std::size_t>(name.size(), 100);
+    std::size_t length = std::min(name.size(), kLongestNameOfWeb);
     while (length < name.size() && (name[length] & 0xC0) == 0x80)
         --length;  // no character is cut
     return name.substr(0, length) + digits;

@@ -51,8 +51,10 @@ PackageIndex ReadPackageIndex(const CodePage& codePage, std::string_view bytes) 
     PackageIndex index;
     index.header = TakeLine(bytes);
     index.countLine = TakeLine(bytes);
-    const auto count = NumberIn<std::int16_t>(index.countLine);
+    const auto count = NumberIn<std::int64_t>(index.countLine);
     if (!count || *count < 0) RefusePackage("does not say how many members it has");
+    if (*count > kMaxPackageMembers)
+        RefusePackage("has more than " + std::to_string(kMaxPackageMembers) + " members");
     std::set<std::string> known;
     for (int i = 0; i < *count; ++i)
         AddMember(codePage, TakeLine(bytes), known, index);

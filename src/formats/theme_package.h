@@ -34,8 +34,12 @@ struct PackageIndex {
 
 // What stands before the bytes of each member.
 inline constexpr std::string_view kPackageMarker = "<==MS-Theme==>";
-// An index has at most 32767 lines of at most 300 bytes.
-inline constexpr std::size_t kMaxPackageIndexBytes = 10 * 1024 * 1024;
+// FrontPage reads the number of members as a 16-bit integer.
+inline constexpr int kMaxPackageMembers = 32767;
+// A line of an index holds a name of at most 255 bytes and a length; two more lines stand above.
+inline constexpr std::size_t kMaxPackageIndexLine = 300;
+inline constexpr std::size_t kMaxPackageIndexBytes =
+    (kMaxPackageMembers + 2) * kMaxPackageIndexLine;
 
 // The index of the package in `bytes`, which must outlive it. An index that contradicts itself, or
 // that names a member by anything but a plain file name or twice (also in another letter case),

@@ -11,6 +11,7 @@
 #include "linux/file_error.h"
 #include "linux/linux_disk.h"
 #include "linux/whole_file.h"
+#include "web_host/limits.h"
 
 namespace morpho {
 
@@ -64,7 +65,7 @@ Descriptor OpenLockFile(const DiskFolder& folder, const std::string& name) {
 }
 
 std::string FirstLine(const Descriptor& file) {
-    char text[100];
+    char text[kMaxHolderBytes];
     const ssize_t count = ::pread(file.Number(), text, sizeof text, 0);
     std::string line(text, static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
     line.resize(std::min(line.find('\n'), line.size()));

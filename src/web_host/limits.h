@@ -14,6 +14,11 @@ inline constexpr std::uint64_t kMegabyte = 1024 * 1024;
 inline constexpr std::uint64_t kMaxThemeFileBytes = 32 * kMegabyte;
 inline constexpr std::uint64_t kMaxThemeBytes = 64 * kMegabyte;
 inline constexpr std::uint64_t kMaxPackageBytes = kMaxThemeBytes + kMaxPackageIndexBytes;
+// What a lock's file says of the program that holds it: one short line.
+inline constexpr std::size_t kMaxHolderBytes = 100;
+// Folders inside folders. FrontPage's addresses have at most 260 characters, so 130 folders; each
+// is reached anew from the top.
+inline constexpr std::size_t kMaxDepth = 130;
 // A page that gets another theme. It is held in memory several times over.
 inline constexpr std::uint64_t kMaxPageBytes = 16 * kMegabyte;
 // Any other file of a web that is read whole.

@@ -16,7 +16,6 @@ namespace morpho {
 namespace {
 
 constexpr std::string_view kHeader = "Morpho theme package 1";
-constexpr std::size_t kMaxMembers = 32767;
 
 // Whether a package can hold a file of this name: whether it comes back from one.
 bool IsPackable(const std::string& name) {
@@ -132,7 +131,8 @@ void PackTheme(const Folder& theme, const std::string& descriptionName,
                const std::vector<PackedFile>& files, const std::string& name, Folder& installed) {
     std::vector<PackedFile> packed;
     for (const PackedFile& file : files) {
-        if (file.name != descriptionName && IsPackable(file.name) && packed.size() < kMaxMembers)
+        if (file.name != descriptionName && IsPackable(file.name) &&
+            packed.size() < kMaxPackageMembers)
             packed.push_back(file);
     }
     if (!HoldsPackage(installed, name + ".elm", theme, packed)) {

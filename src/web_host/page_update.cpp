@@ -16,7 +16,7 @@ namespace {
 // Pages are written in groups: several in parallel, without holding a whole web in memory, or more
 // folders open than a program may have.
 constexpr std::size_t kMaxGroup = 256;
-constexpr std::size_t kMaxGroupBytes = 16UL * 1024 * 1024;
+constexpr std::size_t kMaxGroupBytes = 16 * kMegabyte;
 
 }  // namespace
 

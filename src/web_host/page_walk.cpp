@@ -4,6 +4,7 @@
 #include <array>
 
 #include "text/ignoring_case.h"
+#include "web_host/limits.h"
 
 namespace morpho {
 
@@ -54,6 +55,10 @@ void VisitPageFolders(
             visit(folder, url, entries);
             for (const FolderEntry& entry : entries) {
                 if (!HasPages(entry)) continue;
+                if (names.size() >= kMaxDepth)
+                    throw EntryError(
+                        ErrorNumber::kPathFileAccess, *folder, entry.name, "was left out",
+                        "a web's folders may be " + std::to_string(kMaxDepth) + " deep");
                 pending.push_back(names);
                 pending.back().push_back(entry.name);
             }

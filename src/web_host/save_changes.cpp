@@ -36,11 +36,14 @@ void RemoveTemporaryFiles(Folder& folder, std::uint64_t program) {
 }  // namespace
 
 std::string DigestOf(const Folder& folder, const std::string& name) {
-    for (const FolderEntry& entry : folder.Entries()) {
-        if (entry.name == name && entry.kind == EntryKind::kFile)
-            return Digest(ReadWholeFile(folder, name, kMaxFileBytes));
+    try {
+        return Digest(ReadWholeFile(folder, name, kMaxFileBytes));
+    } catch (const RunTimeError& error) {
+        if (error.Number() == ErrorNumber::kFileNotFound) return {};
+        const auto entry = folder.Find(name);
+        if (entry && entry->kind != EntryKind::kFile) return {};
+        throw;
     }
-    return {};
 }
 
 std::unique_ptr<Folder> SaveChanges::ThemeFolder(const std::string& theme) const {

@@ -4,6 +4,7 @@
 
 #include "formats/web_text.h"
 #include "text/ignoring_case.h"
+#include "web_host/limits.h"
 
 namespace morpho {
 
@@ -119,7 +120,7 @@ std::string ReadWholeFile(const Folder& folder, std::string_view name, std::uint
     const auto file = folder.OpenFile(name);
     if (file->Size() > maxBytes)
         throw EntryError(ErrorNumber::kPathFileAccess, folder, name, "was left out",
-                         "it is larger than " + std::to_string(maxBytes / (1024 * 1024)) + " MB");
+                         "it is larger than " + std::to_string(maxBytes / kMegabyte) + " MB");
     return file->Read(0, file->Size());
 }
 

@@ -2,7 +2,7 @@
 
 #include "text/digest.h"
 #include "text/ignoring_case.h"
-#include "web_host/limits.h"
+#include "web_host/entry_index.h"
 #include "web_host/page_update.h"
 #include "web_host/save_repair.h"
 #include "web_host/theme_of_web.h"
@@ -22,14 +22,6 @@ std::string SpelledName(const WebFiles& web, const std::string& name) {
     const auto themes = web.FindFolder({std::string(kThemesFolder)});
     const auto entry = themes ? themes->Find(name) : std::nullopt;
     return entry ? entry->name : name;
-}
-
-// Refuses, before anything is written, a place where a file cannot stand.
-void RequireFile(const Folder& folder, const std::optional<FolderEntry>& entry,
-                 const std::string& name) {
-    if (entry && entry->kind != EntryKind::kFile)
-        throw EntryError(ErrorNumber::kPathFileAccess, folder, name, "could not be written",
-                         "something stands there that is no file");
 }
 
 }  // namespace
@@ -116,12 +108,11 @@ void WebSaveTransaction::DropTheme() {
 }
 
 std::optional<SaveRecord::ThemeFile> WebSaveTransaction::PlannedChange(
-    const Folder& folder, const std::string& theme, const std::string& name,
+    const EntryIndex& entries, const std::string& theme, const std::string& name,
     const std::string& bytes) const {
-    const auto entry = folder.Find(name);
-    RequireFile(folder, entry, name);
+    const auto entry = entries.FindFile(name);
     SaveRecord::ThemeFile file{theme, entry ? entry->name : name, {}, {}, {}, Digest(bytes)};
-    if (entry) file.digestBefore = DigestOf(folder, entry->name);
+    if (entry) file.digestBefore = DigestOf(entries.Of(), entry->name);
     if (file.digestBefore == file.digestAfter) return {};
     file.temporaryName = NewTemporaryName(record_.program);
     if (entry) file.earlierName = NewTemporaryName(record_.program);
@@ -139,7 +130,7 @@ void WebSaveTransaction::WriteTemporary(Folder& folder, const SaveRecord::ThemeF
 void WebSaveTransaction::ReplaceThemeFile(const std::string& theme, const std::string& name,
                                           const std::string& bytes) {
     const auto folder = web_.Files().OpenFolder({std::string(kThemesFolder), theme});
-    const auto file = PlannedChange(*folder, theme, name, bytes);
+    const auto file = PlannedChange(EntryIndex(*folder), theme, name, bytes);
     if (!file) return;
     record_.files.push_back(*file);
     WriteRecord(Durability::kUnflushed);
@@ -148,9 +139,10 @@ void WebSaveTransaction::ReplaceThemeFile(const std::string& theme, const std::s
 
 void WebSaveTransaction::ReplaceWithPacked(const PackedTheme& packed, const std::string& theme,
                                            Folder& folder) {
+    const EntryIndex entries(folder);
     std::vector<std::pair<std::size_t, SaveRecord::ThemeFile>> planned;
     for (std::size_t i = 0; i < packed.FileCount(); ++i) {
-        if (auto file = PlannedChange(folder, theme, packed.FileName(i), packed.FileBytes(i)))
+        if (auto file = PlannedChange(entries, theme, packed.FileName(i), packed.FileBytes(i)))
             planned.emplace_back(i, std::move(*file));
     }
     for (const auto& [index, file] : planned)
@@ -161,10 +153,10 @@ void WebSaveTransaction::ReplaceWithPacked(const PackedTheme& packed, const std:
 }
 
 void WebSaveTransaction::FillWithPacked(const PackedTheme& packed, Folder& folder) {
+    const EntryIndex entries(folder);
     for (std::size_t i = 0; i < packed.FileCount(); ++i) {
         const std::string name = packed.FileName(i);
-        const auto entry = folder.Find(name);
-        RequireFile(folder, entry, name);
+        const auto entry = entries.FindFile(name);
         const std::string bytes = packed.FileBytes(i);
         if (entry && DigestOf(folder, entry->name) == Digest(bytes)) continue;
         WriteWholeFile(folder, entry ? entry->name : name, bytes, Durability::kUnflushed);
@@ -297,8 +289,9 @@ bool ReplacesThemeOfWeb(const WebSession& web, const std::string& name) {
     const auto folder = web.Files().FindFolder({std::string(kThemesFolder), name});
     const auto packed = folder ? FindPacked(web, web.Options().stores.ofUser, name) : std::nullopt;
     if (!packed) return false;
+    const EntryIndex entries(*folder);
     for (std::size_t i = 0; i < packed->FileCount(); ++i) {
-        const auto entry = folder->Find(packed->FileName(i));
+        const auto entry = entries.Find(packed->FileName(i));
         if (entry && entry->kind == EntryKind::kFile &&
             DigestOf(*folder, entry->name) != Digest(packed->FileBytes(i)))
             return true;

@@ -14,6 +14,8 @@
 
 namespace morpho {
 
+class EntryIndex;
+
 // A save of a theme in a web folder. From the beginning to the end it holds the locks of the web
 // and of the user's themes, so that one program at a time saves there. What it changes in the web
 // waits under temporary names:
@@ -64,7 +66,7 @@ class WebSaveTransaction : public SaveTransaction {
     void ProtectUserTheme();
     void WriteRecord(Durability durability) { journal_.Write(record_, durability); }
     // How a file of a theme in the web changes; nothing when it holds these bytes already.
-    std::optional<SaveRecord::ThemeFile> PlannedChange(const Folder& folder,
+    std::optional<SaveRecord::ThemeFile> PlannedChange(const EntryIndex& entries,
                                                        const std::string& theme,
                                                        const std::string& name,
                                                        const std::string& bytes) const;

@@ -1,5 +1,6 @@
 #include "windows_system/lock_file.h"
 
+#include "web_host/limits.h"
 #include "windows_system/disk_calls.h"
 #include "windows_system/full_path.h"
 #include "windows_system/windows_disk.h"
@@ -9,7 +10,6 @@ namespace morpho {
 
 namespace {
 
-constexpr std::size_t kLongestLine = 100;
 constexpr std::string_view kFailure = "could not be locked";
 
 // The file is open, with nobody else allowed to write: that is the lock. The system deletes it when
@@ -27,7 +27,7 @@ class LockFile : public FolderLock {
 std::string FirstLine(const std::wstring& path) {
     std::string line;
     try {
-        line = ReadFrom(OpenToRead(path, Links::kRefused), 0, kLongestLine, path);
+        line = ReadFrom(OpenToRead(path, Links::kRefused), 0, kMaxHolderBytes, path);
     } catch (const RunTimeError&) {
         // The lock has gone meanwhile; it was held all the same.
         line.clear();

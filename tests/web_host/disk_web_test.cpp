@@ -7,6 +7,7 @@
 #include "support/temporary_folder.h"
 #include "support/this_computer.h"
 #include "web_host/disk_explorer.h"
+#include "web_host/limits.h"
 #include "web_host/theme_of_page.h"
 
 namespace morpho {
@@ -339,6 +340,22 @@ TEST_F(DiskWebTest, PagesThatCannotBeWrittenAreReportedAndTheRestGoesOn) {
     ASSERT_EQ(Reports().size(), 1U);
     EXPECT_NE(Reports()[0].find("\"index.htm\" keeps its theme"), std::string::npos);
     EXPECT_EQ(log_, Reports()[0] + "\n");
+}
+
+TEST_F(DiskWebTest, WhatIsNestedTooDeeplyIsToldAndLeftOut) {
+    if (test::kIsWindows) return;  // its paths are not that long
+    std::string deep = "web/";
+    for (std::size_t depth = 0; depth <= kMaxDepth; ++depth)
+        deep += "d/";
+    const std::string top = deep.substr(0, deep.size() - 2);
+    for (const std::string& folder : {top, deep})
+        folder_.Write(folder + "page.htm", Page("old"));
+    InstallNew();
+    Apply("new");
+    EXPECT_NE(folder_.Read(top + "page.htm"), Page("old"));
+    EXPECT_EQ(folder_.Read(deep + "page.htm"), Page("old"));
+    ASSERT_FALSE(Reports().empty());
+    EXPECT_NE(Reports()[0].find("130 deep"), std::string::npos);
 }
 
 TEST_F(DiskWebTest, PagesThatNameTheirThemeAreCountedAndChangeInPlaceOfIt) {
