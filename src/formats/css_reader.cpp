@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "formats/css_tokenizer.h"
+#include "text/ascii.h"
 #include "text/ignoring_case.h"
 
 namespace morpho {
@@ -43,33 +44,53 @@ class OpenBrackets {
     std::vector<CssTokenType> closers_;
 };
 
-// Collects the text of tokens without comments. A comment between two tokens leaves a blank, so
-// that they stay two.
+// Whether two tokens without anything between them are read as the same two. Not all such pairs.
+bool StayTwo(char end, char begin) {
+    constexpr std::string_view kNeverJoins = ")[]{}:;,>\"'";
+    return end == '(' || kNeverJoins.find(end) != kNeverJoins.npos ||
+           kNeverJoins.find(begin) != kNeverJoins.npos ||
+           (!IsDigit(end) && (begin == '.' || begin == '#'));
+}
+
+// Collects the text of tokens without comments. Where two tokens could become one without the
+// comment between them, an empty one stays in a selector, in which a blank has a meaning, and a
+// blank in a value.
 class TokenText {
   public:
-    explicit TokenText(bool collapsesBlanks) : collapsesBlanks_(collapsesBlanks) {}
+    enum class Kind { kSelector, kValue };
+    explicit TokenText(Kind kind) : kind_(kind) {}
 
     void Add(const CssToken& token) {
         if (token.type == CssTokenType::kComment) {
-            if (blanks_.empty()) blanks_ = " ";
+            hasComment_ = true;
         } else if (token.type == CssTokenType::kWhitespace) {
-            blanks_ = collapsesBlanks_ ? " " : token.text;
+            blanks_ = kind_ == Kind::kSelector ? " " : token.text;
         } else {
-            if (!text_.empty()) text_ += blanks_;
-            blanks_ = {};
+            if (!text_.empty()) text_ += Between(token);
             text_ += token.text;
+            blanks_ = {};
+            hasComment_ = false;
         }
     }
 
     std::string Take() {
         blanks_ = {};
+        hasComment_ = false;
         return std::exchange(text_, {});
     }
 
   private:
-    bool collapsesBlanks_;
+    std::string_view Between(const CssToken& next) const {
+        if (!blanks_.empty() || !hasComment_ || StayTwo(text_.back(), next.text.front()))
+            return blanks_;
+        return kind_ == Kind::kSelector ? "/**/" : " ";
+    }
+
+    Kind kind_;
     std::string text_;
-    std::string_view blanks_;  // seen since the last token that counts
+    // Seen since the last token that counts.
+    std::string_view blanks_;
+    bool hasComment_ = false;
 };
 
 class CssReader {
@@ -97,6 +118,11 @@ class CssReader {
         return token_.type == CssTokenType::kWhitespace || token_.type == CssTokenType::kComment;
     }
 
+    // No selector and no value may hold it.
+    bool IsBroken() const {
+        return token_.type == CssTokenType::kBadString || token_.type == CssTokenType::kBadUrl;
+    }
+
     // Up to and with its ";" or its block. A "}" that ends the block it stands in is left.
     void SkipAtRule() {
         OpenBrackets open;
@@ -113,17 +139,19 @@ class CssReader {
 
     void ReadRule(std::vector<CssRule>& rules) {
         OpenBrackets open;
-        TokenText selector(true);
+        TokenText selector(TokenText::Kind::kSelector);
+        bool good = true;
         while (!open.None() || token_.type != CssTokenType::kOpenBrace) {
             if (token_.type == CssTokenType::kEnd) return;
             open.Take(token_.type);
+            good = good && !IsBroken();
             selector.Add(token_);
             Advance();
         }
         Advance();
         CssRule rule{selector.Take(), {}};
         ReadBlock(rule.declarations);
-        if (!rule.selector.empty()) rules.push_back(std::move(rule));
+        if (good && !rule.selector.empty()) rules.push_back(std::move(rule));
     }
 
     // The declarations up to and with the "}".
@@ -163,14 +191,12 @@ class CssReader {
     bool ReadValue(std::string& value) {
         bool good = true;
         OpenBrackets open;
-        TokenText text(false);
+        TokenText text(TokenText::Kind::kValue);
         for (; token_.type != CssTokenType::kEnd; Advance()) {
             const bool ends =
                 token_.type == CssTokenType::kSemicolon || token_.type == CssTokenType::kCloseBrace;
             if (ends && open.None()) break;
-            const bool bad =
-                token_.type == CssTokenType::kBadString || token_.type == CssTokenType::kBadUrl;
-            good = open.Take(token_.type) && !bad && good;
+            good = open.Take(token_.type) && !IsBroken() && good;
             text.Add(token_);
         }
         value = text.Take();

@@ -13,7 +13,7 @@ struct CssDeclaration {
 };
 
 struct CssRule {
-    std::string selector;  // without comments, runs of blanks made one
+    std::string selector;  // runs of blanks made one; of comments at most "/**/" in "a/**/b"
     std::vector<CssDeclaration> declarations;
 
     // The value of the last declaration of this property, compared without regard to case.

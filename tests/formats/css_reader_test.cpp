@@ -41,9 +41,9 @@ TEST(CssReader, KeepsValuesAsWritten) {
 
 TEST(CssReader, WritesSelectorsOnOneLine) {
     ExpectRules("  .a\r\n\t .b ,\n.c{}", ".a .b , .c{}");
-    ExpectRules("/*1*/a/**/b/*2*/{}", "a b{}");
+    ExpectRules("/*1*/a/*2*/b/*3*/{} .c/**/.d/**/ e{}", "a/**/b{} .c.d e{}");
     ExpectRules("a[href='x{y}']:not({}){}", "a[href='x{y}']:not({}){}");
-    ExpectRules("{x:y} b{}", "b{}");
+    ExpectRules("{x:y} b{} c'd\n{x:y} e{}", "b{} e{}");
 }
 
 TEST(CssReader, PassesOverCommentsAndAtRules) {
