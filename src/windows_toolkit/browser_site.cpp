@@ -1,6 +1,16 @@
 #include "windows_toolkit/browser_site.h"
 
+#include <mshtmdid.h>
+
 namespace morpho {
+
+namespace {
+
+constexpr DWORD kPagesMay = DLCTL_DLIMAGES | DLCTL_NO_SCRIPTS | DLCTL_NO_JAVA |
+                            DLCTL_NO_RUNACTIVEXCTLS | DLCTL_NO_DLACTIVEXCTLS | DLCTL_NO_BEHAVIORS |
+                            DLCTL_NO_CLIENTPULL | DLCTL_FORCEOFFLINE | DLCTL_SILENT;
+
+}  // namespace
 
 // Two of the interfaces are derived from others that the browser asks for.
 void* BrowserSite::FindInterface(REFIID iid) {
@@ -17,6 +27,20 @@ HRESULT BrowserSite::GetMoniker(DWORD, DWORD, IMoniker** moniker) {
 HRESULT BrowserSite::GetContainer(IOleContainer** container) {
     if (container != nullptr) *container = nullptr;
     return E_NOINTERFACE;
+}
+
+HRESULT BrowserSite::GetTypeInfoCount(UINT* count) {
+    if (count == nullptr) return E_POINTER;
+    *count = 0;
+    return S_OK;
+}
+
+HRESULT BrowserSite::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
+                            UINT*) {
+    if (id != DISPID_AMBIENT_DLCONTROL || result == nullptr) return DISP_E_MEMBERNOTFOUND;
+    result->vt = VT_I4;
+    result->lVal = static_cast<LONG>(kPagesMay);
+    return S_OK;
 }
 
 HRESULT BrowserSite::GetWindow(HWND* window) {

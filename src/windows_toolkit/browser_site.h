@@ -5,8 +5,9 @@
 namespace morpho {
 
 // The place of an embedded browser in a window: what the browser asks its container for. It shows
-// no menus, tools or border of its own.
-class BrowserSite : public ComObject<IOleClientSite, IOleInPlaceSite, IOleInPlaceFrame> {
+// no menus, tools or border of its own. Its pages are made of strangers' themes: they get pictures,
+// but run nothing and fetch nothing from a network.
+class BrowserSite : public ComObject<IOleClientSite, IOleInPlaceSite, IOleInPlaceFrame, IDispatch> {
   public:
     explicit BrowserSite(HWND window) : window_(window) {}
 
@@ -51,6 +52,15 @@ class BrowserSite : public ComObject<IOleClientSite, IOleInPlaceSite, IOleInPlac
     HRESULT STDMETHODCALLTYPE SetStatusText(LPCOLESTR) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE EnableModeless(BOOL) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE TranslateAccelerator(MSG*, WORD) override { return E_NOTIMPL; }
+
+    // IDispatch, for properties that are known by their number
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
+        return DISP_E_UNKNOWNNAME;
+    }
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result,
+                                     EXCEPINFO*, UINT*) override;
 
   protected:
     void* FindInterface(REFIID iid) override;

@@ -9,6 +9,8 @@
 #include "windows_toolkit/web_browser_peer.h"
 #include "windows_toolkit/windows_screen.h"
 
+#include <mshtmdid.h>
+
 namespace morpho::test {
 namespace {
 
@@ -202,6 +204,14 @@ TEST_F(OnWindows, ABrowserIsToldWhereToGo) {
         long width = 0;
         browser->get_Width(&width);
         EXPECT_EQ(width, 200);
+        ComPointer<IOleClientSite> site;
+        browser.As<IOleObject>()->GetClientSite(site.Out());
+        VARIANT may{};
+        DISPPARAMS none{};
+        site.As<IDispatch>()->Invoke(DISPID_AMBIENT_DLCONTROL, IID_NULL, 0, DISPATCH_PROPERTYGET,
+                                     &none, &may, nullptr, nullptr);
+        EXPECT_EQ(may.lVal & (DLCTL_DLIMAGES | DLCTL_NO_SCRIPTS), DLCTL_DLIMAGES | DLCTL_NO_SCRIPTS)
+            << "A page must show pictures and run no script.";
     });
 }
 
