@@ -4,19 +4,12 @@
 
 #include "desktop/batch.h"
 #include "desktop/theme_report.h"
-#include "text/ascii.h"
 #include "text/ignoring_case.h"
+#include "text/printable.h"
 
 namespace morpho {
 
 namespace {
-
-// Names come from files of strangers: characters that control a terminal are left out.
-std::string Printable(const std::string& text) {
-    std::string printable = text;
-    std::replace_if(printable.begin(), printable.end(), IsControl, '?');
-    return printable;
-}
 
 // Characters of a UTF-8 text.
 std::size_t Length(const std::string& text) {
@@ -25,7 +18,8 @@ std::size_t Length(const std::string& text) {
 }
 
 std::string Padded(const std::string& text, std::size_t width) {
-    return Printable(text) + std::string(width > Length(text) ? width - Length(text) : 0, ' ');
+    const std::string printed = Printable(text, LineEnds::kReplaced);
+    return printed + std::string(width > Length(printed) ? width - Length(printed) : 0, ' ');
 }
 
 std::string ThemesText(const std::vector<Theme>& themes) {
@@ -34,7 +28,8 @@ std::string ThemesText(const std::vector<Theme>& themes) {
         width = std::max(width, Length(theme.name));
     std::string text;
     for (const Theme& theme : themes)
-        text += Padded(theme.name, width) + "  " + Printable(theme.label) + "\n";
+        text +=
+            Padded(theme.name, width) + "  " + Printable(theme.label, LineEnds::kReplaced) + "\n";
     return text;
 }
 

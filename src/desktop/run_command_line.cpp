@@ -9,6 +9,7 @@
 #include "desktop/list_command.h"
 #include "desktop/pictures_command.h"
 #include "desktop/recolor_command.h"
+#include "text/printable.h"
 
 namespace morpho {
 
@@ -58,8 +59,9 @@ int RunCommandLine(int argc, const char* const* argv, DesktopSystem& system, Scr
         failure = error.what();
         status = static_cast<int>(kRefused);
     }
-    std::cerr << warnings;
-    if (status != 0) std::cerr << "morpho: " << failure << "\n";
+    // Names of files of strangers are in them.
+    std::cerr << Printable(warnings, LineEnds::kKept);
+    if (status != 0) std::cerr << "morpho: " << Printable(failure, LineEnds::kKept) << "\n";
     return status;
 }
 

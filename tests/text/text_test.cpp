@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "text/ignoring_case.h"
+#include "text/printable.h"
 #include "text/utf8.h"
 #include "text/windows_1252.h"
 
@@ -56,6 +57,11 @@ TEST(IgnoringCase, NamesAreFoldedAsUnicodeSays) {
         EXPECT_FALSE(EqualIgnoringCase(a, b)) << a;
         EXPECT_NE(Folded(a), Folded(b));
     }
+}
+
+TEST(Printable, ControlsNoTerminal) {
+    EXPECT_EQ(Printable("a\x1B[2J\x7F\u009B1m\r\nÂé\xC2", LineEnds::kKept), "a?[2J??1m?\nÂé\xC2");
+    EXPECT_EQ(Printable("a\n", LineEnds::kReplaced), "a?");
 }
 
 TEST(IgnoringCase, MarkupKeepsItsPositions) {
