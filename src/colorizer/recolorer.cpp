@@ -16,7 +16,7 @@ using Bytes = std::vector<std::uint8_t>;
 using Picture = std::variant<std::monostate, Bytes, JpegPicture>;
 
 void CheckQuality(std::optional<int> quality) {
-    if (quality && (*quality < 1 || *quality > 100))
+    if (quality && (*quality < kLeastQuality || *quality > kMostQuality))
         throw Error("The JPEG quality must lie between 1 and 100.");
 }
 

@@ -37,7 +37,10 @@ struct Adjustment {
     bool IsNeutral() const;
 };
 
+/// The largest factor. Beyond it nearly every colour would be at the end of its range.
 inline constexpr double kMaxFactor = 4;
+/// JPEG qualities as libjpeg counts them.
+inline constexpr int kLeastQuality = 1, kMostQuality = 100;
 /// Files longer than this are refused. A whole file is held in memory.
 inline constexpr std::uintmax_t kMaxFileBytes = std::uintmax_t{1} << 29;
 /// JPEG pictures with more pixels are refused, and so are files too short to hold the pixels they

@@ -5,6 +5,7 @@
 #include <array>
 #include <sstream>
 
+#include "colorizer/recolorer.h"
 #include "desktop/option_checks.h"
 #include "editing/adjustment_sliders.h"
 #include "text/ignoring_case.h"
@@ -213,7 +214,7 @@ void RecolorOptions::AddSteps() {
               "Saturation in percent; 100 is neutral");
     AddNumber("--hue", Step::Kind::kHue, hue.minimum, hue.maximum,
               "Hue shift in degrees; 0 is neutral, 120 carries red towards green");
-    AddNumber("--quality", Step::Kind::kQuality, 1, 100,
+    AddNumber("--quality", Step::Kind::kQuality, colorizer::kLeastQuality, colorizer::kMostQuality,
               "JPEG quality from here on; 75 if never given");
     AddPlain("--apply", Step::Kind::kApply, "Apply the sliders to the selected elements");
     AddPlain("--undo", Step::Kind::kUndo, "Undo the last step");

@@ -30,7 +30,7 @@ void SelectTheme(frmThemeMorpho& window, const std::string& name) {
 
 // Tells what happened to single pages of the web, the first of them by name.
 void TellReports(Toolkit& toolkit, const std::vector<std::string>& reports) {
-    constexpr std::size_t kMaxTold = 8;
+    constexpr std::size_t kMaxTold = 8;  // a message of more lines may not fit on a screen
     if (reports.empty()) return;
     std::string text;
     for (std::size_t i = 0; i < std::min(reports.size(), kMaxTold); ++i)

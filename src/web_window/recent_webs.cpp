@@ -7,7 +7,7 @@ namespace morpho {
 
 namespace {
 
-constexpr std::size_t kMaxWebs = 8;
+constexpr std::size_t kMaxWebs = 8;  // more would be looked for, not seen
 constexpr std::string_view kApplication = "Morpho";
 constexpr std::string_view kSection = "Recent Webs";
 

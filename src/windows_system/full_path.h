@@ -11,6 +11,9 @@ namespace morpho {
 // A path that is not absolute throws RunTimeError (kPathNotFound).
 std::wstring FullPath(std::string_view path);
 
+// A path has at most 32767 characters; a zero stands behind.
+inline constexpr std::size_t kMaxPathCharacters = 32768;
+
 // The full path of one that a person gave, which may begin at the current folder or drive, or with
 // the prefix. A name of a device, such as "NUL", throws RunTimeError (kPathNotFound).
 std::wstring FullPathOf(const std::wstring& given);

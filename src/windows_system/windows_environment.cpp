@@ -58,8 +58,7 @@ std::string PathOfModule() {
     ::GetModuleHandleExW(
         GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
         reinterpret_cast<LPCWSTR>(&PathOfModule), &module);
-    constexpr std::size_t kLongestPath = 32768;
-    std::wstring path(kLongestPath, L'\0');
+    std::wstring path(kMaxPathCharacters, L'\0');
     path.resize(::GetModuleFileNameW(module, path.data(), static_cast<DWORD>(path.size())));
     return ShownPath(path);
 }

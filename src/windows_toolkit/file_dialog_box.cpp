@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "windows_system/full_path.h"
 #include "windows_system/wide.h"
 
 namespace morpho {
@@ -14,8 +15,6 @@ namespace {
 // the newer interface: it takes them as they are, and shows the same dialog.
 static_assert(kOverwritePrompt == OFN_OVERWRITEPROMPT && kHideReadOnly == OFN_HIDEREADONLY &&
               kFileMustExist == OFN_FILEMUSTEXIST);
-
-constexpr std::size_t kMaxPath = 32768;
 
 // Descriptions and patterns, each ended by a zero, and one more at the end.
 std::wstring FilterOf(const std::string& filter) {
@@ -33,8 +32,8 @@ std::wstring FilterOf(const std::string& filter) {
 }  // namespace
 
 std::optional<std::string> RunFileDialog(HWND owner, const FileDialog& request) {
-    std::vector<wchar_t> path(kMaxPath);
-    lstrcpynW(path.data(), Wide(request.name).c_str(), static_cast<int>(kMaxPath));
+    std::vector<wchar_t> path(kMaxPathCharacters);
+    lstrcpynW(path.data(), Wide(request.name).c_str(), static_cast<int>(kMaxPathCharacters));
     const std::wstring title = Wide(request.title), filter = FilterOf(request.filter);
     const std::wstring folder = Wide(request.folder);
     const bool saves = request.mode == FileDialog::Mode::kSave;
