@@ -1,5 +1,6 @@
 #!/usr/bin/python3
-"""Builds with counters, runs every test, and prints which part of the lines and branches of src/ ran, by folder.
+"""Builds with counters, runs every test, works the program's windows, and prints which part of the lines and branches of
+src/ ran, by folder.
 
 usage: scripts/coverage.py [--files]      (--files: also the files below the aim of 99 % of lines or 92 % of branches)
 
@@ -14,6 +15,7 @@ import sys
 
 SOURCE = pathlib.Path(__file__).resolve().parent.parent
 BUILD = SOURCE / "build/coverage"
+WALKS = ["walk_window", "walk_image"]
 AIM = {"line": 99, "branch": 92}
 
 
@@ -36,6 +38,8 @@ def main():
     for counters in BUILD.rglob("*.gcda"):
         counters.unlink()
     failed = subprocess.run(["ctest", "--preset", "coverage"], cwd=SOURCE, stdout=sys.stderr).returncode
+    for walk in WALKS:
+        run(f"scripts/{walk}.sh", str(BUILD / walk), "coverage", stdout=sys.stderr)
     run("gcovr", "--root", ".", "--filter", "src/", "--exclude", "build/", "--exclude-throw-branches", "--exclude-unreachable-branches",
         "--json-summary", str(BUILD / "summary.json"), str(BUILD))
     files = json.loads((BUILD / "summary.json").read_text())["files"]

@@ -2,14 +2,14 @@
 # Works the program's window by keyboard alone, on a screen in memory: opens Theme Morpho through the Format menu,
 # recolours the sample web's theme, saves it as a new one, applies it and closes the editor. Leaves a picture of each
 # stage in OUT, to be looked at, and fails unless the web has the new theme and its home page uses it.
-# usage: scripts/walk_window.sh [OUT]      (default: out/window)
+# usage: scripts/walk_window.sh [OUT [PRESET]]      (default: out/window, release)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 out=${1:-out/window}
+preset=${2:-release}
 
 source scripts/walk_screen.sh
-build/release/bin/morpho "$work/larkfell" &
-sleep 5
+start 5 "$work/larkfell"
 
 picture 1-web
 press 2 alt+o t        # Format, Theme Morpho...
@@ -30,6 +30,7 @@ picture 6-saved
 press 1 Return         # "Theme saved."
 press 2 alt+c          # Close
 picture 7-page
+finish
 grep -q "_themes/orrery2/" "$work/larkfell/index.htm"
 cmp -s "$work/larkfell/_themes/orrery/orrbnra.gif" "$work/larkfell/_themes/orrery2/orrbnra.gif" && exit 1
 echo "The web has the theme orrery2 and its home page uses it. The pictures are in $out."
