@@ -2,11 +2,15 @@
 
 #include "desktop/editor_desktop.h"
 #include "desktop/image_command.h"
+#include "desktop/path_text.h"
+#include "desktop/request.h"
 #include "desktop/theme_command.h"
+#include "forms/form.h"
 #include "resources/embedded_resources.h"
 #include "windows_program/console.h"
 #include "windows_program/folder_choice.h"
 #include "windows_system/windows_clipboard.h"
+#include "windows_system/windows_file_system.h"
 #include "windows_toolkit/windows_toolkit.h"
 
 namespace morpho {
@@ -44,8 +48,20 @@ void WindowsScreen::ShowImage(const ImageRequest& request) {
     ShowImageWindow(request, here.editors);
 }
 
-void WindowsScreen::Draw(Form& /*form*/, const std::filesystem::path& /*picture*/) {
-    throw Refusal("--picture: windows cannot be drawn into a picture on Windows.");
+void WindowsScreen::Draw(Form& form, const std::filesystem::path& picture) {
+    WindowsToolkit toolkit;
+    std::string png;
+    toolkit.WhenFormStands([&](Form& standing) {
+        png = toolkit.PictureOf(standing);
+        standing.Hide();
+    });
+    form.ShowModalOn(toolkit);
+    if (png.empty()) throw Refusal("The window cannot be drawn: there is no screen.");
+    try {
+        WindowsFileSystem().WriteFile(system_.PathInside(system_.AbsolutePath(picture)), png);
+    } catch (const RunTimeError&) {
+        throw Refusal("The picture " + TextOf(picture) + " cannot be written.");
+    }
 }
 
 }  // namespace morpho

@@ -23,7 +23,7 @@ const wchar_t* FormClass(WNDPROC procedure) {
     form.lpfnWndProc = procedure;
     form.hInstance = ModuleOf(reinterpret_cast<const void*>(procedure));
     form.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    form.hIcon = LoadIconW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(1));
+    form.hIcon = LoadIconW(form.hInstance, MAKEINTRESOURCEW(1));
     form.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     form.lpszClassName = kFormClass;
     RegisterClassExW(&form);

@@ -1,40 +1,12 @@
 #include "windows_toolkit/shown_picture.h"
 
-#include <algorithm>
 #include <vector>
 
-// They need <windows.h> before them, and the last one the minimum and the maximum.
-#include <objbase.h>
-#include <shlwapi.h>
-namespace Gdiplus {
-using std::max;
-using std::min;
-}  // namespace Gdiplus
-#include <gdiplus.h>
+#include "windows_toolkit/gdi_plus.h"
 
 namespace morpho {
 
 namespace {
-
-// The library counts its users.
-class GdiPlus {
-  public:
-    GdiPlus() {
-        const Gdiplus::GdiplusStartupInput input;
-        started_ = Gdiplus::GdiplusStartup(&token_, &input, nullptr) == Gdiplus::Ok;
-    }
-    ~GdiPlus() {
-        if (started_) Gdiplus::GdiplusShutdown(token_);
-    }
-    GdiPlus(const GdiPlus&) = delete;
-    GdiPlus& operator=(const GdiPlus&) = delete;
-
-    bool Started() const { return started_; }
-
-  private:
-    ULONG_PTR token_ = 0;
-    bool started_ = false;
-};
 
 struct Releasing {
     void operator()(IStream* stream) const { stream->Release(); }

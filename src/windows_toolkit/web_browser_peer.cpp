@@ -62,6 +62,13 @@ void WebBrowserPeer::WriteOwn(Aspects changed) {
     }
 }
 
+bool WebBrowserPeer::IsLoading() const {
+    if (!control_ || browser_.Address().empty()) return false;
+    READYSTATE state = READYSTATE_UNINITIALIZED;
+    control_->get_ReadyState(&state);
+    return state != READYSTATE_COMPLETE;
+}
+
 void WebBrowserPeer::Navigate() {
     const Bstr address(PageAddress(browser_.Address()));
     VARIANT page{};
@@ -73,9 +80,7 @@ void WebBrowserPeer::Navigate() {
 
 // A page that still loads would be shown as it began to load.
 void WebBrowserPeer::Reload(bool completely) {
-    READYSTATE state = READYSTATE_UNINITIALIZED;
-    control_->get_ReadyState(&state);
-    if (state != READYSTATE_COMPLETE) return Navigate();
+    if (IsLoading()) return Navigate();
     VARIANT level = Number(completely ? REFRESH_COMPLETELY : REFRESH_NORMAL);
     control_->Refresh2(&level);
 }
@@ -100,6 +105,17 @@ void WebBrowserPeer::Fill() {
     RECT place;
     GetClientRect(Window(), &place);
     if (inPlace) inPlace->SetObjectRects(&place, &place);
+}
+
+bool IsPageLoading(HWND window) {
+    bool isLoading = false;
+    const auto look = [](HWND inner, LPARAM answer) -> BOOL {
+        const auto* const peer = dynamic_cast<WebBrowserPeer*>(PeerOf(inner));
+        if (peer != nullptr && peer->IsLoading()) *reinterpret_cast<bool*>(answer) = true;
+        return TRUE;
+    };
+    EnumChildWindows(window, look, reinterpret_cast<LPARAM>(&isLoading));
+    return isLoading;
 }
 
 bool TranslateForPage(MSG& message) {

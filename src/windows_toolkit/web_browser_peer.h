@@ -18,6 +18,8 @@ class WebBrowserPeer : public ControlPeer {
     // Null where there is none.
     const ComPointer<IWebBrowser2>& Browser() const { return control_; }
 
+    bool IsLoading() const;
+
     // Whether the page takes this key.
     bool TranslateKey(MSG& message);
 
@@ -37,5 +39,8 @@ class WebBrowserPeer : public ControlPeer {
 
 // Lets the page that has the focus, around this message's window, take a key.
 bool TranslateForPage(MSG& message);
+
+// Whether a page in this window is not yet shown as a whole.
+bool IsPageLoading(HWND window);
 
 }  // namespace morpho

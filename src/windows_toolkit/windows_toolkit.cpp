@@ -4,11 +4,15 @@
 #include <ole2.h>
 
 #include <algorithm>
+#include <chrono>
+#include <thread>
 
 #include "windows_system/wide.h"
 #include "windows_toolkit/dpi.h"
 #include "windows_toolkit/file_dialog_box.h"
 #include "windows_toolkit/form_window.h"
+#include "windows_toolkit/web_browser_peer.h"
+#include "windows_toolkit/window_picture.h"
 
 // Needs the other ones before it.
 #include <commctrl.h>
@@ -24,6 +28,10 @@ static_assert(kYesNoCancel == MB_YESNOCANCEL && kYesNo == MB_YESNO &&
 static_assert(static_cast<int>(Answer::kOk) == IDOK &&
               static_cast<int>(Answer::kCancel) == IDCANCEL &&
               static_cast<int>(Answer::kYes) == IDYES && static_cast<int>(Answer::kNo) == IDNO);
+
+// How long a picture of a window waits for the pages in it, and between two looks at them.
+constexpr auto kPatience = std::chrono::seconds(5);
+constexpr auto kPause = std::chrono::milliseconds(20);
 
 Answer AnswerWithoutBox(int flags) {
     switch (ButtonsOf(flags)) {
@@ -109,6 +117,19 @@ void WindowsToolkit::SetCapture(CapturedWindow window) {
 
 void WindowsToolkit::HandleWaiting() {
     if (!windows_.empty()) windows_.back()->HandleWaiting();
+}
+
+std::string WindowsToolkit::PictureOf(const Form& form) {
+    FormWindow* const window = Find(&form);
+    if (window == nullptr || window->Window() == nullptr) return {};
+    const auto giveUp = std::chrono::steady_clock::now() + kPatience;
+    do {
+        window->HandleWaiting();
+        std::this_thread::sleep_for(kPause);
+    } while (IsPageLoading(window->Window()) && std::chrono::steady_clock::now() < giveUp);
+    window->HandleWaiting();
+    UpdateWindow(window->Window());
+    return PictureOfWindow(window->Window());
 }
 
 HWND WindowsToolkit::WindowOf(const Form& form) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <vector>
 
 #include "forms/toolkit.h"
@@ -35,6 +36,9 @@ class WindowsToolkit : public Toolkit {
     // Handles the messages that wait, as the innermost form does while it is shown: such a script
     // calls it after what it did.
     void HandleWaiting();
+    // What is in the window of a form that is shown, as a PNG; pages that still load are waited
+    // for. Empty when there is no such window, or no screen.
+    std::string PictureOf(const Form& form);
     // The window of a form that is shown; null when it is not.
     HWND WindowOf(const Form& form) const;
 

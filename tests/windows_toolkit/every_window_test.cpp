@@ -67,6 +67,7 @@ class EveryWindow : public testing::Test {
     EveryWindow() {
         toolkit_.WhenFormStands([this](Form& form) {
             ExpectInPlace(toolkit_.WindowOf(form), form, shown_);
+            EXPECT_TRUE(toolkit_.PictureOf(form).starts_with("\x89PNG\r\n")) << form.Name();
             Stand(toolkit_, form);
             form.Hide();
         });
