@@ -1,13 +1,15 @@
 #!/usr/bin/env bash
 # Opens every window and dialog of the editors in Wine, at 96 and at 192 pixels an inch, and takes a picture of each:
-# FOLDER/96-frmThemeMorpho.png and so on. Uses a Wine prefix and a screen of its own. Needs the preset windows-x64 built.
-# usage: scripts/look_windows.sh FOLDER [TEST_PROGRAM]
+# FOLDER/96/frmThemeMorpho.png and so on; FOLDER/96/theme.png is Theme Morpho with a theme. Uses a Wine prefix and a screen
+# of its own. Needs the preset windows-x64 built.
+# usage: scripts/look_windows.sh FOLDER
 set -euo pipefail
 cd "$(dirname "$0")/.."
-[ $# -ge 1 ] || { echo "usage: scripts/look_windows.sh FOLDER [TEST_PROGRAM]" >&2; exit 2; }
+[ $# -ge 1 ] || { echo "usage: scripts/look_windows.sh FOLDER" >&2; exit 2; }
 mkdir -p "$1"
 pictures=$1
-program=${2:-build/windows-x64/bin/test_windows_toolkit.exe}
+program=build/windows-x64/bin/test_windows_toolkit.exe
+morpho=build/windows-x64/bin/morpho.exe
 
 prefix=$(mktemp -d)
 exec {number}< <(exec Xvfb -displayfd 1 -screen 0 2200x1600x24 2>/dev/null)
@@ -24,11 +26,10 @@ in_wine wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/nu
 for dpi in 96 192; do
     in_wine wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d $dpi /f >/dev/null
     in_wine wineserver -k -w || true
-    MORPHO_LOOK=1500 in_wine timeout 120 wine "$program" --gtest_filter='EveryWindow.*' | tr -d '\r' |
-        while read -r word name; do
-            [ "$word" = look ] || continue
-            sleep 0.8
-            DISPLAY=":$display" import -window root -trim +repage "$pictures/$dpi-$name.png"
-        done
+    mkdir -p "$pictures/$dpi"
+    MORPHO_LOOK="Z:$(realpath "$pictures/$dpi" | tr / '\\')" in_wine timeout 120 wine "$program" --gtest_brief=1 \
+        --gtest_filter='EveryWindow.*'
+    in_wine timeout 120 wine "$morpho" recolor samples/larkfell --theme orrery --select active --hue 40 --apply --hue 20 \
+        --picture "$pictures/$dpi/theme.png" --export "$prefix/exported$dpi"
 done
-ls "$pictures"
+ls "$pictures"/*

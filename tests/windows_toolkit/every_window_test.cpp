@@ -1,5 +1,5 @@
-#include <cstdio>
 #include <cstdlib>
+#include <fstream>
 
 #include "about/frm_about.h"
 #include "about/frm_quick_reference.h"
@@ -25,18 +25,14 @@ class SilentToolkit : public WindowsToolkit {
     }
 };
 
-// For scripts/look_windows.sh: each window stands until the environment's MORPHO_LOOK, in
-// milliseconds, is over, and says its name before.
-void Stand(WindowsToolkit& toolkit, const Form& form) {
-    const char* const look = std::getenv("MORPHO_LOOK");
-    if (look == nullptr) return;
-    std::printf("look %s\n", form.Name().c_str());
-    std::fflush(stdout);
-    const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(std::atoi(look));
-    while (GetTickCount64() < end) {
-        toolkit.HandleWaiting();
-        Sleep(5);
-    }
+// For scripts/look_windows.sh: a picture of each window goes to the folder in the environment's
+// MORPHO_LOOK.
+void ExpectPicture(WindowsToolkit& toolkit, const Form& form) {
+    const std::string png = toolkit.PictureOf(form);
+    EXPECT_TRUE(png.starts_with("\x89PNG\r\n")) << form.Name();
+    const char* const folder = std::getenv("MORPHO_LOOK");
+    if (folder != nullptr)
+        std::ofstream(folder + ("\\" + form.Name()) + ".png", std::ios::binary) << png;
 }
 
 // Each control has a window, shown as the model says, and a container has room for it.
@@ -67,8 +63,7 @@ class EveryWindow : public testing::Test {
     EveryWindow() {
         toolkit_.WhenFormStands([this](Form& form) {
             ExpectInPlace(toolkit_.WindowOf(form), form, shown_);
-            EXPECT_TRUE(toolkit_.PictureOf(form).starts_with("\x89PNG\r\n")) << form.Name();
-            Stand(toolkit_, form);
+            ExpectPicture(toolkit_, form);
             form.Hide();
         });
     }
