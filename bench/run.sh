@@ -10,7 +10,7 @@ export CLAIMS
 trap 'rm -f "$CLAIMS"' EXIT
 
 for measurement in "colorizer.sh $rounds" "pictures.sh 100 $rounds" "save.sh $rounds" "web_pages.sh 2000 $rounds" \
-    web_window.sh editors.sh "large_inputs.sh 3" css_agreement.sh; do
+    web_window.sh editors.sh "history.sh 10 30 90" "large_inputs.sh 3" css_agreement.sh; do
     echo "== $measurement" >&2
     # shellcheck disable=SC2086
     bench/$measurement >&2
