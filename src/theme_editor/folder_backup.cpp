@@ -25,11 +25,9 @@ FolderBackup::~FolderBackup() {
 
 void FolderBackup::CopyFiles() {
     if (FolderExists(files_, copies_)) files_.DeleteFolder(copies_);
-    files_.CreateFolder(copies_);
-    for (const FileEntry& entry : files_.List(folder_)) {
-        if (entry.IsFolder()) continue;
-        files_.Copy(folder_ + '\\' + entry.name, copies_ + '\\' + entry.name);
-        names_.push_back(entry.name);
+    files_.CopyFolder(folder_, copies_);
+    for (const FileEntry& entry : files_.List(copies_)) {
+        if (!entry.IsFolder()) names_.push_back(entry.name);
     }
 }
 

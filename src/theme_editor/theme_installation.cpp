@@ -67,8 +67,9 @@ void ThemeInstallation::Install(const InstalledTheme& source, const std::string&
 
 bool IsHalfInstalled(const FileSystem& files, const std::string& themesFolder,
                      const std::string& name) {
-    return files.Find(TemporaryInf(themesFolder, name)) &&
-           !files.Find(Installed(themesFolder, name).Inf());
+    // In this order, because a folder of many themes is searched long for what is not there.
+    return !files.Find(Installed(themesFolder, name).Inf()) &&
+           files.Find(TemporaryInf(themesFolder, name));
 }
 
 }  // namespace morpho

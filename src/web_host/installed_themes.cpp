@@ -27,13 +27,9 @@ void InstalledThemes::RemoveOthers() {
 
 std::unique_ptr<Folder> InstalledThemes::Entered(const std::string& name) {
     names_.insert(name);
-    for (const FolderEntry& entry : folder_->Entries()) {
-        if (entry.name == name && entry.kind == EntryKind::kFolder) return folder_->Open(name);
-    }
     try {
         return folder_->Create(name);
     } catch (const RunTimeError& error) {
-        // Another program that opens the web at this moment has made it.
         if (error.Number() != ErrorNumber::kFileExists) throw;
         return folder_->Open(name);
     }
