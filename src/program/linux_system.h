@@ -4,6 +4,7 @@
 #include "formats/windows_1252_code_page.h"
 #include "linux/desktop_shell.h"
 #include "linux/linux_disk.h"
+#include "linux/replace_work_file.h"
 #include "linux/system_clock.h"
 
 namespace morpho {
@@ -30,8 +31,11 @@ class LinuxSystem : public DesktopSystem {
     Shell& GetShell() override { return shell_; }
     Clock& GetClock() override { return clock_; }
     Disk& GetDisk() override { return disk_; }
-    // The standard library does well enough.
-    colorizer::FileHooks PictureHooks() const override { return {}; }
+    // The library's file times do well enough. All that it writes are work files: the editors copy
+    // them to where they belong.
+    colorizer::FileHooks PictureHooks() const override {
+        return {.replace = ReplaceWorkFile, .version = {}};
+    }
     RunTimeError FileError(const std::error_code& code, const std::filesystem::path& path,
                            std::string_view failure) const override;
     bool IsErrorOutputWatched() const override;
