@@ -31,6 +31,8 @@ BatchWindow& TakeSteps(Batch& batch, const RecolorRequest& request) {
     BatchWindow& window = batch.OpenTheme(request.theme);
     for (const Step& step : request.steps)
         window.Take(step);
+    // A picture that could not be recoloured as a whole is not saved with half of the steps.
+    window.Window().Renderer().RestoreFailed();
     return window;
 }
 

@@ -27,6 +27,15 @@ bool ElementRenderer::RenderElement(int row) {
     }
 }
 
+void ElementRenderer::RestoreFailed() {
+    for (const auto& [row, reason] : failures_) {
+        const std::string& file = elements_.File(row);
+        const auto original = program_.platform.files.Find(originals_ + file);
+        if (!file.empty() && original && !original->IsFolder())
+            program_.platform.files.Copy(originals_ + file, work_ + file);
+    }
+}
+
 bool ElementRenderer::Rebuild(int row) {
     const std::string& file = elements_.File(row);
     const std::unique_ptr<Colorizer> colorizer = program_.platform.colorizers.Create();

@@ -31,6 +31,9 @@ class ElementRenderer {
 
     // What ended the last rebuilding of an element, by row; empty when none failed.
     const std::map<int, std::string>& Failures() const { return failures_; }
+    // Gives the elements whose rebuilding failed, maybe in the middle of their steps, their original
+    // pictures. Throws RunTimeError.
+    void RestoreFailed();
 
   private:
     static constexpr std::int16_t kAsk = -1;
