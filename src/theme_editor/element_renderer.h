@@ -31,8 +31,8 @@ class ElementRenderer {
 
     // What ended the last rebuilding of an element, by row; empty when none failed.
     const std::map<int, std::string>& Failures() const { return failures_; }
-    // Gives the elements whose rebuilding failed, maybe in the middle of their steps, their original
-    // pictures. Throws RunTimeError.
+    // Gives the elements whose rebuilding failed, maybe in the middle of their steps, their
+    // original pictures. Throws RunTimeError.
     void RestoreFailed();
 
   private:
