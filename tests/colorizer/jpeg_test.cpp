@@ -153,6 +153,7 @@ TEST(Jpeg, OfAnotherKindIsRefused) {
     ExpectRefused(MakeJpeg({.isArithmetic = true}), "arithmetic");
     ExpectRefused(WithByte(jpeg, frame + 1, 0xC3), "Lossless");
     ExpectRefused(WithByte(jpeg, frame + 4, 12), "12 bits");
+    ExpectRefused(WithByte(jpeg, frame + 9, 1), "damaged");  // components for three are there
     ExpectRefused(FromText("BM is another format"), "neither");
     ExpectRefused({}, "neither");
 }
