@@ -15,6 +15,13 @@ VARIANT Number(long value) {
     return variant;
 }
 
+// For EnumChildWindows: `answer` is a bool that becomes true.
+BOOL CALLBACK TellIfLoading(HWND window, LPARAM answer) {
+    const auto* const peer = dynamic_cast<WebBrowserPeer*>(PeerOf(window));
+    if (peer != nullptr && peer->IsLoading()) *reinterpret_cast<bool*>(answer) = true;
+    return TRUE;
+}
+
 }  // namespace
 
 WebBrowserPeer::WebBrowserPeer(WebBrowser& browser, HWND parent, const PeerContext& context)
@@ -109,12 +116,7 @@ void WebBrowserPeer::Fill() {
 
 bool IsPageLoading(HWND window) {
     bool isLoading = false;
-    const auto look = [](HWND inner, LPARAM answer) -> BOOL {
-        const auto* const peer = dynamic_cast<WebBrowserPeer*>(PeerOf(inner));
-        if (peer != nullptr && peer->IsLoading()) *reinterpret_cast<bool*>(answer) = true;
-        return TRUE;
-    };
-    EnumChildWindows(window, look, reinterpret_cast<LPARAM>(&isLoading));
+    EnumChildWindows(window, TellIfLoading, reinterpret_cast<LPARAM>(&isLoading));
     return isLoading;
 }
 
