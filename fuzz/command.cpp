@@ -79,7 +79,8 @@ int Run(int count, const char* const* arguments, const std::filesystem::path& fo
 }  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static Dropped dropped;
+    // Never deleted: the streams are flushed at the program's very end.
+    static Dropped& dropped = *new Dropped;
     std::cout.rdbuf(&dropped);
     std::cerr.rdbuf(&dropped);
     static CommandPlace place;
