@@ -45,7 +45,7 @@ def main():
         counters.unlink()
     failed = subprocess.run(["ctest", "--preset", "coverage"], cwd=SOURCE, stdout=sys.stderr).returncode
     for walk in WALKS:
-        run(f"scripts/{walk}.sh", str(BUILD / walk), "coverage", stdout=sys.stderr)
+        failed |= subprocess.run([f"scripts/{walk}.sh", str(BUILD / walk), "coverage"], cwd=SOURCE, stdout=sys.stderr).returncode
     run("gcovr", "--root", ".", "--filter", "src/", "--exclude", "build/", "--exclude-throw-branches", "--exclude-unreachable-branches",
         "--json-summary", str(BUILD / "summary.json"), str(BUILD))
     files = json.loads((BUILD / "summary.json").read_text())["files"]

@@ -95,7 +95,7 @@ def check_other_save(home, is_one_change, told, before, good, what):
 
 
 def inject(task):
-    name, number, fault, is_over, before, good = task
+    name, number, fault, is_over, takes_other, before, good = task
     home, words = inject.home, SESSIONS[name]
     home.breaches = 0
     home.start_afresh()
@@ -113,7 +113,7 @@ def inject(task):
     if is_over and fault == "KILL":
         # Nothing is left to tell the next start of this save.
         home.expect_state(good, *what)
-    if is_theme and (is_over or leaves_theme or number % 2 == 0):
+    if is_theme and (is_over or leaves_theme or takes_other):
         is_one_change = not leaves_theme and (status != 0 or not errors.strip())
         check_other_save(home, is_one_change, errors, before, good, what)
     elif status != 0 and (is_theme or name == "image-save-as"):
@@ -136,8 +136,10 @@ def tasks(home, options):
         print(f"{name}: {calls} calls", flush=True)
         numbers = sorted({*range(1, calls + 1, options.every), removal, calls})
         for turn, number in enumerate(numbers):
-            yield name, number, "KILL", number > removal, before, good
-            yield name, number, ERRORS[turn % len(ERRORS)], number > removal, before, good
+            # The next start is another save half of the time, with each of the errors.
+            takes_other = turn // len(ERRORS) % 2 == 1
+            for fault in ("KILL", ERRORS[turn % len(ERRORS)]):
+                yield name, number, fault, number > removal, takes_other, before, good
 
 
 def main():

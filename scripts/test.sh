@@ -6,7 +6,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 if [ "${1:-}" = --fuzz ]; then exec scripts/fuzz.sh "${@:2}"; fi
-if [ "${1:-}" = --coverage ]; then exec scripts/coverage.py; fi
+if [ "${1:-}" = --coverage ]; then exec scripts/coverage.py "${@:2}"; fi
 preset=${1:-debug}
 
 scripts/install_packages.sh

@@ -4,10 +4,7 @@
 # OUT, to be looked at, and fails unless exactly that picture of the web is another one.
 # usage: scripts/walk_image.sh [OUT [PRESET]]      (default: out/image, release)
 set -euo pipefail
-cd "$(dirname "$0")/.."
-out=${1:-out/image}
-preset=${2:-release}
-source scripts/walk_screen.sh
+source "$(dirname "$0")/walk_screen.sh"
 start 6 "$work/larkfell"
 
 picture 1-web

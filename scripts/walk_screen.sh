@@ -1,5 +1,10 @@
-# Sourced by the scripts that work the program's windows by keyboard on a screen in memory: builds the program with the
-# preset $preset, copies the sample web to $work/larkfell, and starts the screen. Pictures go to the folder $out.
+# Sourced by the scripts walk_NAME.sh, which work the program's windows by keyboard on a screen in memory and take OUT and
+# PRESET as arguments: builds the program, copies the sample web to $work/larkfell, and starts the screen. Pictures go to
+# the folder $out.
+cd "$(dirname "$0")/.."
+walk=$(basename "$0" .sh)
+out=${1:-out/${walk#walk_}}
+preset=${2:-release}
 scripts/install_packages.sh scripts/packages_window.txt
 cmake --preset "$preset" >/dev/null
 cmake --build --preset "$preset" --target morpho

@@ -4,10 +4,7 @@
 # one page has another theme and nothing else of the web has changed.
 # usage: scripts/walk_web.sh [OUT [PRESET]]      (default: out/web, release)
 set -euo pipefail
-cd "$(dirname "$0")/.."
-out=${1:-out/web}
-preset=${2:-release}
-source scripts/walk_screen.sh
+source "$(dirname "$0")/walk_screen.sh"
 
 start 6 "$work/larkfell"
 press 1 End Return                        # the last page of the tree opens

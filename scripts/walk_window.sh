@@ -4,11 +4,7 @@
 # stage in OUT, to be looked at, and fails unless the web has the new theme and its home page uses it.
 # usage: scripts/walk_window.sh [OUT [PRESET]]      (default: out/window, release)
 set -euo pipefail
-cd "$(dirname "$0")/.."
-out=${1:-out/window}
-preset=${2:-release}
-
-source scripts/walk_screen.sh
+source "$(dirname "$0")/walk_screen.sh"
 start 5 "$work/larkfell"
 
 picture 1-web

@@ -12,7 +12,7 @@ namespace morpho {
 
 namespace {
 
-std::string Warnings(const frmThemeMorpho& window) {
+std::string Warnings(frmThemeMorpho& window) {
     // Elements that share a picture share its failure.
     std::set<std::string> told;
     std::string warnings;

@@ -31,7 +31,7 @@ void ElementRenderer::RestoreFailed() {
     for (const auto& [row, reason] : failures_) {
         const std::string& file = elements_.File(row);
         const auto original = program_.platform.files.Find(originals_ + file);
-        if (!file.empty() && original && !original->IsFolder())
+        if (original && !original->IsFolder())
             program_.platform.files.Copy(originals_ + file, work_ + file);
     }
 }

@@ -161,7 +161,6 @@ class frmThemeMorpho : public EditorWindow {
     // What a batch reads after it has worked the controls.
     const ElementList& Elements() const { return elements_; }
     const EditHistory& History() const { return history_; }
-    const ElementRenderer& Renderer() const { return renderer_; }
     ElementRenderer& Renderer() { return renderer_; }
     bool IsRecoloured(int row) const { return colorization_.IsRecoloured(row); }
     // The work copy of the loaded theme, without a trailing "\".

@@ -41,11 +41,16 @@ std::size_t RootLength(std::wstring_view path) {
     return server == path.npos ? 0 : std::min(path.find(L'\\', server + 1), path.size());
 }
 
+std::wstring WithBackslashes(std::string_view path) {
+    std::wstring wide = Wide(path);
+    std::replace(wide.begin(), wide.end(), L'/', L'\\');
+    return wide;
+}
+
 }  // namespace
 
 std::wstring FullPath(std::string_view path) {
-    std::wstring wide = Wide(path);
-    std::replace(wide.begin(), wide.end(), L'/', L'\\');
+    const std::wstring wide = WithBackslashes(path);
     const std::size_t root = RootLength(wide);
     if (root == 0 || wide.find(L'\0') != wide.npos)
         throw SystemError(ErrorNumber::kPathNotFound, path, "cannot be reached",
@@ -85,9 +90,7 @@ std::wstring PathWithoutLinks(const std::wstring& fullPath, std::error_code& err
 }
 
 bool IsAbsolutePath(std::string_view path) {
-    std::wstring wide = Wide(path);
-    std::replace(wide.begin(), wide.end(), L'/', L'\\');
-    return RootLength(wide) != 0;
+    return RootLength(WithBackslashes(path)) != 0;
 }
 
 std::string ShownPath(std::wstring_view fullPath) {

@@ -6,6 +6,7 @@ namespace morpho {
 
 namespace {
 
+// Which of the browser's abilities pages get, by the system's own names.
 constexpr DWORD kPagesMay = DLCTL_DLIMAGES | DLCTL_NO_SCRIPTS | DLCTL_NO_JAVA |
                             DLCTL_NO_RUNACTIVEXCTLS | DLCTL_NO_DLACTIVEXCTLS | DLCTL_NO_BEHAVIORS |
                             DLCTL_NO_CLIENTPULL | DLCTL_FORCEOFFLINE | DLCTL_SILENT;

@@ -2,24 +2,21 @@
 
 #include <vector>
 
+#include "windows_com/com_pointer.h"
 #include "windows_toolkit/gdi_plus.h"
 
 namespace morpho {
 
 namespace {
 
-struct Releasing {
-    void operator()(IStream* stream) const { stream->Release(); }
-};
-
 class GdiPlusPicture : public ShownPicture {
   public:
     explicit GdiPlusPicture(std::string_view encoded) {
         if (!gdiPlus_.Started()) return;
-        stream_.reset(SHCreateMemStream(reinterpret_cast<const BYTE*>(encoded.data()),
-                                        static_cast<UINT>(encoded.size())));
-        if (stream_ == nullptr) return;
-        source_.reset(Gdiplus::Bitmap::FromStream(stream_.get()));
+        stream_ = ComPointer<IStream>::Adopt(SHCreateMemStream(
+            reinterpret_cast<const BYTE*>(encoded.data()), static_cast<UINT>(encoded.size())));
+        if (!stream_) return;
+        source_.reset(Gdiplus::Bitmap::FromStream(stream_.Get()));
         if (source_ == nullptr || source_->GetLastStatus() != Gdiplus::Ok) return;
         durations_ = FrameDurations();
         DecodeFrame();
@@ -118,7 +115,7 @@ class GdiPlusPicture : public ShownPicture {
     }
 
     GdiPlus gdiPlus_;
-    std::unique_ptr<IStream, Releasing> stream_;  // the source reads it frame by frame
+    ComPointer<IStream> stream_;  // the source reads it frame by frame
     std::unique_ptr<Gdiplus::Bitmap> source_;
     std::vector<UINT> durations_;
     std::size_t at_ = 0;

@@ -22,8 +22,9 @@ struct DeletingBitmap {
 };
 using BitmapPointer = std::unique_ptr<std::remove_pointer_t<HBITMAP>, DeletingBitmap>;
 
-// The window's own pixels, with those of the windows in it, whatever stands over it. (PrintWindow
-// asks each window to draw itself, which not all do.)
+// The window's own pixels, with those of the windows in it. With desktop composition, which Windows
+// 8 and later always have, what stands over it does not show. (PrintWindow asks each window to draw
+// itself, which not all do.)
 BitmapPointer PixelsOf(HWND window, HDC screen) {
     RECT inner{};
     GetClientRect(window, &inner);

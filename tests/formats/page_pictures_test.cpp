@@ -8,8 +8,8 @@ namespace {
 TEST(PagePictures, AreTheImgTagsOfTheBody) {
     for (const auto& [page, expected] :
          std::initializer_list<std::pair<std::string, std::vector<std::string>>>{
-             {"<IMG SRC=a.gif><img alt='>' src = ' b&amp;\n\t&#252;.gif '/><img src>",
-              {"a.gif", "b&ü.gif", ""}},
+             {"<IMG SRC=a.gif><img alt='>' src = ' b&amp;\n\t&#252;&#xFC;&#XFc;.gif '/><img src>",
+              {"a.gif", "b&üüü.gif", ""}},
              {"<!-- <img src=a> --><script>'<img src=b>'</script><style><img src=c></style>"
               "<textarea><img src=d></textarea><noscript><image src=\"e\"></noscript>",
               {"e"}},

@@ -55,7 +55,8 @@ TEST_F(SavePackage, RefusesNumbersThatLie) {
     for (const char* count : {"", "-1", "two", "2x", "99999999999999999999"})
         ExpectRefused("head\n" + std::string(count) + members, "how many");
     ExpectRefused("head\n32768" + members, "more than 32767");
-    for (const std::string& bytes : {"head\n3" + members, std::string("head"), std::string()})
+    for (const std::string& bytes :
+         {"head\n3" + members, "head\n32767" + members, std::string("head"), std::string()})
         ExpectRefused(bytes, "ends within its index");
 }
 
