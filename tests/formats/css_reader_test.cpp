@@ -72,6 +72,7 @@ TEST(CssReader, DropsBrokenPartsOnly) {
 TEST(CssReader, ResolvesEscapesInPropertyNames) {
     ExpectRules("a{\\62 ullet-1:b}", "a{bullet-1|b;}");
     ExpectRules("a{b\\000075\r\nllet:b;b\\:c:d}", "a{bullet|b;b:c|d;}");
+    ExpectRules("a{b\\g\n:c}", "a{bg|c;}");
     ExpectRules("a{\\0 x:d}", "a{\xEF\xBF\xBDx|d;}");
 }
 

@@ -140,6 +140,12 @@ TEST(PageTheme, EveryOtherByteStays) {
     const std::string newMarked = "\xEF\xBB\xBF" + kNewMark + "ü";
     ExpectPage(marked, newMarked);
     ExpectPage(Utf16FromUtf8(marked), Utf16FromUtf8(newMarked));
+    const auto bigEndian = [](std::string bytes) {
+        for (std::size_t at = 0; at < bytes.size(); at += 2)
+            std::swap(bytes[at], bytes[at + 1]);
+        return bytes;
+    };
+    ExpectPage(bigEndian(Utf16FromUtf8(marked)), bigEndian(Utf16FromUtf8(newMarked)));
     EXPECT_THROW(Rethemed(Utf16FromUtf8(marked) + std::string("\x00\xD8", 2)), RunTimeError);
 }
 

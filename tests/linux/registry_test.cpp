@@ -98,6 +98,7 @@ TEST(RegText, WritesWhatRegeditImports) {
     ExpectWritten(RegType::kExpandString, "%a", "hex(2):25,00,61,00");
     ExpectWritten(RegType::kDword, std::string("\x0a\0\0\1", 4), "dword:0100000a");
     ExpectWritten(RegType::kDword, "ab", "hex(4):61,62");
+    ExpectWritten(RegType{0x12}, "ab", "hex(00000012):61,62");
     ExpectWritten(RegType::kBinary, "\xff", "hex:ff");
     ExpectWritten(RegType::kMultiString, std::string("a\0", 2), "hex(7):61,00,00,00");
 }
